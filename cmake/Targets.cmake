@@ -1,0 +1,31 @@
+# What every target of the house shares: the warnings, the sanitizers and the way headers are found.
+
+add_library(tolmark_options INTERFACE)
+target_compile_definitions(tolmark_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
+                                                      QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+target_compile_options(tolmark_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor
+                                                 $<$<BOOL:${TOLMARK_WARNINGS_AS_ERRORS}>:-Werror>)
+if(TOLMARK_SANITIZE)
+    target_compile_options(tolmark_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
+                                                     -fno-omit-frame-pointer)
+    target_link_options(tolmark_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# tolmark_library(NAME LINKS target... SOURCES file...): one room of the house.
+# Headers are included by their path under src/, so that an arrow between rooms shows in every #include.
+function(tolmark_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 room "" "" "LINKS;SOURCES")
+    add_library(${name} STATIC ${room_SOURCES})
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    target_link_libraries(${name} PUBLIC ${room_LINKS} PRIVATE tolmark_options)
+endfunction()
+
+# tolmark_test(NAME LINKS target... SOURCES file...): one Qt Test program, run by ctest without a display.
+function(tolmark_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 test "" "" "LINKS;SOURCES")
+    add_executable(${name} ${test_SOURCES})
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_link_libraries(${name} PRIVATE ${test_LINKS} Qt6::Test tolmark_options)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TZ=UTC;LC_ALL=C.UTF-8")
+endfunction()

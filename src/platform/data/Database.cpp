@@ -1,0 +1,233 @@
+#include "platform/data/Database.h"
+
+#include "platform/data/Collation.h"
+#include "platform/data/ProviderError.h"
+
+#include <QFileInfo>
+
+#include <sqlite3.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace data {
+
+namespace {
+
+constexpr int busyTimeout = 2000; // milliseconds; another tool may hold the file for a moment
+
+struct NumberedText
+{
+    int number;
+    QString text;
+};
+
+QString cannotOpen(const QString &path)
+{
+    return u"The Microsoft Jet database engine cannot open the file '%1'.  It is already opened exclusively by another "
+           u"user, or you need permission to view its data."_s.arg(path);
+}
+
+// The provider's answer to a result code of SQLite, as a statement that changes rows meets it.
+NumberedText providerAnswer(int extendedCode, const QString &message, const QString &path)
+{
+    switch (extendedCode) {
+    case SQLITE_CONSTRAINT_UNIQUE:
+    case SQLITE_CONSTRAINT_PRIMARYKEY:
+    case SQLITE_CONSTRAINT_ROWID:
+        return {Unspecified, u"The changes you requested to the table were not successful because they would create "
+                             u"duplicate values in the index, primary key, or relationship.  Change the data in the "
+                             u"field or fields that contain duplicate data, remove the index, or redefine the index to "
+                             u"permit duplicate entries and try again."_s};
+    case SQLITE_CONSTRAINT_NOTNULL:
+        return {Unspecified, u"The field '%1' cannot contain a Null value because the Required property for this field "
+                             u"is set to True.  Enter a value in this field."_s.arg(message.section(u": "_s, 1))};
+    default:
+        break;
+    }
+    switch (extendedCode & 0xff) {
+    case SQLITE_NOTADB:
+    case SQLITE_CORRUPT:
+        return {Unspecified, u"Unrecognized database format '%1'."_s.arg(path)};
+    case SQLITE_CANTOPEN:
+    case SQLITE_PERM:
+    case SQLITE_AUTH:
+        return {Unspecified, cannotOpen(path)};
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return {Unspecified, u"Could not use '%1'; file already in use."_s.arg(path)};
+    case SQLITE_READONLY:
+        return {Unspecified, u"Operation must use an updateable query."_s};
+    case SQLITE_FULL:
+        return {61, runtime::errorText(61)};
+    case SQLITE_NOMEM:
+        return {runtime::OutOfMemory, runtime::errorText(runtime::OutOfMemory)};
+    default:
+        return {Unspecified, message};
+    }
+}
+
+int compareForSqlite(void *, int lengthA, const void *a, int lengthB, const void *b)
+{
+    return compareTexts({static_cast<const char *>(a), lengthA}, {static_cast<const char *>(b), lengthB});
+}
+
+// SQLite asks for a collation when a statement first names it, so that opening a file does not pay for it.
+void provideCollation(void *, sqlite3 *handle, int, const char *name)
+{
+    if (qstricmp(name, "STORE") == 0)
+        sqlite3_create_collation_v2(handle, name, SQLITE_UTF8, nullptr, compareForSqlite, nullptr);
+}
+
+QByteArrayView textOf(sqlite3_value *value)
+{
+    const auto *bytes = reinterpret_cast<const char *>(sqlite3_value_text(value));
+    return {bytes, sqlite3_value_bytes(value)};
+}
+
+void likeForSqlite(sqlite3_context *context, int, sqlite3_value **arguments)
+{
+    if (sqlite3_value_type(arguments[0]) == SQLITE_NULL || sqlite3_value_type(arguments[1]) == SQLITE_NULL)
+        return sqlite3_result_null(context);
+    sqlite3_result_int(context, matchesLike(textOf(arguments[0]), textOf(arguments[1])) ? 1 : 0);
+}
+
+class Blob
+{
+public:
+    ~Blob() { sqlite3_blob_close(handle); }
+    sqlite3_blob *handle = nullptr;
+};
+
+} // namespace
+
+StoreError::StoreError(int extendedCode, const QString &message, const QString &path)
+    : RuntimeError(providerAnswer(extendedCode, message, path).number, providerAnswer(extendedCode, message, path).text,
+                   u"Microsoft JET Database Engine"_s),
+      m_extendedCode(extendedCode)
+{
+}
+
+void Database::Close::operator()(sqlite3 *handle) const noexcept
+{
+    sqlite3_close_v2(handle);
+}
+
+void Database::fail(int code) const
+{
+    sqlite3 *handle = m_handle.get();
+    const int extended = handle && sqlite3_errcode(handle) != SQLITE_OK ? sqlite3_extended_errcode(handle) : code;
+    throw StoreError(extended, QString::fromUtf8(handle ? sqlite3_errmsg(handle) : sqlite3_errstr(code)), m_path);
+}
+
+void Database::check(int code) const
+{
+    if (code != SQLITE_OK)
+        fail(code);
+}
+
+void Database::openWith(const QString &path, int flags)
+{
+    sqlite3 *handle = nullptr;
+    const int code = sqlite3_open_v2(path.toUtf8().constData(), &handle, flags, nullptr);
+    m_handle.reset(handle); // also of a failed open
+    m_path = path;
+    m_hasLike = false;
+    check(code);
+    sqlite3_extended_result_codes(handle, 1);
+    sqlite3_busy_timeout(handle, busyTimeout);
+    sqlite3_collation_needed(handle, nullptr, provideCollation);
+    // A name in double quotes is a name: a misspelt column must not turn into a text.
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+}
+
+void Database::open(const QString &path)
+{
+    m_handle.reset();
+    m_path = path;
+    const QFileInfo file(path);
+    if (!file.exists()) {
+        if (!QFileInfo::exists(file.path()))
+            throw providerError(Unspecified, u"'%1' is not a valid path.  Make sure that the path name is spelled "
+                                             u"correctly and that you are connected to the server on which the file "
+                                             u"resides."_s.arg(path));
+        throw providerError(Unspecified, u"Could not find file '%1'."_s.arg(path));
+    }
+    if (file.isDir())
+        throw providerError(Unspecified, cannotOpen(path));
+    if (file.size() == 0) // SQLite would take it for a new data file
+        throw StoreError(SQLITE_NOTADB, {}, path);
+    try {
+        openWith(path, SQLITE_OPEN_READWRITE);
+        // Asking for any column reads the schema, which the first statement needs in any case.
+        const int code = sqlite3_table_column_metadata(m_handle.get(), "main", "sqlite_master", "name", nullptr,
+                                                       nullptr, nullptr, nullptr, nullptr);
+        check(code);
+    } catch (const StoreError &) {
+        m_handle.reset();
+        throw;
+    }
+}
+
+void Database::create(const QString &path)
+{
+    m_path = path;
+    if (QFileInfo::exists(path) || QFileInfo(path).isSymLink())
+        throw providerError(-2147217897, u"Database already exists."_s);
+    openWith(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_EXCLUSIVE);
+}
+
+void Database::execute(const QByteArray &sql)
+{
+    check(sqlite3_exec(m_handle.get(), sql.constData(), nullptr, nullptr, nullptr));
+}
+
+Statement Database::prepare(QByteArrayView sql) const
+{
+    sqlite3_stmt *statement = nullptr;
+    check(sqlite3_prepare_v2(m_handle.get(), sql.data(), int(sql.size()), &statement, nullptr));
+    return Statement(statement, m_path);
+}
+
+qint64 Database::lastInsertRowId() const
+{
+    return sqlite3_last_insert_rowid(m_handle.get());
+}
+
+std::optional<QByteArray> Database::declaredType(const QByteArray &table, const QByteArray &column) const
+{
+    const char *declared = nullptr;
+    const int code = sqlite3_table_column_metadata(m_handle.get(), "main", table.constData(), column.constData(),
+                                                   &declared, nullptr, nullptr, nullptr, nullptr);
+    return code == SQLITE_OK ? std::optional(QByteArray(declared)) : std::nullopt;
+}
+
+bool Database::hasTable(const QByteArray &table) const
+{
+    return sqlite3_table_column_metadata(m_handle.get(), "main", table.constData(), nullptr, nullptr, nullptr, nullptr,
+                                         nullptr, nullptr) == SQLITE_OK;
+}
+
+QByteArray Database::readBlob(const QByteArray &table, const QByteArray &column, qint64 rowId) const
+{
+    Blob blob;
+    const int code =
+        sqlite3_blob_open(m_handle.get(), "main", table.constData(), column.constData(), rowId, 0, &blob.handle);
+    if (code == SQLITE_ERROR) // Null and numbers have no bytes to open
+        return {};
+    check(code);
+    QByteArray bytes(sqlite3_blob_bytes(blob.handle), Qt::Uninitialized);
+    check(sqlite3_blob_read(blob.handle, bytes.data(), int(bytes.size()), 0));
+    return bytes;
+}
+
+void Database::provideLike()
+{
+    if (m_hasLike)
+        return;
+    check(sqlite3_create_function_v2(m_handle.get(), "store_like", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
+                                     likeForSqlite, nullptr, nullptr, nullptr));
+    m_hasLike = true;
+}
+
+} // namespace data

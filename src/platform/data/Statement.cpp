@@ -1,0 +1,145 @@
+#include "platform/data/Statement.h"
+
+#include "platform/data/Database.h"
+
+#include <sqlite3.h>
+#include <utility>
+
+namespace data {
+
+namespace {
+
+QByteArrayView viewOf(const char *text)
+{
+    return text ? QByteArrayView(text) : QByteArrayView();
+}
+
+} // namespace
+
+void Statement::Finalize::operator()(sqlite3_stmt *statement) const noexcept
+{
+    sqlite3_finalize(statement);
+}
+
+Statement::Statement(sqlite3_stmt *statement, QString path)
+    : m_statement(statement), m_columnCount(sqlite3_column_count(statement)), m_path(std::move(path))
+{
+}
+
+void Statement::check(int code) const
+{
+    if (code != SQLITE_OK && code != SQLITE_ROW && code != SQLITE_DONE) {
+        sqlite3 *handle = sqlite3_db_handle(m_statement.get());
+        throw StoreError(sqlite3_extended_errcode(handle), QString::fromUtf8(sqlite3_errmsg(handle)), m_path);
+    }
+}
+
+void Statement::bind(int parameter, qint64 number)
+{
+    check(sqlite3_bind_int64(m_statement.get(), parameter, number));
+}
+
+void Statement::bindText(int parameter, QByteArrayView utf8)
+{
+    check(sqlite3_bind_text64(m_statement.get(), parameter, utf8.data(), sqlite3_uint64(utf8.size()), SQLITE_TRANSIENT,
+                              SQLITE_UTF8));
+}
+
+void Statement::bind(int parameter, const runtime::Value &value)
+{
+    using Type = runtime::Value::Type;
+    switch (value.type()) {
+    case Type::Null:
+        check(sqlite3_bind_null(m_statement.get(), parameter));
+        break;
+    case Type::Boolean:
+        bind(parameter, qint64(value.get<bool>() ? -1 : 0));
+        break;
+    case Type::Integer:
+        bind(parameter, qint64(value.get<qint16>()));
+        break;
+    case Type::Long:
+        bind(parameter, qint64(value.get<qint32>()));
+        break;
+    case Type::Double:
+        check(sqlite3_bind_double(m_statement.get(), parameter, value.get<double>()));
+        break;
+    case Type::Currency:
+        bindText(parameter, value.get<runtime::Currency>().toPlainText().toLatin1());
+        break;
+    case Type::Date:
+        bindText(parameter, value.get<runtime::Date>().toIsoText().toLatin1());
+        break;
+    case Type::Text:
+        bindText(parameter, value.get<QString>().toUtf8());
+        break;
+    case Type::Binary: {
+        const QByteArray &bytes = value.get<QByteArray>();
+        // An empty array has no address, which SQLite would take for Null.
+        check(sqlite3_bind_blob64(m_statement.get(), parameter, bytes.isEmpty() ? "" : bytes.constData(),
+                                  sqlite3_uint64(bytes.size()), SQLITE_STATIC));
+        break;
+    }
+    }
+}
+
+bool Statement::step()
+{
+    const int code = sqlite3_step(m_statement.get());
+    check(code);
+    return code == SQLITE_ROW;
+}
+
+void Statement::reset()
+{
+    sqlite3_reset(m_statement.get());
+}
+
+QByteArrayView Statement::columnName(int column) const
+{
+    return viewOf(sqlite3_column_name(m_statement.get(), column));
+}
+
+QByteArrayView Statement::declaredType(int column) const
+{
+    return viewOf(sqlite3_column_decltype(m_statement.get(), column));
+}
+
+QByteArrayView Statement::originTable(int column) const
+{
+    return viewOf(sqlite3_column_table_name(m_statement.get(), column));
+}
+
+QByteArrayView Statement::originColumn(int column) const
+{
+    return viewOf(sqlite3_column_origin_name(m_statement.get(), column));
+}
+
+Statement::Storage Statement::storage(int column) const
+{
+    return Storage(sqlite3_column_type(m_statement.get(), column));
+}
+
+qint64 Statement::integer(int column) const
+{
+    return sqlite3_column_int64(m_statement.get(), column);
+}
+
+double Statement::real(int column) const
+{
+    return sqlite3_column_double(m_statement.get(), column);
+}
+
+QByteArrayView Statement::text(int column) const
+{
+    const auto *bytes = reinterpret_cast<const char *>(sqlite3_column_text(m_statement.get(), column));
+    return {bytes, sqlite3_column_bytes(m_statement.get(), column)};
+}
+
+QByteArrayView Statement::blob(int column) const
+{
+    const auto *bytes = static_cast<const char *>(sqlite3_column_blob(m_statement.get(), column));
+    return {bytes, sqlite3_column_bytes(m_statement.get(), column)};
+}
+
+} // namespace data

@@ -1,0 +1,63 @@
+// One prepared statement of SQLite: binds parameters (numbered from 1), steps through rows, reads columns (from 0).
+//
+// Move-only. What text() and blob() return stays valid until the next step; texts are UTF-8.
+#pragma once
+
+#include "platform/runtime/Value.h"
+
+#include <QByteArrayView>
+#include <QString>
+
+#include <memory>
+
+struct sqlite3_stmt;
+
+namespace data {
+
+class Statement
+{
+public:
+    Statement() = default;
+    explicit Statement(sqlite3_stmt *statement, QString path);
+    Statement(Statement &&) noexcept = default;
+    Statement &operator=(Statement &&) noexcept = default;
+    ~Statement() = default;
+
+    bool isPrepared() const { return m_statement != nullptr; }
+    void finalize() { m_statement.reset(); }
+
+    // The value in the form in which the store keeps it. Bytes are not copied: the value must outlive the step.
+    void bind(int parameter, const runtime::Value &value);
+    void bind(int parameter, qint64 number);
+    void bindText(int parameter, QByteArrayView utf8);
+    // Fails with a StoreError. True while there is a row.
+    bool step();
+    void reset();
+
+    int columnCount() const { return m_columnCount; }
+    QByteArrayView columnName(int column) const;
+    // Of a column that is taken as it stands from a table; empty for an expression.
+    QByteArrayView declaredType(int column) const;
+    QByteArrayView originTable(int column) const;
+    QByteArrayView originColumn(int column) const;
+
+    enum class Storage { Integer = 1, Real = 2, Text = 3, Blob = 4, Null = 5 };
+    Storage storage(int column) const;
+    qint64 integer(int column) const;
+    double real(int column) const;
+    QByteArrayView text(int column) const;
+    QByteArrayView blob(int column) const;
+
+private:
+    struct Finalize
+    {
+        void operator()(sqlite3_stmt *statement) const noexcept;
+    };
+    void check(int code) const;
+
+    std::unique_ptr<sqlite3_stmt, Finalize> m_statement;
+    int m_columnCount = 0;
+    QString m_path;
+};
+
+} // namespace data

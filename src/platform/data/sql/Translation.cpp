@@ -1,0 +1,1 @@
+#include "platform/data/sql/Translation.h"

@@ -1,0 +1,73 @@
+// One statement of the store's SQL dialect, turned into SQLite's SQL.
+//
+// The dialect is read whole into a tree and written anew; what is not understood raises the dialect's own error, never
+// a half-translated statement. Whether tables and columns exist is not known here: the data room asks the open file.
+#pragma once
+
+#include "platform/runtime/Value.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+namespace sql {
+
+enum class StatementKind { Select, Insert, Update, Delete };
+
+struct ColumnReference
+{
+    QString table; // the table itself, not its alias; empty when the statement leaves it open
+    QString column;
+};
+
+// A result column that is computed from one other column by Max or Min and so has that column's type.
+struct ComputedColumn
+{
+    QString name;
+    ColumnReference source;
+};
+
+// What INSERT or UPDATE stores into a column. The n-th assignment stands in the SQL as the parameter ?n, so that the
+// data room can convert the literal to the column's type before it is bound.
+struct Assignment
+{
+    QString column;
+    runtime::Value literal;
+};
+
+// A column compared with a literal; the data room refuses unlike types (a number column with a text and the reverse).
+struct Comparison
+{
+    ColumnReference column;
+    bool withText = false;
+};
+
+struct Translation
+{
+    StatementKind kind = StatementKind::Select;
+    QByteArray sql; // SQLite's SQL, UTF-8
+
+    // The one table that a SELECT reads, or that the statement changes; empty for a SELECT of several tables.
+    QString table;
+    // A SELECT whose rows are rows of `table`: the last result column is the row's _rowid_ and no part of the result.
+    bool carriesRowId = false;
+    // Where in `sql` the list of the SELECT stands, in bytes.
+    qsizetype listBegin = 0;
+    qsizetype listLength = 0;
+
+    std::vector<ComputedColumn> computed;
+    std::vector<Assignment> assignments;
+    std::vector<Comparison> comparisons;
+    // The SQL calls store_like(PATTERN, VALUE), which the connection has to provide.
+    bool callsLike = false;
+};
+
+// Raises the dialect's error for a text that is no statement of it.
+Translation translate(const QString &text);
+
+// The same, kept by the statement's text for the life of the process.
+std::shared_ptr<const Translation> cachedTranslation(const QString &text);
+
+} // namespace sql

@@ -1,0 +1,62 @@
+#include "platform/runtime/Date.h"
+
+#include "platform/runtime/RuntimeError.h"
+
+#include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace runtime {
+
+Date::Date(QDate day, QTime time)
+{
+    if (!day.isValid() || !time.isValid())
+        throw RuntimeError(TypeMismatch);
+    if (day.year() < 100 || day.year() > 9999)
+        throw RuntimeError(Overflow);
+    m_seconds = (day.toJulianDay() - dayZero) * secondsPerDay + time.msecsSinceStartOfDay() / 1000;
+}
+
+Date Date::fromSerial(double serial)
+{
+    if (!(serial > -657'435.0 && serial < 2'958'466.0))
+        throw RuntimeError(Overflow);
+    const double day = std::trunc(serial);
+    qint64 second = std::llround(std::abs(serial - day) * double(secondsPerDay));
+    Date date;
+    date.m_seconds = qint64(day) * secondsPerDay + second;
+    return date;
+}
+
+std::optional<Date> Date::fromIsoText(QStringView text)
+{
+    const QDate day = QDate::fromString(text.first(qMin<qsizetype>(10, text.size())), Qt::ISODate);
+    if (!day.isValid() || day.year() < 100 || day.year() > 9999)
+        return std::nullopt;
+    if (text.size() == 10)
+        return Date(day);
+    if (text[10] != u' ' && text[10] != u'T')
+        return std::nullopt;
+    const QTime time = QTime::fromString(text.sliced(11), Qt::ISODate);
+    return time.isValid() ? std::optional(Date(day, time)) : std::nullopt;
+}
+
+QTime Date::time() const
+{
+    return QTime::fromMSecsSinceStartOfDay(int((rest() + secondsPerDay) % secondsPerDay) * 1000);
+}
+
+double Date::toSerial() const
+{
+    const qint64 second = (rest() + secondsPerDay) % secondsPerDay;
+    const double wholeDays = double((m_seconds - second) / secondsPerDay);
+    const double fraction = double(second) / double(secondsPerDay);
+    return wholeDays < 0 ? wholeDays - fraction : wholeDays + fraction;
+}
+
+QString Date::toIsoText() const
+{
+    return day().toString(Qt::ISODate) + u' ' + time().toString(u"HH:mm:ss"_s);
+}
+
+} // namespace runtime

@@ -1,0 +1,132 @@
+#include "platform/runtime/NumberText.h"
+
+#include "platform/runtime/Regional.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace runtime {
+
+namespace {
+
+// "&H1F" and "&O17": a value of up to 16 bits is a signed 16-bit number, a longer one a signed 32-bit number.
+std::optional<QString> plainRadixNumber(QStringView text)
+{
+    if (text.size() < 3 || text[0] != u'&')
+        return std::nullopt;
+    const QChar mark = text[1].toUpper();
+    const int base = mark == u'H' ? 16 : mark == u'O' ? 8 : 0;
+    if (base == 0 || !text[2].isLetterOrNumber())
+        return std::nullopt;
+    bool ok = false;
+    const quint32 bits = text.sliced(2).toUInt(&ok, base);
+    if (!ok)
+        return std::nullopt;
+    return QString::number(bits <= 0xffff ? qint32(qint16(bits)) : qint32(bits));
+}
+
+// Takes off what may stand round the digits: sign, currency sign and brackets, each at most once.
+struct Trimmings
+{
+    QStringView rest;
+    bool negative = false;
+    bool valid = true;
+};
+
+Trimmings trimmed(QStringView text, const QString &currencySign)
+{
+    Trimmings out{text.trimmed()};
+    bool sign = false;
+    bool currency = false;
+    if (out.rest.size() > 2 && out.rest.front() == u'(' && out.rest.back() == u')') {
+        out.negative = sign = true;
+        out.rest = out.rest.sliced(1, out.rest.size() - 2).trimmed();
+    }
+    for (bool again = true; again && !out.rest.isEmpty();) {
+        again = true;
+        const auto signAt = [&](QChar c) { return c == u'-' || c == u'+'; };
+        if (!sign && signAt(out.rest.front())) {
+            out.negative = out.rest.front() == u'-';
+            out.rest = out.rest.sliced(1).trimmed();
+            sign = true;
+        } else if (!sign && signAt(out.rest.back())) {
+            out.negative = out.rest.back() == u'-';
+            out.rest = out.rest.chopped(1).trimmed();
+            sign = true;
+        } else if (!currency && out.rest.startsWith(currencySign)) {
+            out.rest = out.rest.sliced(currencySign.size()).trimmed();
+            currency = true;
+        } else if (!currency && out.rest.endsWith(currencySign)) {
+            out.rest = out.rest.chopped(currencySign.size()).trimmed();
+            currency = true;
+        } else {
+            again = false;
+        }
+    }
+    out.valid = !out.rest.isEmpty();
+    return out;
+}
+
+std::optional<QString> plainDigits(QStringView text, const QString &decimalSign, const QString &groupSign)
+{
+    QString plain;
+    qsizetype at = 0;
+    int digits = 0;
+    bool pointSeen = false;
+    while (at < text.size()) {
+        const QStringView rest = text.sliced(at);
+        if (rest.front() >= u'0' && rest.front() <= u'9') {
+            plain += rest.front();
+            ++digits;
+            ++at;
+        } else if (!pointSeen && rest.startsWith(decimalSign)) {
+            pointSeen = true;
+            plain += u'.';
+            at += decimalSign.size();
+        } else if (!pointSeen && digits > 0 && !groupSign.isEmpty() && rest.startsWith(groupSign)) {
+            at += groupSign.size();
+        } else {
+            break;
+        }
+    }
+    if (digits == 0)
+        return std::nullopt;
+    if (at < text.size()) {
+        const QChar mark = text[at].toUpper();
+        bool ok = false;
+        const int exponent = mark == u'E' || mark == u'D' ? text.sliced(at + 1).toInt(&ok) : 0;
+        if (!ok || text.sliced(at + 1).contains(u' '))
+            return std::nullopt;
+        plain += u'e' + QString::number(exponent);
+    }
+    return plain;
+}
+
+} // namespace
+
+std::optional<QString> plainNumber(QStringView text)
+{
+    if (const auto radix = plainRadixNumber(text.trimmed()))
+        return radix;
+    const QLocale locale = regional();
+    const Trimmings number = trimmed(text, locale.currencySymbol());
+    if (!number.valid)
+        return std::nullopt;
+    auto plain = plainDigits(number.rest, locale.decimalPoint(), locale.groupSeparator());
+    if (plain && number.negative)
+        plain->prepend(u'-');
+    return plain;
+}
+
+std::optional<double> parseDouble(QStringView text)
+{
+    const auto plain = plainNumber(text);
+    return plain ? std::optional(plain->toDouble()) : std::nullopt;
+}
+
+std::optional<Currency> parseCurrency(QStringView text)
+{
+    const auto plain = plainNumber(text);
+    return plain ? Currency::fromPlainText(*plain) : std::nullopt;
+}
+
+} // namespace runtime
