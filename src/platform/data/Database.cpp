@@ -107,6 +107,16 @@ StoreError::StoreError(int extendedCode, const QString &message, const QString &
 {
 }
 
+bool StoreError::isConstraint() const
+{
+    return (m_extendedCode & 0xff) == SQLITE_CONSTRAINT;
+}
+
+bool StoreError::isReadOnly() const
+{
+    return (m_extendedCode & 0xff) == SQLITE_READONLY;
+}
+
 void Database::Close::operator()(sqlite3 *handle) const noexcept
 {
     sqlite3_close_v2(handle);

@@ -22,6 +22,8 @@ class StoreError : public runtime::RuntimeError
 public:
     StoreError(int extendedCode, const QString &message, const QString &path);
     int extendedCode() const { return m_extendedCode; }
+    bool isConstraint() const;
+    bool isReadOnly() const;
 
 private:
     int m_extendedCode;

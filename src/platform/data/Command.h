@@ -1,0 +1,22 @@
+// Runs statements of the dialect over an open connection.
+#pragma once
+
+#include "platform/data/Connection.h"
+#include "platform/data/Recordset.h"
+
+namespace data {
+
+class Command
+{
+public:
+    Connection *ActiveConnection = nullptr;
+    QString CommandText;
+
+    // The rows of a SELECT; a closed recordset for a statement that changes rows. Error 3709 without an open
+    // connection.
+    Recordset Execute(int options = adOptionUnspecified);
+    // Ends only what runs asynchronously, and nothing does: without effect.
+    void Cancel() {}
+};
+
+} // namespace data

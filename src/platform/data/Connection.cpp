@@ -1,0 +1,45 @@
+#include "platform/data/Connection.h"
+
+#include "platform/data/ProviderError.h"
+#include "platform/runtime/Files.h"
+
+#include <QStringTokenizer>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace data {
+
+namespace {
+
+// The value of a keyword in "Keyword=value;Keyword=value;", empty when it is not there.
+QString connectionValue(const QString &connectionString, QStringView keyword)
+{
+    for (const QStringView setting : QStringTokenizer(connectionString, u';')) {
+        const qsizetype equals = setting.indexOf(u'=');
+        if (equals > 0 && setting.first(equals).trimmed().compare(keyword, Qt::CaseInsensitive) == 0)
+            return setting.sliced(equals + 1).trimmed().toString();
+    }
+    return {};
+}
+
+} // namespace
+
+void Connection::Open(const QString &connectionString, const QString &, const QString &, int)
+{
+    if (m_database)
+        throw objectError(ObjectOpen, "ADODB.Connection");
+    if (connectionValue(connectionString, u"Provider").isEmpty())
+        throw objectError(NoProvider, "ADODB.Connection");
+    auto database = std::make_shared<Database>();
+    database->open(runtime::nativePath(connectionValue(connectionString, u"Data Source")));
+    m_database = std::move(database);
+}
+
+void Connection::Close()
+{
+    if (!m_database)
+        throw objectError(ObjectClosed, "ADODB.Connection");
+    m_database.reset();
+}
+
+} // namespace data

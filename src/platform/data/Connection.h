@@ -1,0 +1,45 @@
+// A connection to the data file, named by a connection string.
+//
+// Closing it closes the recordsets that were opened over it; one that goes out of scope closes quietly. It holds no
+// statement and no lock between two calls, so many may stand open over one file. Errors of Open: 3706 without a
+// provider, 3705 when open already, the provider's own for a file that is missing or of another kind.
+#pragma once
+
+#include "platform/data/Constants.h"
+#include "platform/data/Database.h"
+
+#include <QString>
+
+#include <memory>
+
+namespace data {
+
+class Connection
+{
+public:
+    Connection() = default;
+    Connection(const Connection &) = delete;
+    Connection &operator=(const Connection &) = delete;
+    Connection(Connection &&) noexcept = default;
+    Connection &operator=(Connection &&) noexcept = default;
+    ~Connection() = default;
+
+    // "Provider=...;Data Source=FILE;". User, password and options are taken and have no bearing on a plain file.
+    void Open(const QString &connectionString, const QString &user = {}, const QString &password = {},
+              int options = adOptionUnspecified);
+    void Close();
+    // Ends only what runs asynchronously, and nothing does: without effect, on a closed connection too.
+    void Cancel() {}
+    ObjectStateEnum State() const { return m_database ? adStateOpen : adStateClosed; }
+
+    // May be set at any time; every recordset of this store is static whatever it says.
+    int CursorLocation = adUseServer;
+
+    // For the data objects opened over this connection; they see it expire when the connection closes.
+    const std::shared_ptr<Database> &database() const { return m_database; }
+
+private:
+    std::shared_ptr<Database> m_database;
+};
+
+} // namespace data

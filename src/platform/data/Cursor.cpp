@@ -1,0 +1,333 @@
+#include "platform/data/Cursor.h"
+
+#include "platform/data/ProviderError.h"
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace data {
+
+using runtime::Value;
+
+namespace {
+
+constexpr const char *errorSource = "ADODB.Recordset";
+
+// The provider's error of a statement as an Update of a recordset reports it.
+runtime::RuntimeError updateError(const StoreError &error)
+{
+    if (error.isReadOnly())
+        return providerError(Unspecified, u"Cannot update.  Database or object is read-only."_s);
+    if (error.isConstraint())
+        return providerError(MultipleStep, error.description());
+    return error;
+}
+
+Value refusedUnless(ColumnType type, const Value &value)
+{
+    try {
+        return convertedTo(type, value);
+    } catch (const runtime::RuntimeError &) {
+        throw providerError(MultipleStep, u"Multiple-step operation generated errors. Check each status value."_s);
+    }
+}
+
+} // namespace
+
+Cursor::Cursor(const std::shared_ptr<Database> &database, std::shared_ptr<const sql::Translation> translation,
+               LockTypeEnum lockType)
+    : m_database(database), m_source(database, std::move(translation)), m_lockType(lockType)
+{
+}
+
+void Cursor::load()
+{
+    if (m_rows)
+        return;
+    m_rows = m_source.readAll();
+    m_row = 0;
+}
+
+bool Cursor::isEof()
+{
+    if (m_editMode == adEditAdd || m_addedRowId)
+        return false;
+    load();
+    return m_row >= m_rows->rowCount();
+}
+
+qint32 Cursor::recordCount()
+{
+    return m_rows ? qint32(m_rows->rowCount()) - m_deletedCount : m_source.count();
+}
+
+Cursor::Place Cursor::current()
+{
+    if (m_addedRowId) {
+        if (!m_addedRow) {
+            m_addedRow.emplace(columnCount());
+            m_source.readRow(*m_addedRowId, *m_addedRow);
+        }
+        if (m_addedRow->rowCount() > 0)
+            return {&*m_addedRow, 0};
+        throw objectError(NoCurrentRecord, errorSource);
+    }
+    load();
+    const bool deleted = size_t(m_row) < m_deleted.size() && m_deleted[size_t(m_row)];
+    if (m_row >= m_rows->rowCount() || deleted)
+        throw objectError(NoCurrentRecord, errorSource);
+    return {&*m_rows, m_row};
+}
+
+qint64 Cursor::currentRowId()
+{
+    requireUpdatable();
+    if (m_addedRowId)
+        return *m_addedRowId;
+    const Place place = current();
+    return place.rows->rowId(place.row);
+}
+
+void Cursor::requireUpdatable() const
+{
+    if (!m_source.isUpdatable() || m_lockType == adLockReadOnly)
+        throw objectError(NotUpdatable, errorSource);
+}
+
+// A pending change is written before the record is left.
+void Cursor::finishPending()
+{
+    if (m_editMode != adEditNone)
+        update();
+    endSeries(-1);
+    m_binaryColumn = -1;
+    m_binary.clear();
+}
+
+void Cursor::moveFirst()
+{
+    finishPending();
+    load();
+    m_addedRowId.reset();
+    m_row = 0;
+    while (size_t(m_row) < m_deleted.size() && m_deleted[size_t(m_row)])
+        ++m_row;
+    if (m_row >= m_rows->rowCount())
+        throw objectError(NoCurrentRecord, errorSource);
+}
+
+void Cursor::moveNext()
+{
+    finishPending();
+    load();
+    if (m_addedRowId) { // the new row sits at the end
+        m_addedRowId.reset();
+        m_row = m_rows->rowCount();
+        return;
+    }
+    if (m_row >= m_rows->rowCount())
+        throw objectError(NoCurrentRecord, errorSource);
+    do {
+        ++m_row;
+    } while (size_t(m_row) < m_deleted.size() && m_deleted[size_t(m_row)]);
+}
+
+void Cursor::moveLast()
+{
+    finishPending();
+    load();
+    m_row = m_rows->rowCount() - 1;
+    while (m_row >= 0 && size_t(m_row) < m_deleted.size() && m_deleted[size_t(m_row)])
+        --m_row;
+    if (m_addedRowId) { // read in the statement's own order, the row may stand anywhere
+        for (qsizetype row = m_row; row >= 0; --row) {
+            if (m_rows->rowId(row) == *m_addedRowId) {
+                m_row = row;
+                break;
+            }
+        }
+        m_addedRowId.reset();
+    }
+    if (m_row < 0) {
+        m_row = 0;
+        throw objectError(NoCurrentRecord, errorSource);
+    }
+}
+
+void Cursor::addNew()
+{
+    requireUpdatable();
+    finishPending();
+    m_changes.assign(size_t(columnCount()), std::nullopt);
+    m_editMode = adEditAdd;
+}
+
+void Cursor::takeAdded(qint64 rowId)
+{
+    if (m_rows) {
+        m_source.readRow(rowId, *m_rows);
+        m_row = m_rows->rowCount() - 1;
+    } else {
+        m_addedRowId = rowId;
+        m_addedRow.reset();
+    }
+}
+
+void Cursor::update()
+{
+    if (m_editMode == adEditNone)
+        return;
+    try {
+        if (m_editMode == adEditAdd) {
+            const qint64 rowId = m_source.insertRow(m_changes);
+            m_editMode = adEditNone;
+            takeAdded(rowId);
+        } else {
+            const qint64 rowId = currentRowId();
+            m_source.updateRow(rowId, m_changes);
+            m_editMode = adEditNone;
+            if (m_addedRowId)
+                m_addedRow.reset();
+            else
+                m_source.readRow(rowId, *m_rows, m_row);
+        }
+    } catch (const StoreError &error) {
+        throw updateError(error);
+    }
+    m_changes.clear();
+    endSeries(-1);
+    m_binaryColumn = -1;
+    m_binary.clear();
+}
+
+void Cursor::cancelUpdate()
+{
+    m_editMode = adEditNone;
+    m_changes.clear();
+    endSeries(-1);
+}
+
+void Cursor::deleteRow()
+{
+    requireUpdatable();
+    cancelUpdate();
+    const qint64 rowId = currentRowId();
+    try {
+        m_source.deleteRow(rowId);
+    } catch (const StoreError &error) {
+        throw updateError(error);
+    }
+    load();
+    if (m_addedRowId) {
+        m_addedRowId.reset();
+        m_row = m_rows->rowCount();
+        return;
+    }
+    m_deleted.resize(size_t(m_rows->rowCount()));
+    m_deleted[size_t(m_row)] = true;
+    ++m_deletedCount;
+}
+
+Value Cursor::value(int column)
+{
+    if (m_editMode != adEditNone && m_changes[size_t(column)])
+        return *m_changes[size_t(column)];
+    if (m_editMode == adEditAdd)
+        return {};
+    const Place place = current();
+    const Column &known = m_source.columns()[size_t(column)];
+    if (!known.isLength)
+        return place.rows->value(place.row, column, known.type);
+    return place.rows->isNull(place.row, column) ? Value() : Value(binary(column));
+}
+
+void Cursor::setValue(int column, const Value &value)
+{
+    requireUpdatable();
+    Value converted = refusedUnless(m_source.columns()[size_t(column)].type, value);
+    if (m_editMode == adEditNone) {
+        current(); // there has to be a record to edit
+        m_changes.assign(size_t(columnCount()), std::nullopt);
+        m_editMode = adEditInProgress;
+    }
+    endSeries(column);
+    m_changes[size_t(column)] = std::move(converted);
+}
+
+qint64 Cursor::actualSize(int column)
+{
+    const Column &known = m_source.columns()[size_t(column)];
+    if (m_editMode == adEditNone && known.isLength) {
+        const Place place = current();
+        return place.rows->isNull(place.row, column) ? 0 : place.rows->integer(place.row, column);
+    }
+    const Value content = value(column);
+    if (content.is<QByteArray>())
+        return content.get<QByteArray>().size();
+    return content.is<QString>() ? content.get<QString>().size() * 2 : 0;
+}
+
+// The bytes of the current row's field, fetched once.
+const QByteArray &Cursor::binary(int column)
+{
+    if (m_binaryColumn != column) {
+        m_binary.clear();
+        m_binary = m_source.readBinary(currentRowId(), column);
+        m_binaryColumn = column;
+    }
+    return m_binary;
+}
+
+// Reading or writing another field ends a series of chunks.
+void Cursor::endSeries(int column)
+{
+    if (m_seriesColumn != column)
+        m_seriesColumn = -1;
+    m_seriesPosition = 0;
+}
+
+void Cursor::appendChunk(int column, const QByteArray &bytes)
+{
+    if (m_source.columns()[size_t(column)].type != ColumnType::Binary)
+        throw objectError(NotAllowedInContext, "ADODB.Field");
+    if (m_seriesColumn == column && m_editMode != adEditNone && m_changes[size_t(column)]) {
+        QByteArray whole = std::move(*m_changes[size_t(column)]).get<QByteArray>();
+        whole += bytes;
+        m_changes[size_t(column)] = Value(std::move(whole));
+        return;
+    }
+    setValue(column, Value(bytes));
+    m_seriesColumn = column;
+}
+
+Value Cursor::getChunk(int column, qint64 bytes)
+{
+    if (m_source.columns()[size_t(column)].type != ColumnType::Binary)
+        throw objectError(NotAllowedInContext, "ADODB.Field");
+    if (m_seriesColumn != column) {
+        m_seriesColumn = column;
+        m_seriesPosition = 0;
+    }
+    if (m_editMode == adEditNone) {
+        const Place place = current();
+        if (place.rows->isNull(place.row, column))
+            return {};
+    }
+    const bool pending = m_editMode != adEditNone;
+    const QByteArray whole = pending ? value(column).get<QByteArray>() : binary(column);
+    const qsizetype left = whole.size() - m_seriesPosition;
+    if (left <= 0)
+        return {};
+    const qsizetype taken = qsizetype(std::min<qint64>(left, bytes));
+    const QByteArray chunk = taken == whole.size() ? whole : whole.sliced(m_seriesPosition, taken);
+    m_seriesPosition += taken;
+    if (m_seriesPosition >= whole.size() && !pending) { // the caller has them all
+        m_binaryColumn = -1;
+        m_binary.clear();
+    }
+    return Value(chunk);
+}
+
+} // namespace data

@@ -1,0 +1,136 @@
+#include "platform/data/Recordset.h"
+
+#include "platform/data/Cursor.h"
+#include "platform/data/ProviderError.h"
+
+namespace data {
+
+Recordset::Recordset() = default;
+Recordset::Recordset(Recordset &&) noexcept = default;
+Recordset &Recordset::operator=(Recordset &&) noexcept = default;
+Recordset::~Recordset() = default;
+
+Cursor &Recordset::cursor()
+{
+    if (!m_cursor || !m_cursor->isConnected())
+        throw objectError(ObjectClosed, "ADODB.Recordset");
+    return *m_cursor;
+}
+
+void Recordset::Open(const QString &source, Connection &connection, CursorTypeEnum, LockTypeEnum lockType)
+{
+    if (State() == adStateOpen)
+        throw objectError(ObjectOpen, "ADODB.Recordset");
+    if (connection.State() == adStateClosed)
+        throw objectError(NoConnection, "ADODB.Recordset");
+    m_cursor.reset();
+    auto translation = sql::cachedTranslation(source);
+    if (translation->kind == sql::StatementKind::Select)
+        m_cursor = std::make_unique<Cursor>(connection.database(), std::move(translation), lockType);
+    else
+        runAction(*connection.database(), *translation);
+}
+
+void Recordset::Close()
+{
+    if (cursor().editMode() != adEditNone)
+        throw objectError(NotAllowedInContext, "ADODB.Recordset");
+    m_cursor.reset();
+}
+
+ObjectStateEnum Recordset::State() const
+{
+    return m_cursor && m_cursor->isConnected() ? adStateOpen : adStateClosed;
+}
+
+bool Recordset::Eof()
+{
+    return cursor().isEof();
+}
+
+qint32 Recordset::RecordCount()
+{
+    return cursor().recordCount();
+}
+
+void Recordset::MoveFirst()
+{
+    cursor().moveFirst();
+}
+
+void Recordset::MoveNext()
+{
+    cursor().moveNext();
+}
+
+void Recordset::MoveLast()
+{
+    cursor().moveLast();
+}
+
+void Recordset::AddNew()
+{
+    cursor().addNew();
+}
+
+void Recordset::Update()
+{
+    cursor().update();
+}
+
+void Recordset::CancelUpdate()
+{
+    cursor().cancelUpdate();
+}
+
+void Recordset::Delete()
+{
+    cursor().deleteRow();
+}
+
+Field Recordset::Fields(QStringView name)
+{
+    const int column = cursor().columnOf(name);
+    if (column < 0)
+        throw objectError(NoSuchItem, "ADODB.Fields");
+    return {m_cursor.get(), column};
+}
+
+Field Recordset::Fields(int ordinal)
+{
+    if (ordinal < 0 || ordinal >= cursor().columnCount())
+        throw objectError(NoSuchItem, "ADODB.Fields");
+    return {m_cursor.get(), ordinal};
+}
+
+QString Field::Name() const
+{
+    return m_cursor->columnName(m_column);
+}
+
+runtime::Value Field::Value() const
+{
+    return m_cursor->value(m_column);
+}
+
+void Field::setValue(const runtime::Value &value)
+{
+    m_cursor->setValue(m_column, value);
+}
+
+qint64 Field::ActualSize() const
+{
+    return m_cursor->actualSize(m_column);
+}
+
+void Field::AppendChunk(const QByteArray &bytes)
+{
+    m_cursor->appendChunk(m_column, bytes);
+}
+
+runtime::Value Field::GetChunk(qint64 bytes)
+{
+    return m_cursor->getChunk(m_column, bytes);
+}
+
+} // namespace data

@@ -1,0 +1,198 @@
+#include "platform/data/RowSource.h"
+
+#include "platform/data/ProviderError.h"
+#include "platform/data/StatementError.h"
+
+#include <utility>
+
+namespace data {
+
+namespace {
+
+QByteArray quoted(QByteArrayView name)
+{
+    return '"' + name.toByteArray().replace('"', "\"\"") + '"';
+}
+
+} // namespace
+
+RowSource::RowSource(std::weak_ptr<Database> database, std::shared_ptr<const sql::Translation> translation)
+    : m_database(std::move(database)), m_translation(std::move(translation))
+{
+    prepared();
+    checkComparisons(this->database(), *m_translation);
+}
+
+Database &RowSource::database() const
+{
+    const std::shared_ptr<Database> database = m_database.lock();
+    if (!database)
+        throw objectError(ObjectClosed, "ADODB.Recordset");
+    return *database; // the connection keeps it while the one thread is in here
+}
+
+Statement &RowSource::prepared()
+{
+    if (!m_statement.isPrepared())
+        m_statement = prepareChecked(database(), *m_translation, m_translation->sql);
+    return m_statement;
+}
+
+void RowSource::describeColumns()
+{
+    if (m_described)
+        return;
+    const Statement &statement = prepared();
+    const int count = statement.columnCount() - (m_translation->carriesRowId ? 1 : 0);
+    m_columns.resize(size_t(count));
+    for (int index = 0; index < count; ++index) {
+        Column &column = m_columns[size_t(index)];
+        column.name = QString::fromUtf8(statement.columnName(index));
+        column.origin = statement.originColumn(index).toByteArray();
+        column.type = columnTypeOfDeclaration(statement.declaredType(index));
+        for (const sql::ComputedColumn &computed : m_translation->computed) {
+            const QString &table = computed.source.table.isEmpty() ? m_translation->table : computed.source.table;
+            if (!column.origin.isEmpty() || computed.name.compare(column.name, Qt::CaseInsensitive) != 0)
+                continue;
+            if (const auto declared = database().declaredType(table.toUtf8(), computed.source.column.toUtf8()))
+                column.type = columnTypeOfDeclaration(*declared);
+        }
+        column.isLength = m_translation->carriesRowId && column.type == ColumnType::Binary && !column.origin.isEmpty();
+        m_hasBinary = m_hasBinary || column.isLength;
+    }
+    m_described = true;
+}
+
+const std::vector<Column> &RowSource::columns()
+{
+    describeColumns();
+    return m_columns;
+}
+
+int RowSource::columnOf(QStringView name)
+{
+    describeColumns();
+    const auto is = [this, name](int column) {
+        const QString &known = m_columns[size_t(column)].name;
+        return known == name || known.compare(name, Qt::CaseInsensitive) == 0;
+    };
+    const int count = int(m_columns.size());
+    for (int tried = 0; tried < count; ++tried) {
+        const int column = (m_nextGuess + tried) % count;
+        if (is(column)) {
+            m_nextGuess = (column + 1) % count;
+            return column;
+        }
+    }
+    return -1;
+}
+
+QByteArray RowSource::listOfOrigins(bool withBinaries)
+{
+    QByteArray list;
+    for (const Column &column : m_columns) {
+        const QByteArray name = quoted(column.origin);
+        list += column.isLength && !withBinaries ? "length(" + name + ")," : name + ',';
+    }
+    return list + "_rowid_";
+}
+
+QByteArray RowSource::readingSql()
+{
+    QByteArray sql = m_translation->sql;
+    return sql.replace(m_translation->listBegin, m_translation->listLength, listOfOrigins(false));
+}
+
+RowStore RowSource::readAll()
+{
+    describeColumns();
+    Statement statement =
+        m_hasBinary ? prepareChecked(database(), *m_translation, readingSql()) : std::exchange(prepared(), Statement());
+    m_statement.finalize();
+    RowStore rows(int(m_columns.size()));
+    while (statement.step())
+        rows.append(statement, m_translation->carriesRowId);
+    return rows;
+}
+
+qint32 RowSource::count()
+{
+    Statement statement =
+        prepareChecked(database(), *m_translation, "SELECT COUNT(*) FROM (" + m_translation->sql + ')');
+    statement.step();
+    return qint32(statement.integer(0));
+}
+
+bool RowSource::readRow(qint64 rowId, RowStore &rows, std::optional<qsizetype> inPlaceOf)
+{
+    describeColumns();
+    Statement statement = database().prepare("SELECT " + listOfOrigins(false) + " FROM " +
+                                             quoted(m_translation->table.toUtf8()) + " WHERE _rowid_=?1");
+    statement.bind(1, rowId);
+    if (!statement.step())
+        return false;
+    if (inPlaceOf)
+        rows.replace(*inPlaceOf, statement, true);
+    else
+        rows.append(statement, true);
+    return true;
+}
+
+QByteArray RowSource::readBinary(qint64 rowId, int column)
+{
+    return database().readBlob(m_translation->table.toUtf8(), m_columns[size_t(column)].origin, rowId);
+}
+
+qint64 RowSource::insertRow(const Changes &changes)
+{
+    QByteArray names;
+    QByteArray places;
+    for (size_t column = 0; column < changes.size(); ++column) {
+        if (!changes[column])
+            continue;
+        names += quoted(m_columns[column].origin) + ',';
+        places += '?' + QByteArray::number(qint64(column) + 1) + ',';
+    }
+    names.chop(1);
+    places.chop(1);
+    const QByteArray into = "INSERT INTO " + quoted(m_translation->table.toUtf8());
+    Statement statement = database().prepare(names.isEmpty() ? into + " DEFAULT VALUES"
+                                                             : into + " (" + names + ") VALUES (" + places + ')');
+    for (size_t column = 0; column < changes.size(); ++column) {
+        if (changes[column])
+            statement.bind(int(column) + 1, *changes[column]);
+    }
+    statement.step();
+    return database().lastInsertRowId();
+}
+
+void RowSource::updateRow(qint64 rowId, const Changes &changes)
+{
+    QByteArray settings;
+    for (size_t column = 0; column < changes.size(); ++column) {
+        if (changes[column])
+            settings += quoted(m_columns[column].origin) + "=?" + QByteArray::number(qint64(column) + 1) + ',';
+    }
+    if (settings.isEmpty())
+        return;
+    settings.chop(1);
+    const int last = int(changes.size()) + 1;
+    Statement statement = database().prepare("UPDATE " + quoted(m_translation->table.toUtf8()) + " SET " + settings +
+                                             " WHERE _rowid_=?" + QByteArray::number(last));
+    for (size_t column = 0; column < changes.size(); ++column) {
+        if (changes[column])
+            statement.bind(int(column) + 1, *changes[column]);
+    }
+    statement.bind(last, rowId);
+    statement.step();
+}
+
+void RowSource::deleteRow(qint64 rowId)
+{
+    Statement statement =
+        database().prepare("DELETE FROM " + quoted(m_translation->table.toUtf8()) + " WHERE _rowid_=?1");
+    statement.bind(1, rowId);
+    statement.step();
+}
+
+} // namespace data

@@ -1,0 +1,74 @@
+// A translated SELECT over an open file: what columns it has, how its rows are read, counted, changed and found again.
+//
+// The statement is prepared when the source is made, which checks its text, and run only when rows are asked for. The
+// content of a binary column is never part of a row: the row holds its length in bytes, and readBinary() fetches it.
+#pragma once
+
+#include "platform/data/ColumnType.h"
+#include "platform/data/Database.h"
+#include "platform/data/RowStore.h"
+#include "platform/data/sql/Translation.h"
+
+#include <QString>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace data {
+
+struct Column
+{
+    QString name;
+    ColumnType type = ColumnType::Unknown;
+    QByteArray origin;     // its name in the table; empty for an expression
+    bool isLength = false; // the row holds the length of the bytes in its place
+};
+
+class RowSource
+{
+public:
+    RowSource(std::weak_ptr<Database> database, std::shared_ptr<const sql::Translation> translation);
+
+    const std::vector<Column> &columns();
+    // The column of a name, without regard to case; -1 when there is none.
+    int columnOf(QStringView name);
+    // Rows can be added, changed and deleted: they are rows of one table.
+    bool isUpdatable() const { return m_translation->carriesRowId; }
+
+    // Runs the statement to its end; afterwards nothing of it stays open.
+    RowStore readAll();
+    // Counts the rows without reading them.
+    qint32 count();
+    // Reads the row of the table anew behind the rows of the store or in the place of one; false when it is gone.
+    bool readRow(qint64 rowId, RowStore &rows, std::optional<qsizetype> inPlaceOf = {});
+    QByteArray readBinary(qint64 rowId, int column);
+
+    // The values of the columns to write; those without one keep what they have, or take their default.
+    using Changes = std::vector<std::optional<runtime::Value>>;
+    // Returns the new row's identity.
+    qint64 insertRow(const Changes &changes);
+    void updateRow(qint64 rowId, const Changes &changes);
+    void deleteRow(qint64 rowId);
+
+private:
+    Database &database() const;
+    Statement &prepared();
+    void describeColumns();
+    // The statement with the length of each binary column in its place; the statement itself where it has none.
+    QByteArray readingSql();
+    QByteArray listOfOrigins(bool withBinaries);
+
+    std::weak_ptr<Database> m_database;
+    std::shared_ptr<const sql::Translation> m_translation;
+    Statement m_statement;
+    std::vector<Column> m_columns;
+    bool m_described = false;
+    bool m_hasBinary = false;
+    int m_nextGuess = 0; // handlers ask for the columns row by row in the same order
+};
+
+// Runs an INSERT, UPDATE or DELETE.
+void runAction(Database &database, const sql::Translation &translation);
+
+} // namespace data

@@ -1,0 +1,91 @@
+// The plain controls: Qt's widgets with their given names, and the events that Qt lacks.
+#pragma once
+
+#include "platform/desktop/Control.h"
+
+#include <QFrame>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabWidget>
+
+namespace desktop {
+
+// A caption. One that is clickable takes the focus too, so that the keyboard can click it by Space or Enter.
+class Label : public ControlOf<QLabel>
+{
+    Q_OBJECT
+public:
+    Label(QWidget *parent, QAnyStringView name, const QString &caption = {});
+    void setClickable();
+
+Q_SIGNALS:
+    void Click();
+
+protected:
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    bool m_clickable = false;
+};
+
+using TextBox = ControlOf<QLineEdit>;
+
+// Several lines with both scroll bars. Tab leaves the box, as it does everywhere in a window of many boxes.
+class MultilineTextBox : public ControlOf<QPlainTextEdit>
+{
+public:
+    MultilineTextBox(QWidget *parent, QAnyStringView name);
+    QString text() const { return toPlainText(); }
+    void setText(const QString &text) { setPlainText(text); }
+};
+
+class CommandButton : public ControlOf<QPushButton>
+{
+public:
+    CommandButton(QWidget *parent, QAnyStringView name, const QString &caption);
+};
+
+class Frame : public ControlOf<QGroupBox>
+{
+public:
+    Frame(QWidget *parent, QAnyStringView name, const QString &caption);
+};
+
+// The tabbed dialog.
+using TabbedDialog = ControlOf<QTabWidget>;
+
+// A list of texts of which one can be selected. Assigning a text selects the equal item, without regard to case; a text
+// that no item has leaves nothing selected.
+class ListBox : public ControlOf<QListWidget>
+{
+public:
+    ListBox(QWidget *parent, QAnyStringView name, const QStringList &items = {});
+    // The selected item's text, the empty text when none is selected.
+    QString Text() const;
+    void setText(const QString &text);
+    // Draws the list one line high; the arrow keys and the bar beside it move through the items.
+    void setOneLine();
+};
+
+// A bare area that reports the mouse.
+class PictureBox : public ControlOf<QFrame>
+{
+    Q_OBJECT
+public:
+    PictureBox(QWidget *parent, QAnyStringView name);
+
+Q_SIGNALS:
+    // button: the sum of the buttons held down; x and y in twips of this control.
+    void MouseMove(int button, float x, float y);
+
+protected:
+    void mouseMoveEvent(QMouseEvent *event) override;
+};
+
+} // namespace desktop

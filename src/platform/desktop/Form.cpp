@@ -1,0 +1,92 @@
+#include "platform/desktop/Form.h"
+
+#include "platform/desktop/MdiForm.h"
+#include "platform/desktop/Twips.h"
+
+#include <QCloseEvent>
+#include <QMdiSubWindow>
+
+namespace desktop {
+
+Form::Form(Place place, QAnyStringView className) : m_place(place)
+{
+    setObjectName(className.toString());
+}
+
+void Form::setCaption(const QString &caption)
+{
+    Load();
+    setWindowTitle(caption);
+}
+
+void Form::Load()
+{
+    if (m_state != State::Unloaded)
+        return;
+    m_state = State::Loading;
+    try {
+        Form_Load();
+    } catch (...) {
+        m_state = State::Unloaded;
+        throw;
+    }
+    if (m_state == State::Loading)
+        m_state = State::Loaded;
+}
+
+void Form::Show()
+{
+    Load();
+    if (m_state != State::Loaded) { // it closed itself while loading
+        if (!m_shared)
+            deleteLater();
+        return;
+    }
+    if (m_place == Place::InFrame && !m_shared)
+        setAttribute(Qt::WA_DeleteOnClose);
+    if (m_place == Place::InFrame && MdiForm::frame())
+        MdiForm::frame()->showChild(*this);
+    else
+        show();
+}
+
+void Form::Unload()
+{
+    if (isVisible()) {
+        outer()->close();
+    } else if (m_state != State::Unloaded) {
+        m_state = State::Unloaded;
+        Form_Unload();
+    }
+}
+
+QWidget *Form::outer() const
+{
+    if (auto *host = qobject_cast<QMdiSubWindow *>(parentWidget()))
+        return host;
+    return const_cast<Form *>(this);
+}
+
+double Form::Width() const
+{
+    return twips(outer()->frameGeometry().width());
+}
+
+double Form::Height() const
+{
+    return twips(outer()->frameGeometry().height());
+}
+
+void Form::setSize(double width, double height)
+{
+    outer()->resize(pixels(width), pixels(height));
+}
+
+void Form::closeEvent(QCloseEvent *event)
+{
+    m_state = State::Unloaded;
+    guarded([this] { Form_Unload(); });
+    QWidget::closeEvent(event);
+}
+
+} // namespace desktop

@@ -1,0 +1,73 @@
+// A window: a child inside the frame, or one that stands alone.
+//
+// Its load handler runs once, at the first touch that loads it: Show, or setting its caption. Public fields set before
+// are in place by then. A failure of the load handler goes to whoever touched the window. Closing a window deletes it,
+// unless it is shared; a shared one loads again at its next touch.
+#pragma once
+
+#include "platform/desktop/Control.h"
+#include "platform/desktop/ErrorReport.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace desktop {
+
+class Form : public QWidget
+{
+    Q_OBJECT
+public:
+    enum class Place { InFrame, Alone };
+    // The objectName is the class name.
+    Form(Place place, QAnyStringView className);
+
+    QString Tag;
+
+    QString Caption() const { return windowTitle(); }
+    void setCaption(const QString &caption);
+
+    void Load();
+    bool isLoaded() const { return m_state == State::Loaded; }
+    void Show();
+    void Hide() { hide(); }
+    // Closes the window, also before it has ever been shown.
+    void Unload();
+
+    // Twips, with the window's border and title bar.
+    double Width() const;
+    double Height() const;
+    void setSize(double width, double height);
+
+protected:
+    virtual void Form_Load() {}
+    virtual void Form_Unload() {}
+    // The caption that the design gives the window; it loads nothing.
+    void setDesignCaption(const QString &caption) { setWindowTitle(caption); }
+    void setShared() { m_shared = true; }
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    enum class State { Unloaded, Loading, Loaded };
+    QWidget *outer() const;
+
+    Place m_place;
+    State m_state = State::Unloaded;
+    bool m_shared = false;
+};
+
+// Makes a window, hands it what its opener sets, and shows it. A window whose load fails is gone again.
+template <class Window, class Prepare> Window *showNew(Prepare &&prepare)
+{
+    auto window = std::make_unique<Window>();
+    prepare(*window);
+    window->Show();
+    return window.release(); // from here on closing deletes it
+}
+
+template <class Window> Window *showNew()
+{
+    return showNew<Window>([](Window &) {});
+}
+
+} // namespace desktop

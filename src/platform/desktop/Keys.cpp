@@ -1,0 +1,35 @@
+#include "platform/desktop/Keys.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace desktop {
+
+int keyCode(const QKeyEvent &event)
+{
+    switch (event.key()) {
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        return vbKeyTab;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return vbKeyReturn;
+    case Qt::Key_Escape:
+        return vbKeyEscape;
+    case Qt::Key_Delete:
+        return vbKeyDelete;
+    case Qt::Key_F2:
+        return vbKeyF2;
+    default:
+        return 0;
+    }
+}
+
+int heldButtons(const QMouseEvent &event)
+{
+    const Qt::MouseButtons held = event.buttons();
+    return (held & Qt::LeftButton ? vbLeftButton : 0) | (held & Qt::RightButton ? vbRightButton : 0) |
+           (held & Qt::MiddleButton ? vbMiddleButton : 0);
+}
+
+} // namespace desktop

@@ -1,0 +1,18 @@
+// Key codes, shift states and mouse buttons as the handlers name them.
+#pragma once
+
+class QKeyEvent;
+class QMouseEvent;
+
+namespace desktop {
+
+enum KeyCode : int { vbKeyTab = 9, vbKeyReturn = 13, vbKeyEscape = 27, vbKeyDelete = 46, vbKeyF2 = 113 };
+
+enum MouseButton : int { vbLeftButton = 1, vbRightButton = 2, vbMiddleButton = 4 };
+
+// The code of the key, 0 for a key that no handler asks for.
+int keyCode(const QKeyEvent &event);
+// The sum of the buttons that are down (for a move) or of the one that changed.
+int heldButtons(const QMouseEvent &event);
+
+} // namespace desktop

@@ -1,0 +1,171 @@
+#include "platform/desktop/MdiForm.h"
+
+#include "platform/desktop/Form.h"
+#include "platform/desktop/Twips.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QSvgRenderer>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace desktop {
+
+namespace {
+
+MdiForm *&theFrame()
+{
+    static MdiForm *frame = nullptr;
+    return frame;
+}
+
+} // namespace
+
+// Draws the picture in the middle of what the child windows leave free.
+class MdiForm::Area : public QMdiArea
+{
+public:
+    using QMdiArea::QMdiArea;
+    QSvgRenderer picture;
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        QPainter painter(viewport());
+        painter.fillRect(event->rect(), palette().brush(QPalette::Window).color().darker(112));
+        if (!picture.isValid())
+            return;
+        QSizeF size = picture.defaultSize();
+        size.scale(viewport()->size() * 0.6, Qt::KeepAspectRatio);
+        QRectF place({}, size);
+        place.moveCenter(QRectF(viewport()->rect()).center());
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setOpacity(0.85);
+        picture.render(&painter, place);
+    }
+};
+
+MdiForm::MdiForm(QAnyStringView className) : m_area(new Area(this))
+{
+    setObjectName(className.toString());
+    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setCentralWidget(m_area);
+    theFrame() = this;
+}
+
+MdiForm::~MdiForm()
+{
+    theFrame() = nullptr;
+}
+
+QMdiArea &MdiForm::area()
+{
+    return *m_area;
+}
+
+MdiForm *MdiForm::frame()
+{
+    return theFrame();
+}
+
+void MdiForm::Show()
+{
+    if (!m_loaded) {
+        m_loaded = true;
+        Form_Load();
+    }
+    show();
+}
+
+QList<Control *> MdiForm::Controls()
+{
+    QList<Control *> controls;
+    for (QWidget *child : findChildren<QWidget *>()) {
+        const bool inChildWindow = m_area->isAncestorOf(child);
+        if (auto *control = dynamic_cast<Control *>(child); control && !inChildWindow)
+            controls << control;
+    }
+    return controls;
+}
+
+double MdiForm::Width() const
+{
+    return twips(frameGeometry().width());
+}
+
+double MdiForm::Height() const
+{
+    return twips(frameGeometry().height());
+}
+
+void MdiForm::showChild(Form &form)
+{
+    auto *host = qobject_cast<QMdiSubWindow *>(form.parentWidget());
+    if (!host) {
+        const QSize outer = form.size();
+        const bool fixed = form.testAttribute(Qt::WA_Resized);
+        host = m_area->addSubWindow(&form);
+        host->setAttribute(Qt::WA_DeleteOnClose, form.testAttribute(Qt::WA_DeleteOnClose));
+        if (fixed)
+            host->resize(outer);
+        else
+            host->adjustSize();
+    }
+    form.show();
+    host->show();
+    m_area->setActiveSubWindow(host);
+}
+
+void MdiForm::setBackground(const QString &file)
+{
+    m_area->picture.load(file);
+}
+
+void MdiForm::setWindowsMenu(QMenu *menu)
+{
+    connect(menu, &QMenu::aboutToShow, this, [this, menu] { listWindows(menu); });
+}
+
+void MdiForm::listWindows(QMenu *menu)
+{
+    menu->clear();
+    auto *group = new QActionGroup(menu);
+    const QList<QMdiSubWindow *> windows = m_area->subWindowList();
+    for (qsizetype at = 0; at < windows.size(); ++at) {
+        QMdiSubWindow *window = windows[at];
+        QString title = window->windowTitle();
+        QAction *action = menu->addAction(u"&%1 %2"_s.arg(QString::number(at + 1), title.replace(u"&"_s, u"&&"_s)));
+        action->setCheckable(true);
+        action->setChecked(window == m_area->activeSubWindow());
+        group->addAction(action);
+        connect(action, &QAction::triggered, window, [this, window] { m_area->setActiveSubWindow(window); });
+    }
+    if (windows.isEmpty())
+        menu->addAction(u"No window is open"_s)->setEnabled(false);
+}
+
+void MdiForm::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    guarded([this] { Form_Resize(); });
+}
+
+void MdiForm::closeEvent(QCloseEvent *event)
+{
+    m_area->closeAllSubWindows();
+    if (!m_area->subWindowList().isEmpty() && m_area->currentSubWindow()) {
+        event->ignore();
+        return;
+    }
+    guarded([this] { Form_Unload(); });
+    QMainWindow::closeEvent(event);
+}
+
+} // namespace desktop

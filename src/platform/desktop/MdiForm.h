@@ -1,0 +1,65 @@
+// The frame window: menus, bars and an area in which the child windows live. There is one at a time.
+#pragma once
+
+#include "platform/desktop/Control.h"
+#include "platform/desktop/ErrorReport.h"
+
+#include <QList>
+#include <QMainWindow>
+
+class QMdiArea;
+class QMenu;
+
+namespace desktop {
+
+class Form;
+
+class MdiForm : public QMainWindow
+{
+    Q_OBJECT
+public:
+    explicit MdiForm(QAnyStringView className);
+    ~MdiForm() override;
+
+    // The one frame that stands; null without one.
+    static MdiForm *frame();
+
+    QString Caption() const { return windowTitle(); }
+    void setCaption(const QString &caption) { setWindowTitle(caption); }
+
+    // Runs the load handler at the first call, then shows the frame.
+    void Show();
+    bool isLoaded() const { return m_loaded; }
+
+    // Every control of the frame, in the order of the design.
+    QList<Control *> Controls();
+    // Twips.
+    double Width() const;
+    double Height() const;
+
+    void showChild(Form &form);
+    QMdiArea &area();
+
+protected:
+    virtual void Form_Load() {}
+    // A resize that the window system reports.
+    virtual void Form_Resize() {}
+    virtual void Form_Unload() {}
+
+    // The picture behind the child windows.
+    void setBackground(const QString &file);
+    // Keeps the list of open child windows in the menu.
+    void setWindowsMenu(QMenu *menu);
+
+    void resizeEvent(QResizeEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void listWindows(QMenu *menu);
+
+    class Area;
+    Area *m_area;
+    bool m_loaded = false;
+};
+
+} // namespace desktop

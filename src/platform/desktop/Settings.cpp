@@ -1,0 +1,43 @@
+#include "platform/desktop/Settings.h"
+
+#include <QSettings>
+
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace desktop {
+
+namespace {
+
+QString &replacement()
+{
+    static QString path;
+    return path;
+}
+
+std::unique_ptr<QSettings> settings()
+{
+    if (!replacement().isEmpty())
+        return std::make_unique<QSettings>(replacement(), QSettings::IniFormat);
+    return std::make_unique<QSettings>(u"Tolmark"_s, u"Tolmark"_s);
+}
+
+} // namespace
+
+QString GetSetting(const QString &section, const QString &key, const QString &defaultText)
+{
+    return settings()->value(section + u'/' + key, defaultText).toString();
+}
+
+void SaveSetting(const QString &section, const QString &key, const QString &text)
+{
+    settings()->setValue(section + u'/' + key, text);
+}
+
+void setSettingsFile(const QString &path)
+{
+    replacement() = path;
+}
+
+} // namespace desktop
