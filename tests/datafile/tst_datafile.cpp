@@ -1,0 +1,287 @@
+// The data file as its tool makes it: what the windows take for granted of its tables, and what must never happen to a
+// file that exists.
+#include "datafile/Check.h"
+#include "datafile/Generator.h"
+#include "datafile/Looking.h"
+#include "datafile/Sample.h"
+#include "datafile/Schema.h"
+#include "platform/runtime/Date.h"
+
+#include <QTest>
+
+#include <optional>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace datafiletest;
+
+class tst_datafile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void newFilesPassTheCheck();
+    void checkFinds_data();
+    void checkFinds();
+    void checkRefusesWhatIsNoDataFile();
+    void nothingIsOverwritten_data();
+    void nothingIsOverwritten();
+    void failedCreationLeavesNothing();
+    void defaults();
+    void numbersAreNeverGivenOutTwice();
+    void secondRowOfAPersonIsLeftOut();
+    void prefixQueriesUseTheIndex_data();
+    void prefixQueriesUseTheIndex();
+};
+
+void tst_datafile::newFilesPassTheCheck()
+{
+    const Folder folder;
+    datafile::createDataFile(folder.path(u"empty.mdb"_s));
+    datafile::createSampleFile(folder.path(u"sample.mdb"_s));
+    datafile::createGeneratedFile(folder.path(u"made.mdb"_s), {.members = 20});
+    for (const QString &name : {u"empty.mdb"_s, u"sample.mdb"_s, u"made.mdb"_s})
+        QCOMPARE(datafile::faultsOf(folder.path(name)), QStringList());
+    QCOMPARE(folder.names(), (QStringList{u"empty.mdb"_s, u"made.mdb"_s, u"sample.mdb"_s})); // and no side file
+
+    data::Database file;
+    file.open(folder.path(u"empty.mdb"_s));
+    QCOMPARE(valueOf(file, "PRAGMA journal_mode"), u"delete"_s);
+    QCOMPARE(valueOf(file, "SELECT group_concat(NodeName, '') FROM NodeInformation WHERE NodeActive = 1"),
+             u"ABCDEFGHIJKLMNOPQRSTUVWXYZ"_s);
+    QCOMPARE(valueOf(file, "SELECT count(*) FROM Security WHERE UserLevel >= 99"), u"1"_s);
+    QCOMPARE(valueOf(file, "SELECT count(*) FROM MemberInformation"), u"0"_s);
+}
+
+void tst_datafile::checkFinds_data()
+{
+    QTest::addColumn<QByteArray>("change");
+    QTest::addColumn<QString>("fault"); // how its line begins; empty for none
+    const auto row = [](const char *name, const char *change, const QString &fault) {
+        QTest::newRow(name) << QByteArray(change) << fault;
+    };
+    row("column gone", "DROP INDEX MeetingInfo_MemberId; ALTER TABLE MeetingInfo DROP COLUMN MeetingCatagory",
+        u"column [MeetingInfo].[MeetingCatagory] is missing"_s);
+    row("name mended", "ALTER TABLE Resources RENAME COLUMN DocuemntVersion TO DocumentVersion",
+        u"column [Resources].[DocuemntVersion] is missing"_s);
+    row("table gone", "DROP TABLE ReferenceInfo", u"table [ReferenceInfo] is missing"_s);
+    row("name with a blank", "DROP TABLE \"Personal Information\"", u"table [Personal Information] is missing"_s);
+    row("no groups", "DELETE FROM NodeInformation", u"table [NodeInformation] has no rows"_s);
+    row("no pages", "DELETE FROM TabInfo", u"table [TabInfo] has no rows"_s);
+    row("index gone", "DROP INDEX MemberInformation_LastName", u"index [MemberInformation_LastName] is missing"_s);
+    row("other type",
+        "DROP TABLE CategoryInfo; CREATE TABLE CategoryInfo (CategoryName TEXT, CategoryActive TEXT DEFAULT -1);"
+        "INSERT INTO CategoryInfo VALUES ('Other', -1)",
+        u"column [CategoryInfo].[CategoryActive] is declared \"TEXT\""_s);
+    row("no default",
+        "DROP TABLE CategoryInfo; CREATE TABLE CategoryInfo (CategoryName TEXT, CategoryActive BOOLEAN);"
+        "INSERT INTO CategoryInfo VALUES ('Other', -1)",
+        u"column [CategoryInfo].[CategoryActive] lacks its default -1"_s);
+    row("numbers given out again",
+        "DROP TABLE MemberType; CREATE TABLE MemberType (MemberTypeId INTEGER PRIMARY KEY, MemberType TEXT);"
+        "INSERT INTO MemberType VALUES (1, 'Regular')",
+        u"column [MemberType].[MemberTypeId] is no key"_s);
+    row("further table and column", "CREATE TABLE More (Id INTEGER); ALTER TABLE Security ADD COLUMN Shoe TEXT", {});
+    row("same type, other words",
+        "DROP TABLE CategoryInfo; CREATE TABLE categoryinfo (CATEGORYNAME VARCHAR(50), CategoryActive BOOL DEFAULT -1);"
+        "INSERT INTO CategoryInfo VALUES ('Other', -1)",
+        {});
+}
+
+void tst_datafile::checkFinds()
+{
+    const Folder folder;
+    QFETCH(QByteArray, change);
+    QFETCH(QString, fault);
+    datafile::createDataFile(folder.path(u"f.mdb"_s));
+    data::Database file;
+    file.open(folder.path(u"f.mdb"_s));
+    file.execute(change);
+    file.close();
+
+    const QString faults = datafile::faultsOf(folder.path(u"f.mdb"_s)).join(u'\n');
+    if (fault.isEmpty())
+        QCOMPARE(faults, QString());
+    else
+        QVERIFY2((u'\n' + faults).contains(u'\n' + fault), qPrintable(faults));
+}
+
+void tst_datafile::checkRefusesWhatIsNoDataFile()
+{
+    const Folder folder;
+    QFile text(folder.path(u"text.mdb"_s));
+    QVERIFY(text.open(QIODevice::WriteOnly));
+    text.write("This is a text and no data file, and long enough to have a header of a hundred bytes, which is "
+               "what is looked at first.");
+    text.close();
+    QVERIFY(errorOf([&] { datafile::faultsOf(folder.path(u"text.mdb"_s)); }) != 0);
+    QVERIFY(errorOf([&] { datafile::faultsOf(folder.path(u"none.mdb"_s)); }) != 0);
+    QVERIFY(!QFile::exists(folder.path(u"none.mdb"_s))); // looking makes nothing
+
+    // A page that was overwritten in the middle of the file.
+    datafile::createSampleFile(folder.path(u"torn.mdb"_s));
+    QFile torn(folder.path(u"torn.mdb"_s));
+    QVERIFY(torn.open(QIODevice::ReadWrite));
+    QVERIFY(torn.seek(torn.size() / 4096 / 2 * 4096));
+    torn.write(QByteArray(4096, 'x'));
+    torn.close();
+    QStringList faults;
+    if (errorOf([&] { faults = datafile::faultsOf(folder.path(u"torn.mdb"_s)); }) == 0)
+        QVERIFY(!faults.isEmpty());
+}
+
+void tst_datafile::nothingIsOverwritten_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("number");
+    QTest::newRow("file") << u"file"_s << 58;
+    QTest::newRow("empty file") << u"empty"_s << 58;
+    QTest::newRow("folder") << u"folder"_s << 58;
+    QTest::newRow("link to a file") << u"link"_s << 58;
+    QTest::newRow("link that leads nowhere") << u"dangling"_s << 58;
+    QTest::newRow("folder that is not there") << u"no/x.mdb"_s << 76;
+    QTest::newRow("folder that is a file") << u"file/x.mdb"_s << 76;
+}
+
+void tst_datafile::nothingIsOverwritten()
+{
+    const Folder folder;
+    QFETCH(QString, name);
+    QFETCH(int, number);
+    QFile file(folder.path(u"file"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("mine");
+    file.close();
+    QVERIFY(QFile(folder.path(u"empty"_s)).open(QIODevice::WriteOnly));
+    QVERIFY(QDir(folder.folder()).mkdir(u"folder"_s));
+    QVERIFY(QFile::link(folder.path(u"file"_s), folder.path(u"link"_s)));
+    QVERIFY(QFile::link(folder.path(u"nowhere"_s), folder.path(u"dangling"_s)));
+    const QStringList before = folder.names();
+
+    QCOMPARE(errorOf([&] { datafile::createDataFile(folder.path(name)); }), number);
+    QCOMPARE(errorOf([&] { datafile::createSampleFile(folder.path(name)); }), number);
+    QCOMPARE(errorOf([&] { datafile::createGeneratedFile(folder.path(name), {.members = 1}); }), number);
+    QCOMPARE(folder.names(), before);
+    QCOMPARE(bytesOf(folder.path(u"file"_s)), QByteArray("mine"));
+    QCOMPARE(QFileInfo(folder.path(u"empty"_s)).size(), 0);
+}
+
+void tst_datafile::failedCreationLeavesNothing()
+{
+    const Folder folder;
+    const auto fail = [](data::Database &file) { file.execute("INSERT INTO NoSuchTable VALUES (1)"); };
+    QVERIFY(errorOf([&] { datafile::createDataFile(folder.path(u"f.mdb"_s), fail); }) != 0);
+    QCOMPARE(folder.names(), QStringList());
+
+    // Something takes the path while the file is being made.
+    const auto takePath = [&folder](data::Database &) {
+        QFile other(folder.path(u"f.mdb"_s));
+        QVERIFY(other.open(QIODevice::WriteOnly));
+        other.write("theirs");
+    };
+    QCOMPARE(errorOf([&] { datafile::createDataFile(folder.path(u"f.mdb"_s), takePath); }), 58);
+    QCOMPARE(folder.names(), QStringList{u"f.mdb"_s});
+    QCOMPARE(bytesOf(folder.path(u"f.mdb"_s)), QByteArray("theirs"));
+}
+
+void tst_datafile::defaults()
+{
+    const Folder folder;
+    datafile::createDataFile(folder.path(u"f.mdb"_s));
+    data::Database file;
+    file.open(folder.path(u"f.mdb"_s));
+    file.execute("INSERT INTO MemberInformation (LastName) VALUES ('Adams');"
+                 "INSERT INTO EventInformation (EventName) VALUES ('Dinner');"
+                 "INSERT INTO Contributions (MemberId, ContributionAmount) VALUES (1, '12.5');"
+                 "INSERT INTO Attachments (AttachmentsName) VALUES ('a.txt');"
+                 "INSERT INTO MeetingInfo (MemberId) VALUES (1);"
+                 "INSERT INTO Resources (DocumentName) VALUES ('a.txt');"
+                 "INSERT INTO TabInfo (TabNam) VALUES ('Page');"
+                 "INSERT INTO FieldInfo (FieldName) VALUES ('Field');"
+                 "INSERT INTO Security (UserName) VALUES ('x');"
+                 "INSERT INTO \"Personal Information\" (\"Last Name\") VALUES ('Adams')");
+    QCOMPARE(valueOf(file, "SELECT Active FROM MemberInformation"), u"-1"_s);
+    QCOMPARE(valueOf(file, "SELECT Active FROM EventInformation"), u"-1"_s);
+    QCOMPARE(valueOf(file, "SELECT Active FROM \"Personal Information\" WHERE \"Last Name\" = 'ADAMS'"), u"1"_s);
+    QCOMPARE(valueOf(file, "SELECT TabEdit FROM TabInfo WHERE TabNam = 'Page'"), u"1"_s);
+    QCOMPARE(valueOf(file, "SELECT FieldEdit FROM FieldInfo WHERE FieldName = 'Field'"), u"1"_s);
+    QCOMPARE(valueOf(file, "SELECT UserLevel FROM Security WHERE UserName = 'x'"), u"0"_s);
+    // The day may have changed since: the date is within one of now.
+    for (const char *date :
+         {"EventDate FROM EventInformation", "ContributionDate FROM Contributions", "AttachmentsDate FROM Attachments",
+          "MeetingEnteredDate FROM MeetingInfo", "DocumentDate FROM Resources"}) {
+        const QString text = valueOf(file, QByteArray("SELECT ") + date);
+        const std::optional<runtime::Date> moment = runtime::Date::fromIsoText(text);
+        QVERIFY2(moment && text.size() == 19, qPrintable(text));
+        QVERIFY(moment->day().daysTo(QDate::currentDate()) <= 1);
+        if (QByteArray(date).startsWith("Event") || QByteArray(date).startsWith("Contribution"))
+            QVERIFY(!moment->hasTime());
+    }
+}
+
+void tst_datafile::numbersAreNeverGivenOutTwice()
+{
+    const Folder folder;
+    datafile::createSampleFile(folder.path(u"f.mdb"_s));
+    data::Database file;
+    file.open(folder.path(u"f.mdb"_s));
+    const QStringList tables = rowsOf(file, "SELECT name FROM sqlite_master WHERE sql LIKE '%AUTOINCREMENT%'");
+    QVERIFY(tables.size() >= 12);
+    for (const QString &table : tables) {
+        const QByteArray name = '"' + table.toUtf8() + '"';
+        file.execute("INSERT INTO " + name + " DEFAULT VALUES");
+        const qint64 highest = file.lastInsertRowId();
+        file.execute("DELETE FROM " + name + " WHERE rowid = " + QByteArray::number(highest));
+        file.execute("INSERT INTO " + name + " DEFAULT VALUES");
+        QVERIFY2(file.lastInsertRowId() == highest + 1, name.constData());
+    }
+}
+
+// The record window adds a new person first by the names and then, as for every page, by the person's number.
+void tst_datafile::secondRowOfAPersonIsLeftOut()
+{
+    const Folder folder;
+    datafile::createDataFile(folder.path(u"f.mdb"_s));
+    data::Database file;
+    file.open(folder.path(u"f.mdb"_s));
+    file.execute("INSERT INTO \"Personal Information\" (\"Last Name\") VALUES ('First')");
+    const QByteArray id = QByteArray::number(file.lastInsertRowId());
+    file.execute("INSERT INTO \"Personal Information\" (PersonalInformationId, \"Last Name\") VALUES (" + id +
+                 ", 'Second')");
+    QCOMPARE(valueOf(file, "SELECT \"Last Name\" FROM \"Personal Information\" WHERE PersonalInformationId = " + id),
+             u"First"_s);
+}
+
+void tst_datafile::prefixQueriesUseTheIndex_data()
+{
+    QTest::addColumn<QByteArray>("query");
+    QTest::addColumn<QString>("index");
+    const auto row = [](const char *query, const QString &index) {
+        QTest::newRow(query) << QByteArray(query) << index;
+    };
+    row("SELECT * FROM MemberInformation WHERE LastName >= 'S' AND LastName < 'T' AND Active <> 0",
+        u"MemberInformation_LastName"_s);
+    row("SELECT * FROM MemberInformation WHERE LastName LIKE 'S%'", u"MemberInformation_LastName"_s);
+    row("SELECT count(*) FROM MemberInformation WHERE LastName >= 'S' AND LastName < 'T' AND Active <> 0",
+        u"COVERING INDEX MemberInformation_LastName"_s);
+    row("SELECT * FROM EventInformation WHERE EventName >= 'S' AND EventName < 'T'", u"EventInformation_EventName"_s);
+    row("SELECT * FROM Security WHERE UserLastName LIKE 'S%'", u"Security_UserLastName"_s);
+    row("SELECT * FROM Attachments WHERE AttachmentsName = 'A.txt' ORDER BY AttachmentVersion DESC",
+        u"Attachments_AttachmentsName"_s);
+    row("SELECT DISTINCT AttachmentExtension FROM Attachments", u"COVERING INDEX Attachments_AttachmentExtension"_s);
+    row("SELECT * FROM MemberInterest WHERE MemberId = 5", u"MemberInterest_MemberId"_s);
+}
+
+void tst_datafile::prefixQueriesUseTheIndex()
+{
+    const Folder folder;
+    QFETCH(QByteArray, query);
+    QFETCH(QString, index);
+    datafile::createGeneratedFile(folder.path(u"f.mdb"_s), {.members = 200});
+    data::Database file;
+    file.open(folder.path(u"f.mdb"_s));
+    const QString plan = valueOf(file, "EXPLAIN QUERY PLAN " + query);
+    QVERIFY2(plan.contains(index) && !plan.contains(u"USE TEMP B-TREE"_s), qPrintable(plan));
+}
+
+QTEST_GUILESS_MAIN(tst_datafile)
+#include "tst_datafile.moc"
