@@ -1,0 +1,58 @@
+// The members by groups of their last names: a tree of the groups on the left, the members of the chosen one on the
+// right. The way into a member's dossier, and the place where members are deleted.
+//
+// Load, tree, list and the deletion by the toolbar let a failure end the program; the column click, the keys of the
+// list and the splitter swallow it.
+#pragma once
+
+#include "explorers/ExplorerPanes.h"
+#include "platform/desktop/Form.h"
+
+#include <QAction>
+
+// What a dossier is told when it is opened for a line of the list, in the order in which it is told.
+struct DossierRequest
+{
+    qint16 MemberId = 0;
+    QString Caption;
+    QString MemberIdentification;
+    QString Tag;
+};
+
+class FrmDataBaseExplorer : public desktop::Form
+{
+    Q_OBJECT
+public:
+    FrmDataBaseExplorer();
+
+    // 99 or more shows the users in the tree, as the administrator sees them.
+    qint16 UserLevel = 0;
+
+Q_SIGNALS:
+    // A member is to be opened.
+    void dossierRequested(const DossierRequest &request);
+
+protected:
+    void Form_Load() override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void LblMemberListing_Click();
+    void TreClassView_Click();
+    void LstStudenInformation_ColumnClick(int index);
+    void LstStudenInformation_DblClick();
+    void LstStudenInformation_KeyUp(int keyCode);
+    void Toolbar1_ButtonClick(QAction *button);
+    void Picture1_MouseMove(int button, float x, float y);
+
+    void loadColumns();
+    void loadTree();
+    qint16 loadGroups();
+    void loadList();
+    void deleteSelectedMembers();
+    void openDossier(const desktop::ListItem &item);
+
+    ExplorerPanes m_panes;
+    desktop::ObjectRef<desktop::Node> CurrentNode;
+    QString SortClause;
+};

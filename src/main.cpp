@@ -1,0 +1,17 @@
+#include "platform/desktop/ErrorReport.h"
+#include "shell/frame/frmLogin.h"
+
+#include <QApplication>
+#include <QIcon>
+
+using namespace Qt::Literals::StringLiterals;
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(u"Tolmark"_s);
+    QApplication::setApplicationVersion(u"1.0.0"_s);
+    QApplication::setWindowIcon(QIcon(u":/icons/tolmark.svg"_s));
+    desktop::guarded([] { frmLogin::shared().Show(); });
+    return QApplication::exec();
+}

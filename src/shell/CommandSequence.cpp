@@ -1,0 +1,23 @@
+#include "shell/CommandSequence.h"
+
+#include "shell/DataStore.h"
+
+void CommandSequence::open()
+{
+    m_connection.Open(dataStoreConnectionString(), {}, {}, data::adOptionUnspecified);
+    m_connection.CursorLocation = data::adUseClient;
+    command.ActiveConnection = &m_connection;
+}
+
+data::Recordset CommandSequence::execute(const QString &statement)
+{
+    command.CommandText = statement;
+    return command.Execute(data::adOptionUnspecified);
+}
+
+void CommandSequence::close()
+{
+    command.Cancel();
+    m_connection.Close();
+    m_connection.Cancel();
+}

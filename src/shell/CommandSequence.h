@@ -1,0 +1,25 @@
+// The connection and command that carry a handler's delete, update and insert statements, one after another.
+//
+// A handler that fails between open and close leaves both to be released with the object.
+#pragma once
+
+#include "platform/data/Command.h"
+#include "platform/data/Connection.h"
+
+class CommandSequence
+{
+public:
+    CommandSequence() = default;
+    CommandSequence(const CommandSequence &) = delete; // the command points at the connection beside it
+    CommandSequence &operator=(const CommandSequence &) = delete;
+
+    void open();
+    data::Recordset execute(const QString &statement);
+    // Cancels the command, closes the connection and cancels that.
+    void close();
+
+    data::Command command;
+
+private:
+    data::Connection m_connection;
+};

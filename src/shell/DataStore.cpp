@@ -1,0 +1,10 @@
+#include "shell/DataStore.h"
+
+#include "platform/runtime/Application.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+QString dataStoreConnectionString()
+{
+    return u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s + runtime::App::Path() + u"\\Tolmark.mdb;"_s;
+}

@@ -1,0 +1,150 @@
+#include "shell/frame/MDIBaseForm.h"
+
+#include "dossier/FrmAddEditMember.h"
+#include "explorers/FrmDataBaseExplorer.h"
+#include "platform/desktop/MsgBox.h"
+#include "platform/runtime/Application.h"
+#include "platform/runtime/Conversion.h"
+#include "platform/runtime/ErrorHandling.h"
+#include "platform/runtime/Files.h"
+#include "shell/frame/ScaleControls.h"
+#include "shell/frame/frmLogin.h"
+
+#include <QApplication>
+#include <QMdiArea>
+#include <QPointer>
+#include <QScreen>
+
+#include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
+
+using runtime::RuntimeError;
+
+namespace {
+
+constexpr QSize roomForOneExplorer(1000, 760); // logical pixels
+
+// A division as the run-time does it, in 32-bit floats.
+float ratio(double current, qint32 last)
+{
+    if (last == 0)
+        throw RuntimeError(runtime::DivisionByZero);
+    return float(current) / float(last);
+}
+
+} // namespace
+
+MDIBaseForm::MDIBaseForm()
+    : MdiForm(u"MDIBaseForm"), Toolbar1(new desktop::Toolbar(this, u"Toolbar1")),
+      StatusBar1(new desktop::StatusBar(this, u"StatusBar1")), ImageList1(new desktop::ImageList(this, u"ImageList1")),
+      m_session(Session::current())
+{
+    setCaption(u"Tolmark"_s);
+    setBackground(u":/icons/logo.svg"_s);
+    setUpToolbar();
+    setUpStatusBar();
+    setUpMenus();
+    const QSize available = screen()->availableGeometry().size();
+    resize(roomForOneExplorer.boundedTo(available * 0.95));
+}
+
+MDIBaseForm &MDIBaseForm::frame()
+{
+    // Owned by nobody: when it closes, the process ends.
+    static QPointer<MDIBaseForm> window;
+    if (!window)
+        window = new MDIBaseForm;
+    return *window;
+}
+
+void MDIBaseForm::setUFirstName(const runtime::Value &name)
+{
+    m_session.UFirstName = runtime::toText(name);
+}
+
+void MDIBaseForm::setULastName(const runtime::Value &name)
+{
+    m_session.ULastName = runtime::toText(name);
+}
+
+void MDIBaseForm::setUserId(const runtime::Value &id)
+{
+    m_session.UserId = runtime::toText(id);
+}
+
+void MDIBaseForm::setUpToolbar()
+{
+    ImageList1->add(u"Phone"_s, u":/icons/phone.svg"_s);
+    ImageList1->add(u"Find"_s, u":/icons/find.svg"_s);
+    Toolbar1->setWindowTitle(u"Toolbar"_s);
+    Toolbar1->setIconSize({24, 24});
+    Toolbar1->addButton(u"Phone"_s, {}, u"Telephone Conference"_s, ImageList1->icon(u"Phone"_s));
+    Toolbar1->addButton(u"Find"_s, {}, u"Find"_s, ImageList1->icon(u"Find"_s));
+    addToolBar(Toolbar1);
+}
+
+void MDIBaseForm::setUpStatusBar()
+{
+    StatusBar1->addPanel(desktop::Panel::Style::Text);
+    setStatusBar(StatusBar1);
+}
+
+void MDIBaseForm::Form_Load()
+{
+    desktop::showNew<FrmDataBaseExplorer>();
+}
+
+void MDIBaseForm::Form_Resize()
+{
+    if (!m_session.ResizeReady) {
+        m_session.ResizeReady = true;
+        return;
+    }
+    float WidthRatio = 0;
+    float HeightRatio = 0;
+    runtime::everyStep(
+        [&] { m_session.ResizePending = false; }, [&] { WidthRatio = ratio(Width(), LastWidth); },
+        [&] { HeightRatio = ratio(Height(), LastHeight); }, [&] { ScaleControls(WidthRatio, HeightRatio, *this); },
+        [&] { LastWidth = qint32(std::lround(Width())); }, [&] { LastHeight = qint32(std::lround(Height())); });
+}
+
+void MDIBaseForm::Form_Unload()
+{
+    const QString folder = runtime::App::Path() + u"\\temp\\"_s;
+    QString name = runtime::Dir(runtime::App::Path() + u"\\temp\\*.*"_s);
+    while (!name.isEmpty()) {
+        runtime::Kill(folder + name);
+        name = runtime::Dir();
+    }
+}
+
+void MDIBaseForm::MnuNewClient_Click()
+{
+    desktop::reportOutOfMemoryOnly([] { desktop::showNew<FrmAddEditMember>(); });
+}
+
+void MDIBaseForm::MnuExplorer_Click()
+{
+    desktop::reportOutOfMemoryOnly([this] {
+        desktop::showNew<FrmDataBaseExplorer>([this](FrmDataBaseExplorer &window) { window.UserLevel = UserLevel(); });
+    });
+}
+
+void MDIBaseForm::mnuDifferentUser_Click()
+{
+    desktop::reportOutOfMemoryOnly([] {
+        frmLogin::shared().ReLogin = true;
+        frmLogin::shared().Show();
+    });
+}
+
+void MDIBaseForm::mnuExit_Click()
+{
+    close();
+}
+
+void MDIBaseForm::mnuWhoAmI_Click()
+{
+    desktop::MsgBox(UserId());
+}

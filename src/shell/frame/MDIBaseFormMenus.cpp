@@ -1,0 +1,74 @@
+// The menus of the main window, in the order of the bar.
+#include "shell/frame/DesignTime.h"
+#include "shell/frame/MDIBaseForm.h"
+
+#include <QMenuBar>
+
+using namespace Qt::Literals::StringLiterals;
+
+QMenu *MDIBaseForm::addMenu(const char *name, const QString &caption, bool visible)
+{
+    QMenu *menu = menuBar()->addMenu(caption);
+    menu->setObjectName(QString::fromLatin1(name) + u".menu"_s);
+    menu->menuAction()->setObjectName(QString::fromLatin1(name));
+    menu->menuAction()->setVisible(visible);
+    return menu;
+}
+
+QAction *MDIBaseForm::addItem(QMenu *menu, const char *name, const QString &caption, Handler handler, bool visible)
+{
+    QAction *item = menu->addAction(caption);
+    item->setObjectName(QString::fromLatin1(name));
+    item->setVisible(visible);
+    if (handler)
+        desktop::on(item, &QAction::triggered, this, handler);
+    return item;
+}
+
+void MDIBaseForm::addSeparator(QMenu *menu, const char *name)
+{
+    menu->addSeparator()->setObjectName(QString::fromLatin1(name));
+}
+
+void MDIBaseForm::setUpMenus()
+{
+    setUpFileMenu();
+    setUpToolsMenu();
+    setWindowsMenu(addMenu("mnuWindows", u"Windows"_s, true));
+    setUpHelpMenu();
+}
+
+void MDIBaseForm::setUpFileMenu()
+{
+    QMenu *file = addMenu("mnuFile", u"File"_s, true);
+    addItem(file, "mnuNewUser", u"New User"_s, nullptr, DesignTime::mnuNewUserVisible);
+    addItem(file, "MnuNewClient", u"New Member"_s, &MDIBaseForm::MnuNewClient_Click);
+    addItem(file, "MnuExplorer", u"Member Explorer"_s, &MDIBaseForm::MnuExplorer_Click);
+    addSeparator(file, "mnuSep4");
+    addItem(file, "mnuNewEvent", u"New Event"_s);
+    addItem(file, "mnuEventExplorer", u"Event Explorer"_s);
+    addSeparator(file, "mnuSep");
+    addItem(file, "mnuDifferentUser", u"Login as Different User"_s, &MDIBaseForm::mnuDifferentUser_Click,
+            DesignTime::mnuDifferentUserVisible);
+    addItem(file, "mnuExit", u"Exit"_s, &MDIBaseForm::mnuExit_Click);
+}
+
+void MDIBaseForm::setUpToolsMenu()
+{
+    QMenu *tools = addMenu("mnuAdministrator", u"Tools"_s, DesignTime::mnuAdministratorVisible);
+    addItem(tools, "mnuDoc", u"Document Library"_s, nullptr, DesignTime::mnuDocVisible);
+    addSeparator(tools, "sepMenu");
+    addItem(tools, "mnuDatabaseEditor", u"Database/Form Editor"_s);
+    addSeparator(tools, "mnusep1");
+    addItem(tools, "MnuOptions", u"Options"_s);
+    QMenu *administrative = tools->addMenu(u"Administrative"_s);
+    administrative->setObjectName(u"mnuAdmin.menu"_s);
+    administrative->menuAction()->setObjectName(u"mnuAdmin"_s);
+    addItem(administrative, "mnuAddNewUser", u"Add New User"_s);
+}
+
+void MDIBaseForm::setUpHelpMenu()
+{
+    QMenu *help = addMenu("mnuHelp", u"Help"_s, DesignTime::mnuHelpVisible);
+    addItem(help, "mnuWhoAmI", u"Who Am I"_s, &MDIBaseForm::mnuWhoAmI_Click);
+}
