@@ -1,0 +1,430 @@
+#include "platform/data/sql/ExpressionWriter.h"
+
+#include "platform/data/sql/LikePattern.h"
+#include "platform/data/sql/Literal.h"
+#include "platform/data/sql/SqlText.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace sql {
+
+namespace {
+
+constexpr QByteArrayView inStoreOrder = " COLLATE STORE";
+
+bool isAscii(QStringView text)
+{
+    for (const QChar c : text) {
+        if (c.unicode() >= 0x80)
+            return false;
+    }
+    return true;
+}
+
+// The rule for equality with a text: NOCASE, the indexes' collation, wherever it comes to the same.
+QByteArrayView equalityRule(QStringView text)
+{
+    return isAscii(text) ? " COLLATE NOCASE" : inStoreOrder;
+}
+
+QByteArrayView symbolOf(Operator operation)
+{
+    switch (operation) {
+    case Operator::Or:
+        return " OR ";
+    case Operator::And:
+        return " AND ";
+    case Operator::Equal:
+        return " = ";
+    case Operator::NotEqual:
+        return " <> ";
+    case Operator::Less:
+        return " < ";
+    case Operator::LessOrEqual:
+        return " <= ";
+    case Operator::Greater:
+        return " > ";
+    case Operator::GreaterOrEqual:
+        return " >= ";
+    case Operator::Concatenate:
+        return " || ";
+    case Operator::Add:
+        return " + ";
+    case Operator::Subtract:
+        return " - ";
+    case Operator::Modulo:
+        return " % ";
+    case Operator::DivideWhole:
+    case Operator::Divide:
+        return " / ";
+    case Operator::Multiply:
+        return " * ";
+    }
+    return " ";
+}
+
+bool isConcatenation(const Expression &node)
+{
+    return node.kind == ExpressionKind::Operation && node.operation == Operator::Concatenate;
+}
+
+bool isAtom(const Expression &node)
+{
+    switch (node.kind) {
+    case ExpressionKind::Column:
+    case ExpressionKind::Text:
+    case ExpressionKind::Number:
+    case ExpressionKind::Date:
+    case ExpressionKind::Null:
+    case ExpressionKind::Flag:
+    case ExpressionKind::Call:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+void ExpressionWriter::write(Node node)
+{
+    const Expression &expression = at(node);
+    switch (expression.kind) {
+    case ExpressionKind::Column:
+        return appendColumn(m_sql, expression.qualifier, expression.text);
+    case ExpressionKind::Text:
+        return text(expression);
+    case ExpressionKind::Number:
+        return appendUtf8(m_sql, expression.text);
+    case ExpressionKind::Date:
+        return appendQuoted(m_sql, dateValue(expression.text)->toIsoText(), '\'');
+    case ExpressionKind::Flag:
+        m_sql += expression.affirmed ? "-1" : "0";
+        return;
+    case ExpressionKind::Null:
+        m_sql += "NULL";
+        return;
+    case ExpressionKind::Operation:
+        return operation(expression);
+    case ExpressionKind::Negation:
+        m_sql += '-';
+        return operand(expression.first);
+    case ExpressionKind::Not:
+        ++m_negations;
+        m_sql += "NOT ";
+        operand(expression.first);
+        --m_negations;
+        return;
+    case ExpressionKind::IsNull:
+        operand(expression.first);
+        m_sql += expression.affirmed ? " IS NULL" : " IS NOT NULL";
+        return;
+    case ExpressionKind::Like:
+        return like(expression);
+    case ExpressionKind::Between:
+        return between(expression);
+    case ExpressionKind::In:
+        return inList(expression);
+    case ExpressionKind::Call:
+        return call(expression);
+    }
+}
+
+void ExpressionWriter::writeOrdered(Node node)
+{
+    operand(node);
+    m_sql += inStoreOrder;
+}
+
+void ExpressionWriter::operand(Node node)
+{
+    if (isAtom(at(node)))
+        return write(node);
+    m_sql += '(';
+    write(node);
+    m_sql += ')';
+}
+
+// The written form serves as it stands when its quotes are SQLite's.
+void ExpressionWriter::text(const Expression &node)
+{
+    if (node.text.front() == u'\'')
+        appendUtf8(m_sql, node.text);
+    else
+        appendQuoted(m_sql, textValue(node.text), '\'');
+}
+
+void ExpressionWriter::operation(const Expression &node)
+{
+    switch (node.operation) {
+    case Operator::Or:
+    case Operator::And:
+        return junction(node, symbolOf(node.operation));
+    case Operator::Concatenate:
+        return concatenation(node);
+    case Operator::Add:
+    case Operator::Subtract:
+    case Operator::Modulo:
+    case Operator::DivideWhole:
+    case Operator::Multiply:
+    case Operator::Divide:
+        return arithmetic(node);
+    default:
+        return comparison(node);
+    }
+}
+
+// A row of Ands or of Ors needs no parentheses among its own kind.
+void ExpressionWriter::junction(const Expression &node, QByteArrayView word)
+{
+    for (const Node side : {node.first, node.second}) {
+        const Expression &part = at(side);
+        if (part.kind == ExpressionKind::Operation && part.operation == node.operation)
+            write(side);
+        else
+            operand(side);
+        if (side == node.first)
+            m_sql += word;
+    }
+}
+
+void ExpressionWriter::comparison(const Expression &node)
+{
+    if (flagComparison(node))
+        return;
+    noteComparison(node.first, node.second);
+    noteComparison(node.second, node.first);
+    operand(node.first);
+    m_sql += symbolOf(node.operation);
+    operand(node.second);
+    const bool isEquality = node.operation == Operator::Equal || node.operation == Operator::NotEqual;
+    const bool leftText = isText(node.first);
+    const bool rightText = isText(node.second);
+    if (leftText || rightText) {
+        const QStringView left = leftText ? at(node.first).text : QStringView();
+        const QStringView right = rightText ? at(node.second).text : QStringView();
+        m_sql += !isEquality ? inStoreOrder : equalityRule(isAscii(left) ? right : left);
+    } else if (isConcatenation(at(node.first)) || isConcatenation(at(node.second))) {
+        m_sql += inStoreOrder;
+    }
+}
+
+// A Yes/No column written by another tool may hold 1 for Yes: any number but 0 is Yes.
+bool ExpressionWriter::flagComparison(const Expression &node)
+{
+    if (node.operation != Operator::Equal && node.operation != Operator::NotEqual)
+        return false;
+    const bool flagFirst = at(node.first).kind == ExpressionKind::Flag;
+    const bool flagSecond = at(node.second).kind == ExpressionKind::Flag;
+    if (flagFirst == flagSecond)
+        return false;
+    const Expression &flag = at(flagFirst ? node.first : node.second);
+    operand(flagFirst ? node.second : node.first);
+    m_sql += flag.affirmed == (node.operation == Operator::Equal) ? " <> 0" : " = 0";
+    return true;
+}
+
+void ExpressionWriter::noteComparison(Node column, Node literal)
+{
+    if (at(column).kind != ExpressionKind::Column)
+        return;
+    const Expression &value = at(at(literal).kind == ExpressionKind::Negation ? at(literal).first : literal);
+    if (value.kind == ExpressionKind::Text || value.kind == ExpressionKind::Number)
+        m_out.comparisons.push_back({reference(at(column)), value.kind == ExpressionKind::Text});
+}
+
+void ExpressionWriter::arithmetic(const Expression &node)
+{
+    const bool isWhole = node.operation == Operator::DivideWhole || node.operation == Operator::Modulo;
+    const auto number = [this, isWhole](Node side, bool asReal) {
+        m_sql += isWhole ? "CAST(round(" : asReal ? "CAST(" : "";
+        operand(side);
+        m_sql += isWhole ? ") AS INTEGER)" : asReal ? " AS REAL)" : "";
+    };
+    const bool joins = node.operation == Operator::Add && (isText(node.first) || isText(node.second));
+    number(node.first, node.operation == Operator::Divide);
+    m_sql += symbolOf(joins ? Operator::Concatenate : node.operation);
+    number(node.second, false);
+}
+
+// "&" takes Null for the empty text.
+void ExpressionWriter::concatenation(const Expression &node)
+{
+    for (const Node side : {node.first, node.second}) {
+        m_sql += "COALESCE(";
+        write(side);
+        m_sql += side == node.first ? ", '') || " : ", '')";
+    }
+}
+
+void ExpressionWriter::like(const Expression &node)
+{
+    if (!node.affirmed) {
+        ++m_negations;
+        m_sql += "NOT (";
+    }
+    if (isText(node.second)) {
+        likePattern(node, at(node.second));
+    } else {
+        m_out.callsLike = true;
+        m_sql += "store_like(";
+        write(node.second);
+        m_sql += ", ";
+        write(node.first);
+        m_sql += ')';
+    }
+    if (!node.affirmed) {
+        --m_negations;
+        m_sql += ')';
+    }
+}
+
+void ExpressionWriter::likePattern(const Expression &node, const Expression &pattern)
+{
+    const LikePattern parts = takenApart(textValue(pattern.text));
+    if (parts.kind == PatternKind::Any) { // for Null it is neither true nor false, which a Not would show
+        operand(node.first);
+        m_sql += m_negations ? " = " : " IS NOT NULL";
+        if (m_negations)
+            operand(node.first);
+        return;
+    }
+    if (parts.kind == PatternKind::Literal) {
+        operand(node.first);
+        m_sql += " = ";
+        text(pattern);
+        m_sql += equalityRule(pattern.text);
+        return;
+    }
+    if (!parts.lowest.isEmpty())
+        range(node.first, parts.lowest, parts.beyond);
+    if (parts.kind == PatternKind::Prefix)
+        return;
+    m_out.callsLike = true;
+    m_sql += parts.lowest.isEmpty() ? "store_like(" : " AND store_like(";
+    text(pattern);
+    m_sql += ", ";
+    write(node.first);
+    m_sql += ')';
+}
+
+void ExpressionWriter::range(Node column, const QString &lowest, const QString &beyond)
+{
+    operand(column);
+    m_sql += " COLLATE NOCASE >= ";
+    appendQuoted(m_sql, lowest, '\'');
+    m_sql += " AND ";
+    operand(column);
+    m_sql += " COLLATE NOCASE < ";
+    appendQuoted(m_sql, beyond, '\'');
+}
+
+// The limits may stand in either order.
+void ExpressionWriter::between(const Expression &node)
+{
+    noteComparison(node.first, node.second);
+    noteComparison(node.first, node.third);
+    const bool ofTexts = isText(node.second) || isText(node.third);
+    const auto inOrder = [&](Node lower, Node upper) {
+        operand(node.first);
+        m_sql += ofTexts ? inStoreOrder : QByteArrayView();
+        m_sql += " BETWEEN ";
+        operand(lower);
+        m_sql += " AND ";
+        operand(upper);
+    };
+    m_sql += node.affirmed ? "(" : "NOT (";
+    inOrder(node.second, node.third);
+    m_sql += " OR ";
+    inOrder(node.third, node.second);
+    m_sql += ')';
+}
+
+void ExpressionWriter::inList(const Expression &node)
+{
+    bool ofTexts = false;
+    bool ascii = true;
+    for (Node item = node.second; item != none; item = at(item).next) {
+        noteComparison(node.first, item);
+        ofTexts = ofTexts || isText(item);
+        ascii = ascii && (!isText(item) || isAscii(at(item).text));
+    }
+    operand(node.first);
+    if (ofTexts)
+        m_sql += ascii ? " COLLATE NOCASE" : inStoreOrder;
+    m_sql += node.affirmed ? " IN (" : " NOT IN (";
+    for (Node item = node.second; item != none; item = at(item).next) {
+        operand(item);
+        m_sql += at(item).next == none ? ")" : ", ";
+    }
+}
+
+void ExpressionWriter::call(const Expression &node)
+{
+    switch (node.function) {
+    case Function::Date:
+        m_sql += "strftime('%Y-%m-%d 00:00:00', 'now', 'localtime')";
+        return;
+    case Function::Now:
+        m_sql += "datetime('now', 'localtime')";
+        return;
+    case Function::Count:
+        m_sql += "COUNT(";
+        break;
+    case Function::Max:
+        m_sql += "MAX(";
+        break;
+    case Function::Min:
+        m_sql += "MIN(";
+        break;
+    case Function::Sum:
+        m_sql += "SUM(";
+        break;
+    case Function::Avg:
+        m_sql += "AVG(";
+        break;
+    }
+    if (node.first == none)
+        m_sql += '*';
+    else if (node.function == Function::Max || node.function == Function::Min)
+        writeOrdered(node.first);
+    else
+        write(node.first);
+    m_sql += ')';
+}
+
+ColumnReference ExpressionWriter::reference(const Expression &column) const
+{
+    if (column.qualifier.isEmpty())
+        return {{}, column.text.toString()};
+    for (const Source &source : m_tree.sources) {
+        if (source.isTable() && source.name().compare(column.qualifier, Qt::CaseInsensitive) == 0)
+            return {source.table.toString(), column.text.toString()};
+    }
+    return {column.qualifier.toString(), column.text.toString()};
+}
+
+std::optional<runtime::Value> ExpressionWriter::literalOf(Node node) const
+{
+    const Expression &expression = at(node);
+    switch (expression.kind) {
+    case ExpressionKind::Text:
+        return runtime::Value(textValue(expression.text));
+    case ExpressionKind::Number:
+        return numberValue(expression.text, false);
+    case ExpressionKind::Date:
+        return runtime::Value(*dateValue(expression.text));
+    case ExpressionKind::Flag:
+        return runtime::Value(expression.affirmed);
+    case ExpressionKind::Null:
+        return runtime::Value();
+    case ExpressionKind::Negation:
+        if (at(expression.first).kind == ExpressionKind::Number)
+            return numberValue(at(expression.first).text, true);
+        return std::nullopt;
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace sql

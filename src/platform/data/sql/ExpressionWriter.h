@@ -1,0 +1,51 @@
+// Writes the expressions of a tree as SQLite's, by the store's rules of comparison, and notes in the translation what
+// the data room has to know of them: comparisons with literals, and whether LIKE is called.
+#pragma once
+
+#include "platform/data/sql/Ast.h"
+
+namespace sql {
+
+class ExpressionWriter
+{
+public:
+    ExpressionWriter(const Tree &tree, Translation &translation)
+        : m_tree(tree), m_out(translation), m_sql(translation.sql)
+    {
+    }
+
+    void write(Node node);
+    // In the store's order, for ORDER BY and GROUP BY.
+    void writeOrdered(Node node);
+
+    // The column with its table instead of an alias.
+    ColumnReference reference(const Expression &column) const;
+    // The value of a literal, a signed number included; nothing for any other expression.
+    std::optional<runtime::Value> literalOf(Node node) const;
+
+private:
+    void operand(Node node);
+    void operation(const Expression &node);
+    void junction(const Expression &node, QByteArrayView word);
+    void comparison(const Expression &node);
+    bool flagComparison(const Expression &node);
+    void arithmetic(const Expression &node);
+    void concatenation(const Expression &node);
+    void like(const Expression &node);
+    void likePattern(const Expression &node, const Expression &pattern);
+    void range(Node column, const QString &lowest, const QString &beyond);
+    void between(const Expression &node);
+    void inList(const Expression &node);
+    void call(const Expression &node);
+    void text(const Expression &node);
+    void noteComparison(Node column, Node literal);
+    bool isText(Node node) const { return at(node).kind == ExpressionKind::Text; }
+    const Expression &at(Node node) const { return m_tree.at(node); }
+
+    const Tree &m_tree;
+    Translation &m_out;
+    QByteArray &m_sql;
+    int m_negations = 0; // Nots round the expression that is being written
+};
+
+} // namespace sql

@@ -1,0 +1,296 @@
+#include "platform/data/sql/StatementWriter.h"
+
+#include "platform/data/sql/Checks.h"
+#include "platform/data/sql/ExpressionWriter.h"
+#include "platform/data/sql/SqlText.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace sql {
+
+namespace {
+
+class StatementWriter
+{
+public:
+    StatementWriter(const Tree &tree, Translation &translation)
+        : m_tree(tree), m_out(translation), m_sql(translation.sql), m_expressions(tree, translation)
+    {
+    }
+
+    void statement();
+
+private:
+    void select();
+    void list();
+    void item(const ListItem &item, int &unnamed);
+    void rowId();
+    void from();
+    void source(Node node);
+    void table(const Source &source);
+    void where();
+    void groupBy();
+    void distinctGroups();
+    void orderBy();
+    void orderItem(const OrderItem &item);
+    void insert();
+    void update();
+    void remove();
+    void targetValue(const Target &target);
+
+    const Tree &m_tree;
+    Translation &m_out;
+    QByteArray &m_sql;
+    ExpressionWriter m_expressions;
+    bool m_grouped = false;
+};
+
+void StatementWriter::statement()
+{
+    m_out.kind = m_tree.kind;
+    if (const Source *only = m_tree.onlyTable())
+        m_out.table = only->table.toString();
+    switch (m_tree.kind) {
+    case StatementKind::Select:
+        return select();
+    case StatementKind::Insert:
+        return insert();
+    case StatementKind::Update:
+        return update();
+    case StatementKind::Delete:
+        return remove();
+    }
+}
+
+void StatementWriter::select()
+{
+    checkSelect(m_tree);
+    m_grouped = isGrouped(m_tree);
+    const bool hasAll = std::any_of(m_tree.list.begin(), m_tree.list.end(),
+                                    [](const ListItem &listed) { return listed.expression == none; });
+    const bool groupsDistinct = m_tree.distinct && !m_grouped && !hasAll;
+    m_out.carriesRowId = m_tree.onlyTable() && !m_tree.distinct && !m_grouped;
+    m_sql += m_tree.distinct && !groupsDistinct ? "SELECT DISTINCT " : "SELECT ";
+    list();
+    from();
+    where();
+    if (groupsDistinct)
+        distinctGroups();
+    else
+        groupBy();
+    orderBy();
+    if (!m_tree.top.isEmpty()) {
+        m_sql += " LIMIT ";
+        appendUtf8(m_sql, m_tree.top);
+    }
+}
+
+void StatementWriter::list()
+{
+    m_out.listBegin = m_sql.size();
+    int unnamed = 1000;
+    for (const ListItem &listed : m_tree.list)
+        item(listed, unnamed);
+    if (m_out.carriesRowId)
+        rowId();
+    else
+        m_sql.chop(2);
+    m_out.listLength = m_sql.size() - m_out.listBegin;
+}
+
+// The item and a comma. An expression without a name gets the next of Expr1000, Expr1001 ...
+void StatementWriter::item(const ListItem &item, int &unnamed)
+{
+    if (item.expression == none) {
+        if (!item.allOf.isEmpty()) {
+            appendName(m_sql, item.allOf);
+            m_sql += '.';
+        }
+        m_sql += "*, ";
+        return;
+    }
+    const Expression &expression = m_tree.at(item.expression);
+    const bool isColumn = expression.kind == ExpressionKind::Column;
+    m_expressions.write(item.expression);
+    if (!isColumn || !item.alias.isEmpty()) {
+        const QString name = item.alias.isEmpty() ? u"Expr"_s + QString::number(unnamed++) : item.alias.toString();
+        m_sql += " AS ";
+        appendName(m_sql, name);
+        const bool isExtreme = expression.kind == ExpressionKind::Call &&
+                               (expression.function == Function::Max || expression.function == Function::Min);
+        if (isExtreme && m_tree.at(expression.first).kind == ExpressionKind::Column)
+            m_out.computed.push_back({name, m_expressions.reference(m_tree.at(expression.first))});
+    }
+    m_sql += ", ";
+}
+
+void StatementWriter::rowId()
+{
+    appendName(m_sql, m_tree.onlyTable()->name());
+    m_sql += "._rowid_";
+}
+
+void StatementWriter::from()
+{
+    const char *before = " FROM ";
+    for (const Node node : m_tree.from) {
+        m_sql += before;
+        source(node);
+        before = ", ";
+    }
+}
+
+void StatementWriter::table(const Source &source)
+{
+    appendName(m_sql, source.table);
+    if (!source.alias.isEmpty()) {
+        m_sql += " AS ";
+        appendName(m_sql, source.alias);
+    }
+}
+
+void StatementWriter::source(Node node)
+{
+    const Source &source = m_tree.sources[node];
+    if (source.isTable())
+        return table(source);
+    const auto side = [this](Node part) {
+        const bool isTable = m_tree.sources[part].isTable();
+        m_sql += isTable ? "" : "(";
+        this->source(part);
+        m_sql += isTable ? "" : ")";
+    };
+    side(source.left);
+    m_sql += source.join == JoinKind::Inner  ? " INNER JOIN "
+             : source.join == JoinKind::Left ? " LEFT JOIN "
+                                             : " RIGHT JOIN ";
+    side(source.right);
+    m_sql += " ON ";
+    m_expressions.write(source.condition);
+}
+
+void StatementWriter::where()
+{
+    if (m_tree.where == none)
+        return;
+    m_sql += " WHERE ";
+    m_expressions.write(m_tree.where);
+}
+
+void StatementWriter::groupBy()
+{
+    const char *before = " GROUP BY ";
+    for (const Node node : m_tree.groupBy) {
+        m_sql += before;
+        m_expressions.writeOrdered(node);
+        before = ", ";
+    }
+    if (m_tree.having != none) {
+        m_sql += " HAVING ";
+        m_expressions.write(m_tree.having);
+    }
+}
+
+// Groups compare by the store's rule and come in ascending order, both of which DISTINCT alone does not promise.
+void StatementWriter::distinctGroups()
+{
+    const char *before = " GROUP BY ";
+    int ordinal = 0;
+    for (const ListItem &item : m_tree.list) {
+        m_sql += before;
+        before = ", ";
+        ++ordinal;
+        if (m_tree.at(item.expression).kind == ExpressionKind::Column)
+            m_expressions.writeOrdered(item.expression);
+        else
+            m_sql += QByteArray::number(ordinal) + " COLLATE STORE";
+    }
+}
+
+void StatementWriter::orderBy()
+{
+    const char *before = " ORDER BY ";
+    for (const OrderItem &item : m_tree.orderBy) {
+        m_sql += before;
+        orderItem(item);
+        before = ", ";
+    }
+}
+
+// A bare name means the table's column, also where the list has an alias of the same name.
+void StatementWriter::orderItem(const OrderItem &item)
+{
+    const Expression &expression = m_tree.at(item.expression);
+    const Source *only = m_tree.onlyTable();
+    if (expression.kind == ExpressionKind::Column && expression.qualifier.isEmpty() && only) {
+        appendName(m_sql, only->name());
+        m_sql += '.';
+    }
+    m_expressions.writeOrdered(item.expression);
+    m_sql += item.descending ? " DESC" : "";
+}
+
+void StatementWriter::targetValue(const Target &target)
+{
+    if (auto literal = m_expressions.literalOf(target.value)) {
+        m_out.assignments.push_back({target.column.toString(), std::move(*literal)});
+        m_sql += '?' + QByteArray::number(qint64(m_out.assignments.size()));
+    } else {
+        m_expressions.write(target.value);
+    }
+}
+
+void StatementWriter::insert()
+{
+    m_out.assignments.reserve(size_t(m_tree.targets.size()));
+    m_sql += "INSERT INTO ";
+    table(m_tree.sources[0]);
+    const char *before = " (";
+    for (const Target &target : m_tree.targets) {
+        m_sql += before;
+        appendName(m_sql, target.column);
+        before = ", ";
+    }
+    before = ") VALUES (";
+    for (const Target &target : m_tree.targets) {
+        m_sql += before;
+        targetValue(target);
+        before = ", ";
+    }
+    m_sql += ')';
+}
+
+void StatementWriter::update()
+{
+    m_out.assignments.reserve(size_t(m_tree.targets.size()));
+    m_sql += "UPDATE ";
+    table(m_tree.sources[0]);
+    const char *before = " SET ";
+    for (const Target &target : m_tree.targets) {
+        m_sql += before;
+        appendName(m_sql, target.column);
+        m_sql += " = ";
+        targetValue(target);
+        before = ", ";
+    }
+    where();
+}
+
+void StatementWriter::remove()
+{
+    m_sql += "DELETE FROM ";
+    table(m_tree.sources[0]);
+    where();
+}
+
+} // namespace
+
+Translation written(const Tree &tree, qsizetype sourceLength)
+{
+    Translation translation;
+    translation.sql.reserve(sourceLength + sourceLength / 2 + 64);
+    StatementWriter(tree, translation).statement();
+    return translation;
+}
+
+} // namespace sql
