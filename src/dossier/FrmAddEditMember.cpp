@@ -18,9 +18,9 @@ FrmAddEditMember::FrmAddEditMember()
       Command2(new CommandButton(this, u"Command2", u"Close"_s)), Frame3(new InterestEntry(SSTab1))
 {
     setDesignCaption(u"Tolmark Add/Edit Member Infromation"_s);
-    SSTab1->addTab(setUpMember(), u"Member Information"_s);
-    SSTab1->addTab(setUpEmployer(), u"Employer Information"_s);
-    SSTab1->addTab(Frame3, u"Interest"_s);
+    SSTab1->addPage(setUpMember(), u"Member Information"_s);
+    SSTab1->addPage(setUpEmployer(), u"Employer Information"_s);
+    SSTab1->addPage(Frame3, u"Interest"_s);
     setUpButtons();
     desktop::on(Command1, &QPushButton::clicked, this, &FrmAddEditMember::Command1_Click);
     desktop::on(Command2, &QPushButton::clicked, this, &FrmAddEditMember::Command2_Click);
@@ -71,7 +71,7 @@ void FrmAddEditMember::setUpButtons()
     auto *whole = new QVBoxLayout(this);
     whole->addWidget(SSTab1);
     whole->addLayout(buttons);
-    setTabOrder({SSTab1, Command1, Command2});
+    desktop::setTabOrder({SSTab1, Command1, Command2});
     txtMemberFirstName->setFocus();
 }
 

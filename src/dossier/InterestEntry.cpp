@@ -70,7 +70,7 @@ void InterestEntry::setUpContent()
     grid->addWidget(setUpButtons(), 3, 0, 1, 2);
     grid->setRowStretch(0, 3);
     grid->setRowStretch(2, 2);
-    setTabOrder({lstInterest, txtInterest, txtInterestDescription, cmdAddInterest, CMdInterestCancel});
+    desktop::setTabOrder({lstInterest, txtInterest, txtInterestDescription, cmdAddInterest, CMdInterestCancel});
 }
 
 // The buttons stand at places of their own, since one of them moves.

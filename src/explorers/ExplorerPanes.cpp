@@ -28,6 +28,7 @@ void asHeadline(Label &label)
     label.setBackgroundRole(QPalette::Button);
     label.setForegroundRole(QPalette::ButtonText);
     label.setIndent(6);
+    label.setShrinksToFit();
 }
 
 } // namespace
@@ -54,7 +55,7 @@ ExplorerPanes::ExplorerPanes(desktop::Form &window, const ExplorerTexts &texts)
     LstStudenInformation->setSelectionMode(QAbstractItemView::ExtendedSelection);
     setUpBars(texts);
     setUpPlaces();
-    QWidget::setTabOrder({LblMemberListing, TreClassView, LstStudenInformation});
+    desktop::setTabOrder({LblMemberListing, TreClassView, LstStudenInformation});
 }
 
 void ExplorerPanes::setUpBars(const ExplorerTexts &texts)

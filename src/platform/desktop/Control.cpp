@@ -28,4 +28,14 @@ void Control::setFontSize(double points)
     widget().setFont(font);
 }
 
+void setTabOrder(std::initializer_list<QWidget *> widgets)
+{
+    QWidget *before = nullptr;
+    for (QWidget *widget : widgets) {
+        if (before)
+            QWidget::setTabOrder(before, widget);
+        before = widget;
+    }
+}
+
 } // namespace desktop

@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include <array>
+#include <initializer_list>
 #include <optional>
 
 namespace desktop {
@@ -46,6 +47,9 @@ private:
     double kept(size_t which, int pixels) const;
     std::array<std::optional<double>, 4> m_place; // left, top, width, height
 };
+
+// Tab visits the widgets in this order.
+void setTabOrder(std::initializer_list<QWidget *> widgets);
 
 // A Qt widget that is a control.
 template <class Widget> class ControlOf : public Widget, public Control

@@ -4,6 +4,7 @@
 #include "platform/runtime/RuntimeError.h"
 
 #include <QString>
+#include <QWidget>
 
 #include <map>
 #include <utility>

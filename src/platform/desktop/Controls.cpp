@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyleOptionFocusRect>
+#include <QVBoxLayout>
 
 namespace desktop {
 
@@ -21,6 +22,26 @@ void Label::setClickable()
     m_clickable = true;
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
+}
+
+void Label::setShrinksToFit()
+{
+    m_fullSize = font().pointSizeF();
+}
+
+void Label::fitFont()
+{
+    constexpr double smallest = 5.0;
+    constexpr double step = 0.25;
+    const int place = contentsRect().width() - 2 * qMax(0, indent());
+    QFont fitting = font();
+    double size = m_fullSize;
+    do {
+        fitting.setPointSizeF(size);
+        size -= step;
+    } while (size >= smallest && QFontMetrics(fitting, this).horizontalAdvance(text()) > place);
+    if (fitting.pointSizeF() != font().pointSizeF())
+        setFont(fitting);
 }
 
 void Label::mouseReleaseEvent(QMouseEvent *event)
@@ -40,6 +61,8 @@ void Label::keyPressEvent(QKeyEvent *event)
 
 void Label::paintEvent(QPaintEvent *event)
 {
+    if (m_fullSize > 0)
+        fitFont();
     QLabel::paintEvent(event);
     if (!m_clickable || !hasFocus())
         return;
@@ -69,6 +92,14 @@ Frame::Frame(QWidget *parent, QAnyStringView name, const QString &caption) : Con
     setTitle(caption);
 }
 
+void TabbedDialog::addPage(QWidget *content, const QString &caption)
+{
+    auto *page = new QWidget;
+    auto *layout = new QVBoxLayout(page);
+    layout->addWidget(content);
+    addTab(page, caption);
+}
+
 ListBox::ListBox(QWidget *parent, QAnyStringView name, const QStringList &items) : ControlOf(parent, name)
 {
     addItems(items);
@@ -96,6 +127,7 @@ void ListBox::setOneLine()
     setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     const int line = qMax(sizeHintForRow(0), fontMetrics().height() + 6);
+    setGridSize(QSize(1, line)); // each item fills the line
     setFixedHeight(line + 2 * frameWidth());
 }
 

@@ -21,6 +21,8 @@ class Label : public ControlOf<QLabel>
 public:
     Label(QWidget *parent, QAnyStringView name, const QString &caption = {});
     void setClickable();
+    // Draws a text that is too wide for its place in a smaller font, so that nothing of it is cut off.
+    void setShrinksToFit();
 
 Q_SIGNALS:
     void Click();
@@ -31,7 +33,10 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void fitFont();
+
     bool m_clickable = false;
+    double m_fullSize = 0; // points; 0 while the font stays as it is
 };
 
 using TextBox = ControlOf<QLineEdit>;
@@ -57,8 +62,13 @@ public:
     Frame(QWidget *parent, QAnyStringView name, const QString &caption);
 };
 
-// The tabbed dialog.
-using TabbedDialog = ControlOf<QTabWidget>;
+// The tabbed dialog. Each page holds one widget, set off from the page's edge.
+class TabbedDialog : public ControlOf<QTabWidget>
+{
+public:
+    TabbedDialog(QWidget *parent, QAnyStringView name) : ControlOf(parent, name) {}
+    void addPage(QWidget *content, const QString &caption);
+};
 
 // A list of texts of which one can be selected. Assigning a text selects the equal item, without regard to case; a text
 // that no item has leaves nothing selected.

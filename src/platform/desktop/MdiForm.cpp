@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QCloseEvent>
+#include <QLayout>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -108,18 +109,18 @@ double MdiForm::Height() const
 void MdiForm::showChild(Form &form)
 {
     auto *host = qobject_cast<QMdiSubWindow *>(form.parentWidget());
-    if (!host) {
-        const QSize outer = form.size();
-        const bool fixed = form.testAttribute(Qt::WA_Resized);
+    const bool isNew = !host;
+    const QSize content = form.testAttribute(Qt::WA_Resized) ? form.size() : form.sizeHint();
+    if (isNew) {
         host = m_area->addSubWindow(&form);
         host->setAttribute(Qt::WA_DeleteOnClose, form.testAttribute(Qt::WA_DeleteOnClose));
-        if (fixed)
-            host->resize(outer);
-        else
-            host->adjustSize();
     }
     form.show();
     host->show();
+    if (isNew) { // the border and the title bar come on top
+        host->layout()->activate();
+        host->resize(content + host->size() - form.size());
+    }
     m_area->setActiveSubWindow(host);
 }
 

@@ -71,7 +71,7 @@ void frmLogin::setUpContent()
     auto *whole = new QVBoxLayout(this);
     whole->addLayout(grid);
     whole->addLayout(buttons);
-    setTabOrder({txtUserName, txtPassword, cmdOK, cmdCancel});
+    desktop::setTabOrder({txtUserName, txtPassword, cmdOK, cmdCancel});
 }
 
 void frmLogin::Form_Load()
