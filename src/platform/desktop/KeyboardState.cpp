@@ -23,9 +23,9 @@ struct Release
 int serverModifiers()
 {
     const auto *x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (!x11)
+    xcb_connection_t *connection = x11 ? x11->connection() : nullptr;
+    if (!connection)
         return -1;
-    xcb_connection_t *connection = x11->connection();
     const xcb_screen_t *screen = xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
     const std::unique_ptr<xcb_query_pointer_reply_t, Release> reply(
         xcb_query_pointer_reply(connection, xcb_query_pointer(connection, screen->root), nullptr));

@@ -1,0 +1,331 @@
+#include "explorers/FrmDataBaseExplorer.h"
+#include "support/DataStoreFolder.h"
+#include "support/Dialogs.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+
+using namespace Qt::Literals::StringLiterals;
+
+using desktop::Label;
+using desktop::ListView;
+using desktop::Node;
+using desktop::TreeView;
+
+namespace {
+
+// An open explorer, driven by mouse and keyboard.
+class Explorer
+{
+public:
+    explicit Explorer(qint16 level = 0)
+    {
+        m_window.UserLevel = level;
+        m_window.Show();
+    }
+
+    FrmDataBaseExplorer &window() { return m_window; }
+    TreeView &tree() { return *child<TreeView>(m_window, "TreClassView"); }
+    ListView &list() { return *child<ListView>(m_window, "LstStudenInformation"); }
+    QString listing() { return child<Label>(m_window, "LblMemberListing")->text(); }
+    QString information() { return child<Label>(m_window, "LblMemberInformation")->text(); }
+
+    void clickGroup(const QString &name)
+    {
+        for (int index = 1; index <= tree().Nodes.Count(); ++index) {
+            Node &node = tree().Nodes(index);
+            if (node.Tag == name) {
+                tree().scrollToItem(&node);
+                QTest::mouseClick(tree().viewport(), Qt::LeftButton, {}, tree().visualItemRect(&node).center());
+            }
+        }
+    }
+    void clickHeader(int index)
+    {
+        QHeaderView *header = list().header();
+        list().horizontalScrollBar()->setValue(header->sectionPosition(index - 1));
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
+                          QPoint(header->sectionViewportPosition(index - 1) + 10, 5));
+    }
+    void clickDelete()
+    {
+        auto *bar = child<desktop::Toolbar>(m_window, "Toolbar1");
+        QTest::mouseClick(bar->widgetForAction(bar->actions().constFirst()), Qt::LeftButton);
+    }
+    QStringList column(int index)
+    {
+        QStringList texts;
+        for (int row = 1; row <= list().ListItems.Count(); ++row)
+            texts << list().ListItems(row).SubItems(index);
+        return texts;
+    }
+    void select(const QString &memberId)
+    {
+        for (int row = 1; row <= list().ListItems.Count(); ++row) {
+            if (list().ListItems(row).Text() == memberId)
+                list().ListItems(row).setSelected(true);
+        }
+    }
+
+private:
+    FrmDataBaseExplorer m_window;
+};
+
+// A small organisation in which every count is known.
+constexpr const char *knownMembers =
+    "DELETE FROM MemberInformation;"
+    "INSERT INTO MemberInformation (MemberId, MemberTypeId, FirstName, LastName, City, Active) VALUES"
+    " (1, 1, 'Ann', 'Abel', 'Zurich', -1), (2, 1, 'bea', 'adams', NULL, -1), (3, 9999, NULL, 'Ack', 'Aachen', -1),"
+    " (4, 1, 'Gone', 'Away', 'X', 0), (5, NULL, 'Ed', 'Cole', '', -1), (40000, 1, 'Far', 'Cox', 'Y', -1),"
+    " (7, 1, 'Odd', 'Dee', 'Z', 1);";
+
+} // namespace
+
+class tst_MemberExplorer : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        m_folder.emplace(DataStoreFolder::Content::Sample);
+        m_folder->execute(knownMembers);
+    }
+
+    void groupsShowTheirCounts()
+    {
+        CaughtErrors errors;
+        Explorer explorer;
+        QCOMPARE(explorer.tree().Nodes.Count(), 26);
+        QCOMPARE(explorer.tree().Nodes(1).Text(), u"A     (3)"_s);
+        QVERIFY(explorer.tree().Nodes(1).font(0).bold());
+        QCOMPARE(explorer.tree().Nodes(2).Text(), u"B"_s);
+        QVERIFY(!explorer.tree().Nodes(2).font(0).bold());
+        QCOMPARE(explorer.tree().Nodes(4).Text(), u"D     (1)"_s); // a Yes that another tool wrote as 1
+        QCOMPARE(explorer.listing(), u"Members - 6 (Click to Refresh)"_s);
+        QCOMPARE(explorer.list().ListItems.Count(), 0);
+    }
+
+    void aClickListsTheGroup()
+    {
+        CaughtErrors errors;
+        Explorer explorer;
+        explorer.clickGroup(u"A"_s);
+        QCOMPARE(explorer.window().windowTitle(),
+                 u"Member Explorer : Member's with a last name starting with \"A\" are displayed."_s);
+        QCOMPARE(explorer.information(), u"Member Information - 3"_s);
+        QCOMPARE(explorer.column(0), (QStringList{u"1"_s, u"3"_s, u"2"_s})); // as the index on the name gives them
+        QCOMPARE(explorer.list().ListItems(3).Tag, u"2"_s);
+        QCOMPARE(explorer.column(2), (QStringList{u"Ann"_s, QString(), u"bea"_s}));
+        QVERIFY(explorer.column(1).at(1).isEmpty()); // a type that does not exist
+        explorer.clickGroup(u"B"_s);
+        QCOMPARE(explorer.information(), u"Member Information - "_s);
+        QCOMPARE(explorer.list().ListItems.Count(), 0);
+    }
+
+    void theKeyboardListsAGroupToo()
+    {
+        CaughtErrors errors;
+        Explorer explorer;
+        explorer.tree().setFocus(Qt::TabFocusReason);
+        QTRY_VERIFY(explorer.tree().hasFocus());
+        QTest::keyClick(&explorer.tree(), Qt::Key_Down);
+        QTest::keyClick(&explorer.tree(), Qt::Key_Down);
+        QCOMPARE(explorer.column(4), (QStringList{u"Cole"_s, u"Cox"_s}));
+    }
+
+    void theStoreSorts()
+    {
+        CaughtErrors errors;
+        Explorer explorer;
+        explorer.clickGroup(u"A"_s);
+        explorer.clickHeader(7);
+        QCOMPARE(explorer.column(6), (QStringList{QString(), u"Aachen"_s, u"Zurich"_s}));
+        QCOMPARE(explorer.information(), u"Member Information - 3 : Currently the list is sorted by the field City in "
+                                         u"ascending order"_s);
+        explorer.clickHeader(7);
+        QCOMPARE(explorer.column(6), (QStringList{u"Zurich"_s, u"Aachen"_s, QString()}));
+        explorer.clickGroup(u"C"_s); // a sort once chosen applies to every group
+        QCOMPARE(explorer.column(6), (QStringList{u"Y"_s, QString()}));
+    }
+
+    // The store refuses the stray bracket; the headline has changed already and the list stays.
+    void theSortOnCellPhoneFailsQuietly()
+    {
+        CaughtErrors errors;
+        Explorer explorer;
+        explorer.clickGroup(u"A"_s);
+        explorer.clickHeader(11);
+        QCOMPARE(explorer.list().ListItems.Count(), 3);
+        QVERIFY(explorer.information().endsWith(u"sorted by the field Cell Phone in ascending order"));
+        explorer.clickHeader(3);
+        QCOMPARE(explorer.column(2), (QStringList{QString(), u"Ann"_s, u"bea"_s}));
+    }
+
+    void aDeletionByTheToolbarEndsInTheReport()
+    {
+        CaughtErrors errors;
+        BoxAnswers boxes({QMessageBox::Yes});
+        Explorer explorer;
+        explorer.clickGroup(u"A"_s);
+        explorer.select(u"1"_s);
+        explorer.select(u"3"_s);
+        explorer.clickDelete();
+        QCOMPARE(boxes.seen.size(), 1);
+        QCOMPARE(boxes.seen[0].text, u"You are about to delete the selected members\nDo you want to proceed?"_s);
+        QCOMPARE(boxes.seen[0].title, u"Tolmark"_s);
+        QCOMPARE(boxes.seen[0].buttons, QMessageBox::Yes | QMessageBox::No);
+        QCOMPARE(errors.takeNumber(), 35602);
+        QCOMPARE(explorer.column(0), QStringList{u"2"_s});
+        QCOMPARE(m_folder->row("SELECT group_concat(MemberId) FROM (SELECT MemberId FROM MemberInformation ORDER BY 1)"), u"2,4,5,7,40000"_s);
+    }
+
+    void theDeleteKeySwallowsTheSameError()
+    {
+        CaughtErrors errors;
+        BoxAnswers boxes({QMessageBox::Yes});
+        Explorer explorer;
+        explorer.clickGroup(u"A"_s);
+        explorer.select(u"2"_s);
+        QTest::keyClick(&explorer.list(), Qt::Key_Delete);
+        QCOMPARE(explorer.column(0), (QStringList{u"1"_s, u"3"_s}));
+        QCOMPARE(explorer.listing(), u"Members - 6 (Click to Refresh)"_s); // until it is clicked
+        QTest::mouseClick(child<Label>(explorer.window(), "LblMemberListing"), Qt::LeftButton);
+        QCOMPARE(explorer.listing(), u"Members - 5 (Click to Refresh)"_s);
+        QCOMPARE(explorer.tree().Nodes(1).Text(), u"A     (2)"_s);
+        QCOMPARE(explorer.list().ListItems.Count(), 2);
+    }
+
+    void noDeletesNothingAndAnEmptyListIsAskedOnlyByTheKey()
+    {
+        CaughtErrors errors;
+        Explorer explorer;
+        explorer.clickDelete(); // an empty list: not even a question
+        {
+            BoxAnswers boxes({QMessageBox::No});
+            QTest::keyClick(&explorer.list(), Qt::Key_Delete);
+        }
+        BoxAnswers boxes({QMessageBox::No});
+        explorer.clickGroup(u"A"_s);
+        explorer.select(u"2"_s);
+        explorer.clickDelete();
+        QCOMPARE(m_folder->row("SELECT count(*) FROM MemberInformation"), u"7"_s);
+    }
+
+    void dossiersAreAskedForByDoubleClickAndEnter()
+    {
+        CaughtErrors errors;
+        Explorer explorer;
+        QList<DossierRequest> requests;
+        connect(&explorer.window(), &FrmDataBaseExplorer::dossierRequested, this,
+                [&requests](const DossierRequest &request) { requests << request; });
+        explorer.clickGroup(u"A"_s);
+        explorer.list().selectAll();
+        QTest::keyClick(&explorer.list(), Qt::Key_Return);
+        QCOMPARE(requests.size(), 3);
+        QCOMPARE(requests[0].Caption, u"Tolmark Member Information : Ann  Abel"_s);
+        const QPoint second = explorer.list().visualItemRect(&explorer.list().ListItems(2)).center();
+        QTest::mouseDClick(explorer.list().viewport(), Qt::LeftButton, {}, second);
+        QCOMPARE(requests.size(), 4);
+        QCOMPARE(requests[3].MemberId, qint16(3));
+        // The answer to a box is pressed there and released over the list: no dossier.
+        QTest::keyRelease(&explorer.list(), Qt::Key_Return);
+        QCOMPARE(requests.size(), 4);
+    }
+
+    void aKeyBeyond16BitsOverflows()
+    {
+        CaughtErrors errors;
+        Explorer explorer;
+        explorer.clickGroup(u"C"_s);
+        const QPoint second = explorer.list().visualItemRect(&explorer.list().ListItems(2)).center();
+        QTest::mouseDClick(explorer.list().viewport(), Qt::LeftButton, {}, second);
+        QCOMPARE(errors.takeNumber(), 6);
+        explorer.list().setCurrentItem(&explorer.list().ListItems(2));
+        QTest::keyClick(&explorer.list(), Qt::Key_Return); // the keys swallow it
+    }
+
+    void splitter_data()
+    {
+        QTest::addColumn<double>("newTreeWidth");
+        QTest::addColumn<bool>("moves");
+        QTest::newRow("a little") << 3000.0 << true;
+        QTest::newRow("D just 80") << 55.0 << false;
+        QTest::newRow("D above 80") << 60.0 << true;
+        QTest::newRow("D at the right limit") << -1.0 << true;
+        QTest::newRow("D beyond it") << -2.0 << false;
+    }
+    void splitter()
+    {
+        QFETCH(double, newTreeWidth);
+        QFETCH(bool, moves);
+        CaughtErrors errors;
+        Explorer explorer;
+        const double limit = explorer.window().Width() - 335 - 25;
+        if (newTreeWidth < 0)
+            newTreeWidth = newTreeWidth == -1.0 ? limit : limit + 15;
+        auto *bar = child<desktop::PictureBox>(explorer.window(), "Picture1");
+        Q_EMIT bar->MouseMove(1, float(newTreeWidth - 2475), 0);
+        QCOMPARE(explorer.tree().Width(), moves ? newTreeWidth : 2475.0);
+        const double listLeft = moves ? newTreeWidth + 45 + 30 + 25 : 2595.0;
+        QCOMPARE(explorer.list().Left(), listLeft);
+        if (moves)
+            QCOMPARE(explorer.list().Width(), std::abs(listLeft + 200 - explorer.window().Width()));
+        const double before = explorer.tree().Width();
+        Q_EMIT bar->MouseMove(3, 300, 0); // two buttons
+        Q_EMIT bar->MouseMove(0, 300, 0); // none
+        QCOMPARE(explorer.tree().Width(), before);
+        QCOMPARE(bar->cursor().shape(), Qt::SizeHorCursor);
+    }
+
+    void theAdministratorSeesUsersNestedUnderTheirGroup()
+    {
+        m_folder->execute("DELETE FROM Security; INSERT INTO Security (SecurityId, UserFirstName, UserMiddleName, "
+                          "UserLastName) VALUES (5, 'Ann', NULL, 'Bell'), (6, 'Bo', 'X', 'Brown')");
+        CaughtErrors errors;
+        Explorer explorer(99);
+        QCOMPARE(explorer.tree().Nodes.Count(), 28);
+        const Node &bell = explorer.tree().Nodes(3);
+        QCOMPARE(bell.Text(), u"Bell, Ann "_s);
+        QCOMPARE(bell.Tag, u"5"_s);
+        QCOMPARE(bell.Key, u"Bell0"_s);
+        QCOMPARE(explorer.tree().Nodes(4).parent(), &bell);
+        QCOMPARE(explorer.listing(), u"Members - 0 (Click to Refresh)"_s);
+        QCOMPARE(explorer.information(), u"Description"_s);
+    }
+
+    void loadFailures_data()
+    {
+        QTest::addColumn<QByteArray>("damage");
+        QTest::addColumn<int>("number");
+        QTest::newRow("no group") << QByteArray("DELETE FROM NodeInformation") << 91;
+        QTest::newRow("a group with an apostrophe")
+            << QByteArray("INSERT INTO NodeInformation (NodeName, NodeActive) VALUES ('O''', 1)") << -2147217900;
+        QTest::newRow("no table") << QByteArray("DROP TABLE MemberInformation") << -2147217865;
+        QTest::newRow("a group twice")
+            << QByteArray("INSERT INTO NodeInformation (NodeName, NodeActive) VALUES ('A', 1)") << 35602;
+    }
+    void loadFailures()
+    {
+        QFETCH(QByteArray, damage);
+        QFETCH(int, number);
+        m_folder->execute(damage.constData());
+        CaughtErrors errors;
+        desktop::guarded([] { Explorer explorer; });
+        QCOMPARE(errors.takeNumber(), number);
+    }
+
+    void theCountOfMembersOverflowsAt32768()
+    {
+        m_folder->execute("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i < 32768)"
+                          "INSERT INTO MemberInformation (LastName) SELECT 'Q' FROM n");
+        CaughtErrors errors;
+        desktop::guarded([] { Explorer explorer; });
+        QCOMPARE(errors.takeNumber(), 6);
+    }
+
+private:
+    std::optional<DataStoreFolder> m_folder;
+};
+
+QTEST_MAIN(tst_MemberExplorer)
+#include "tst_memberexplorer.moc"

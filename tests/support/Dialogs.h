@@ -1,0 +1,91 @@
+// Answers the message boxes that a test makes the program show, and catches what would have been reported as unhandled.
+#pragma once
+
+#include "platform/desktop/ErrorReport.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+
+#include <optional>
+
+// A box as it stood on the screen.
+struct SeenBox
+{
+    QString title;
+    QString text;
+    QMessageBox::Icon icon;
+    QMessageBox::StandardButtons buttons;
+};
+
+// Presses the planned buttons on the boxes that come up, in their order. A box that nobody planned is closed and fails
+// the test, and so does a plan that no box used.
+class BoxAnswers : public QObject
+{
+public:
+    explicit BoxAnswers(QList<QMessageBox::StandardButton> plan = {}) : m_plan(std::move(plan))
+    {
+        m_timer.callOnTimeout(this, [this] { look(); });
+        m_timer.start(1);
+    }
+    ~BoxAnswers() override
+    {
+        if (!m_plan.isEmpty())
+            QTest::qFail("a planned message box never came", __FILE__, __LINE__);
+    }
+
+    QList<SeenBox> seen;
+
+private:
+    void look()
+    {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box || !box->isVisible())
+            return;
+        seen << SeenBox{box->windowTitle(), box->text(), box->icon(), box->standardButtons()};
+        if (m_plan.isEmpty()) {
+            QTest::qFail(qPrintable(QStringLiteral("unexpected message box: ") + box->text()), __FILE__, __LINE__);
+            box->done(QMessageBox::Cancel);
+            return;
+        }
+        QTest::mouseClick(box->button(m_plan.takeFirst()), Qt::LeftButton);
+    }
+
+    QList<QMessageBox::StandardButton> m_plan;
+    QTimer m_timer;
+};
+
+// Keeps the errors that no handler held back. The test looks at them; one left over fails it.
+class CaughtErrors
+{
+public:
+    CaughtErrors()
+    {
+        desktop::setErrorReport([this](const runtime::RuntimeError &error) { m_errors << error; });
+    }
+    ~CaughtErrors()
+    {
+        desktop::setErrorReport({});
+        for (const runtime::RuntimeError &error : m_errors)
+            QTest::qFail(error.what(), __FILE__, __LINE__);
+    }
+
+    // The first error that is not taken yet; its number, 0 when there is none.
+    int takeNumber() { return m_errors.isEmpty() ? 0 : m_errors.takeFirst().number(); }
+
+private:
+    QList<runtime::RuntimeError> m_errors;
+};
+
+// The one child of that name; a missing one fails the test with the names that there are.
+template <class Widget = QWidget> Widget *child(const QObject &parent, const char *name)
+{
+    if (auto *found = parent.findChild<Widget *>(QString::fromLatin1(name)))
+        return found;
+    QStringList names;
+    for (const QObject *each : parent.findChildren<QObject *>())
+        names << each->objectName();
+    names.removeAll(QString());
+    qFatal("no child %s among %s", name, qPrintable(names.join(QLatin1Char(' '))));
+}
