@@ -18,10 +18,10 @@ packages_of() {
 # missing_packages GROUP...: those of them that are not installed.
 missing_packages() {
     local wanted
-    mapfile -t wanted < <(packages_of "$@")
+    mapfile -t wanted < <(packages_of "$@" | sort)
     # dpkg-query fails when it knows nothing of a package, which is an answer here.
-    { dpkg-query -W -f='${db:Status-Status} ${Package}\n' "${wanted[@]}" 2>/dev/null || true; } |
-        awk 'NR == FNR { if ($1 == "installed") there[$2] = 1; next } !($1 in there)' - <(printf '%s\n' "${wanted[@]}")
+    comm -13 <(dpkg-query -W -f='${db:Status-Status} ${Package}\n' "${wanted[@]}" 2>/dev/null |
+        sed -n 's/^installed //p' | sort) <(printf '%s\n' "${wanted[@]}")
 }
 
 # install_missing GROUP...: as root or through sudo; touches nothing when everything is there.
