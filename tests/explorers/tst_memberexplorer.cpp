@@ -176,7 +176,9 @@ private Q_SLOTS:
         QCOMPARE(boxes.seen[0].buttons, QMessageBox::Yes | QMessageBox::No);
         QCOMPARE(errors.takeNumber(), 35602);
         QCOMPARE(explorer.column(0), QStringList{u"2"_s});
-        QCOMPARE(m_folder->row("SELECT group_concat(MemberId) FROM (SELECT MemberId FROM MemberInformation ORDER BY 1)"), u"2,4,5,7,40000"_s);
+        QCOMPARE(
+            m_folder->row("SELECT group_concat(MemberId) FROM (SELECT MemberId FROM MemberInformation ORDER BY 1)"),
+            u"2,4,5,7,40000"_s);
     }
 
     void theDeleteKeySwallowsTheSameError()
@@ -301,8 +303,9 @@ private Q_SLOTS:
         QTest::newRow("a group with an apostrophe")
             << QByteArray("INSERT INTO NodeInformation (NodeName, NodeActive) VALUES ('O''', 1)") << -2147217900;
         QTest::newRow("no table") << QByteArray("DROP TABLE MemberInformation") << -2147217865;
-        QTest::newRow("a group twice")
-            << QByteArray("INSERT INTO NodeInformation (NodeName, NodeActive) VALUES ('A', 1)") << 35602;
+        QTest::newRow("a group twice") << QByteArray(
+                                              "INSERT INTO NodeInformation (NodeName, NodeActive) VALUES ('A', 1)")
+                                       << 35602;
     }
     void loadFailures()
     {
