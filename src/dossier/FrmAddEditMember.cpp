@@ -12,14 +12,14 @@ using namespace Qt::Literals::StringLiterals;
 
 using desktop::CommandButton;
 
+// Tab follows the order in which the controls are made.
 FrmAddEditMember::FrmAddEditMember()
-    : Form(Place::InFrame, u"FrmAddEditMember"), SSTab1(new desktop::TabbedDialog(this, u"SSTab1")),
-      Command1(new CommandButton(this, u"Command1", u"Save"_s)),
-      Command2(new CommandButton(this, u"Command2", u"Close"_s)), Frame3(new InterestEntry(SSTab1))
+    : Form(Place::InFrame, u"FrmAddEditMember"), SSTab1(new desktop::TabbedDialog(this, u"SSTab1"))
 {
     setDesignCaption(u"Tolmark Add/Edit Member Infromation"_s);
     SSTab1->addPage(setUpMember(), u"Member Information"_s);
     SSTab1->addPage(setUpEmployer(), u"Employer Information"_s);
+    Frame3 = new InterestEntry(SSTab1);
     SSTab1->addPage(Frame3, u"Interest"_s);
     setUpButtons();
     desktop::on(Command1, &QPushButton::clicked, this, &FrmAddEditMember::Command1_Click);
@@ -64,6 +64,8 @@ QWidget *FrmAddEditMember::setUpEmployer()
 
 void FrmAddEditMember::setUpButtons()
 {
+    Command1 = new CommandButton(this, u"Command1", u"Save"_s);
+    Command2 = new CommandButton(this, u"Command2", u"Close"_s);
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(Command1);
@@ -71,7 +73,6 @@ void FrmAddEditMember::setUpButtons()
     auto *whole = new QVBoxLayout(this);
     whole->addWidget(SSTab1);
     whole->addLayout(buttons);
-    desktop::setTabOrder({SSTab1, Command1, Command2});
     txtMemberFirstName->setFocus();
 }
 

@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QStyleOptionFocusRect>
 #include <QVBoxLayout>
 
@@ -92,6 +93,29 @@ Frame::Frame(QWidget *parent, QAnyStringView name, const QString &caption) : Con
     setTitle(caption);
 }
 
+TabbedDialog::TabbedDialog(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
+{
+    const auto turn = [this](const QKeySequence &keys, int pages) {
+        auto *shortcut = new QShortcut(keys, this);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this,
+                [this, pages] { turnTo((currentIndex() + pages + count()) % count()); });
+    };
+    turn(Qt::CTRL | Qt::Key_PageDown, 1);
+    turn(Qt::CTRL | Qt::Key_PageUp, -1);
+}
+
+void TabbedDialog::turnTo(int page)
+{
+    setCurrentIndex(page);
+    for (QWidget *next = currentWidget()->nextInFocusChain(); next != currentWidget();
+         next = next->nextInFocusChain()) {
+        const bool takesFocus = (next->focusPolicy() & Qt::TabFocus) && next->isEnabled() && next->isVisible();
+        if (takesFocus && currentWidget()->isAncestorOf(next))
+            return next->setFocus(Qt::TabFocusReason);
+    }
+}
+
 void TabbedDialog::addPage(QWidget *content, const QString &caption)
 {
     auto *page = new QWidget;
@@ -127,7 +151,8 @@ void ListBox::setOneLine()
     setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     const int line = qMax(sizeHintForRow(0), fontMetrics().height() + 6);
-    setGridSize(QSize(1, line)); // each item fills the line
+    for (int row = 0; row < count(); ++row)
+        item(row)->setSizeHint(QSize(0, line)); // each item fills the line
     setFixedHeight(line + 2 * frameWidth());
 }
 

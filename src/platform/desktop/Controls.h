@@ -62,12 +62,16 @@ public:
     Frame(QWidget *parent, QAnyStringView name, const QString &caption);
 };
 
-// The tabbed dialog. Each page holds one widget, set off from the page's edge.
+// The tabbed dialog. Each page holds one widget, set off from the page's edge; Ctrl with Page Up or Page Down turns them.
 class TabbedDialog : public ControlOf<QTabWidget>
 {
 public:
-    TabbedDialog(QWidget *parent, QAnyStringView name) : ControlOf(parent, name) {}
+    TabbedDialog(QWidget *parent, QAnyStringView name);
     void addPage(QWidget *content, const QString &caption);
+
+private:
+    // The keyboard goes on in the first box of the page.
+    void turnTo(int page);
 };
 
 // A list of texts of which one can be selected. Assigning a text selects the equal item, without regard to case; a text

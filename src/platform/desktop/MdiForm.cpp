@@ -6,12 +6,12 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QCloseEvent>
-#include <QLayout>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QStyle>
 #include <QSvgRenderer>
 
 using namespace Qt::Literals::StringLiterals;
@@ -24,6 +24,15 @@ MdiForm *&theFrame()
 {
     static MdiForm *frame = nullptr;
     return frame;
+}
+
+// What a child window's border and title bar take; its own layout knows it only once it has been seen.
+QMargins borders(const QMdiSubWindow &host)
+{
+    constexpr int aboveAndBelowTitle = 4;
+    const int frame = host.style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth, nullptr, &host);
+    const int title = host.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &host);
+    return {frame, title + aboveAndBelowTitle, frame, frame};
 }
 
 } // namespace
@@ -109,18 +118,19 @@ double MdiForm::Height() const
 void MdiForm::showChild(Form &form)
 {
     auto *host = qobject_cast<QMdiSubWindow *>(form.parentWidget());
-    const bool isNew = !host;
     const QSize content = form.testAttribute(Qt::WA_Resized) ? form.size() : form.sizeHint();
-    if (isNew) {
+    if (!host) {
         host = m_area->addSubWindow(&form);
         host->setAttribute(Qt::WA_DeleteOnClose, form.testAttribute(Qt::WA_DeleteOnClose));
+        host->resize(content.grownBy(borders(*host)));
+        form.show();
+        host->show();
+        // The area has found a place for it; what still hangs over an edge comes in.
+        const QSize room = m_area->viewport()->size() - host->size();
+        host->move(qMax(0, qMin(host->x(), room.width())), qMax(0, qMin(host->y(), room.height())));
     }
     form.show();
     host->show();
-    if (isNew) { // the border and the title bar come on top
-        host->layout()->activate();
-        host->resize(content + host->size() - form.size());
-    }
     m_area->setActiveSubWindow(host);
 }
 
