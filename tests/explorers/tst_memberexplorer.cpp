@@ -122,6 +122,21 @@ private Q_SLOTS:
         QCOMPARE(explorer.list().ListItems.Count(), 0);
     }
 
+    // Beside the nodes a click finds no node before one is selected, and keeps the selected one afterwards.
+    void aClickBesideTheNodes()
+    {
+        CaughtErrors errors;
+        Explorer explorer;
+        const QPoint beside(20, explorer.tree().viewport()->height() - 3);
+        QVERIFY(!explorer.tree().itemAt(beside));
+        QTest::mouseClick(explorer.tree().viewport(), Qt::LeftButton, {}, beside);
+        QCOMPARE(errors.takeNumber(), 91);
+        explorer.clickGroup(u"C"_s);
+        QTest::mouseClick(explorer.tree().viewport(), Qt::LeftButton, {}, beside);
+        QCOMPARE(explorer.tree().SelectedItem()->Tag, u"C"_s);
+        QCOMPARE(explorer.list().ListItems.Count(), 2);
+    }
+
     void theKeyboardListsAGroupToo()
     {
         CaughtErrors errors;

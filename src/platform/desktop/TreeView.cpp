@@ -75,8 +75,17 @@ ObjectRef<Node> TreeView::SelectedItem() const
 void TreeView::mouseReleaseEvent(QMouseEvent *event)
 {
     QTreeWidget::mouseReleaseEvent(event);
-    if (event->button() == Qt::LeftButton)
+    if (event->button() == Qt::LeftButton && viewport()->rect().contains(event->position().toPoint()))
         Q_EMIT Click();
+}
+
+// A node once selected stays so until another one is: neither a click beside the nodes nor one with Ctrl takes it away.
+QItemSelectionModel::SelectionFlags TreeView::selectionCommand(const QModelIndex &index, const QEvent *event) const
+{
+    if (!index.isValid())
+        return QItemSelectionModel::NoUpdate;
+    const auto command = QTreeWidget::selectionCommand(index, event);
+    return command & QItemSelectionModel::Toggle ? QItemSelectionModel::ClearAndSelect : command;
 }
 
 void TreeView::keyPressEvent(QKeyEvent *event)
