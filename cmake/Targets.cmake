@@ -7,7 +7,9 @@ target_compile_options(tolmark_options INTERFACE -Wall -Wextra -Wpedantic -Wshad
                                                  $<$<BOOL:${TOLMARK_WARNINGS_AS_ERRORS}>:-Werror>)
 if(TOLMARK_SANITIZE)
     target_compile_options(tolmark_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
-                                                     -fno-omit-frame-pointer)
+                                                     -fno-omit-frame-pointer
+                                                     # the sanitizers' code confuses this one about std::variant
+                                                     -Wno-maybe-uninitialized)
     target_link_options(tolmark_options INTERFACE -fsanitize=address,undefined)
 endif()
 

@@ -15,14 +15,14 @@ namespace {
 
 constexpr const char *errorSource = "ADODB.Recordset";
 
-// The provider's error of a statement as an Update of a recordset reports it.
-runtime::RuntimeError updateError(const StoreError &error)
+// Raises the error of a statement anew, as an Update of a recordset reports it.
+[[noreturn]] void raiseUpdateError(const StoreError &error)
 {
     if (error.isReadOnly())
-        return providerError(Unspecified, u"Cannot update.  Database or object is read-only."_s);
+        throw providerError(Unspecified, u"Cannot update.  Database or object is read-only."_s);
     if (error.isConstraint())
-        return providerError(MultipleStep, error.description());
-    return error;
+        throw providerError(MultipleStep, error.description());
+    throw; // as it is: this is called while it is handled
 }
 
 Value refusedUnless(ColumnType type, const Value &value)
@@ -194,7 +194,7 @@ void Cursor::update()
                 m_source.readRow(rowId, *m_rows, m_row);
         }
     } catch (const StoreError &error) {
-        throw updateError(error);
+        raiseUpdateError(error);
     }
     m_changes.clear();
     endSeries(-1);
@@ -217,7 +217,7 @@ void Cursor::deleteRow()
     try {
         m_source.deleteRow(rowId);
     } catch (const StoreError &error) {
-        throw updateError(error);
+        raiseUpdateError(error);
     }
     load();
     if (m_addedRowId) {

@@ -9,20 +9,21 @@ namespace data {
 
 namespace {
 
-runtime::RuntimeError dialectError(const StoreError &error)
+// Raises the error anew in the dialect's own words; one that has none there stays as it is.
+[[noreturn]] void raiseDialectError(const StoreError &error)
 {
-    const QString message = error.description();
+    const QString &message = error.description();
     const QString name = message.section(u": "_s, 1);
     if (message.startsWith(u"no such table"))
-        return providerError(NoSuchTable, u"The Microsoft Jet database engine cannot find the input table or query "
-                                          u"'%1'.  Make sure it exists and that its name is spelled correctly."_s.arg(
-                                              name.startsWith(u"main.") ? name.sliced(5) : name));
+        throw providerError(NoSuchTable, u"The Microsoft Jet database engine cannot find the input table or query "
+                                         u"'%1'.  Make sure it exists and that its name is spelled correctly."_s.arg(
+                                             name.startsWith(u"main.") ? name.sliced(5) : name));
     if (message.startsWith(u"no such column"))
-        return providerError(NoSuchColumn, u"No value given for one or more required parameters."_s);
+        throw providerError(NoSuchColumn, u"No value given for one or more required parameters."_s);
     if (message.startsWith(u"ambiguous column name"))
-        return providerError(Unspecified, u"The specified field '%1' could refer to more than one table listed in the "
-                                          u"FROM clause of your SQL statement."_s.arg(name));
-    return error;
+        throw providerError(Unspecified, u"The specified field '%1' could refer to more than one table listed in the "
+                                         u"FROM clause of your SQL statement."_s.arg(name));
+    throw; // as it is: this is called while it is handled
 }
 
 } // namespace
@@ -34,7 +35,7 @@ Statement prepareChecked(Database &database, const sql::Translation &translation
     try {
         return database.prepare(sql);
     } catch (const StoreError &error) {
-        throw dialectError(error);
+        raiseDialectError(error);
     }
 }
 

@@ -62,7 +62,8 @@ public:
     Frame(QWidget *parent, QAnyStringView name, const QString &caption);
 };
 
-// The tabbed dialog. Each page holds one widget, set off from the page's edge; Ctrl with Page Up or Page Down turns them.
+// The tabbed dialog. Each page holds one widget, set off from the page's edge; Ctrl with Page Up or Page Down turns
+// them.
 class TabbedDialog : public ControlOf<QTabWidget>
 {
 public:

@@ -34,17 +34,22 @@ template <class Handler> bool guarded(Handler &&handler)
 // Error 7 gives the message "Too Many windows are currently open" and the error's description; any other is swallowed.
 void reportOutOfMemoryOnly(const std::function<void()> &steps);
 
-// Connects a signal to a handler of the receiver, through the guard. The handler takes the signal's arguments or none.
+// Calls the handler with the signal's arguments, or with none when it takes none.
+template <class Receiver, class Handler, class... Arguments>
+void callHandler(Receiver *receiver, Handler handler, Arguments &&...arguments)
+{
+    if constexpr (std::is_invocable_v<Handler, Receiver *, Arguments...>)
+        std::invoke(handler, receiver, std::forward<Arguments>(arguments)...);
+    else
+        std::invoke(handler, receiver);
+}
+
+// Connects a signal to a handler of the receiver, through the guard.
 template <class Sender, class Signal, class Receiver, class Handler>
 void on(Sender *sender, Signal signal, Receiver *receiver, Handler handler)
 {
     Receiver::connect(sender, signal, receiver, [receiver, handler](auto &&...arguments) {
-        guarded([&] {
-            if constexpr (std::is_invocable_v<Handler, Receiver *, decltype(arguments)...>)
-                std::invoke(handler, receiver, std::forward<decltype(arguments)>(arguments)...);
-            else
-                std::invoke(handler, receiver);
-        });
+        guarded([&] { callHandler(receiver, handler, arguments...); });
     });
 }
 

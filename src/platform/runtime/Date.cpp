@@ -49,7 +49,8 @@ QTime Date::time() const
 double Date::toSerial() const
 {
     const qint64 second = (rest() + secondsPerDay) % secondsPerDay;
-    const double wholeDays = double((m_seconds - second) / secondsPerDay);
+    const qint64 dayNumber = (m_seconds - second) / secondsPerDay;
+    const double wholeDays = double(dayNumber);
     const double fraction = double(second) / double(secondsPerDay);
     return wholeDays < 0 ? wholeDays - fraction : wholeDays + fraction;
 }

@@ -32,7 +32,7 @@ QString nextName()
 {
     auto &enumeration = running();
     while (!enumeration->names.isEmpty()) {
-        const QString name = enumeration->names.takeFirst();
+        QString name = enumeration->names.takeFirst();
         if (QFileInfo(enumeration->folder + u'/' + name).isFile())
             return name;
     }

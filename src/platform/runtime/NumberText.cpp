@@ -105,7 +105,7 @@ std::optional<QString> plainDigits(QStringView text, const QString &decimalSign,
 
 std::optional<QString> plainNumber(QStringView text)
 {
-    if (const auto radix = plainRadixNumber(text.trimmed()))
+    if (auto radix = plainRadixNumber(text.trimmed()))
         return radix;
     const QLocale locale = regional();
     const Trimmings number = trimmed(text, locale.currencySymbol());
