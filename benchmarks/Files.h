@@ -1,0 +1,30 @@
+// The data files that the benchmarks share. Each is made at its first use, which is never part of what is measured.
+//
+// They stand in the folder that TOLMARK_BENCHMARK_FOLDER names, so that several programs can share them and whoever
+// names it removes them; without that, in a temporary folder of the process.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace files {
+
+constexpr int attachmentBytes = 10'239; // and the zero byte: 10 KB a row
+
+QString folder();
+// Tolmark.mdb: 32,767 members, 2,000 of whom are listed under largeGroup; 100,000 interests; 10,000 attachments.
+QString organisation();
+// The same tables with ten attachments.
+QString fewAttachments();
+// An empty organisation in a file of its own for each name.
+QString empty(const QString &name);
+
+constexpr char largeGroup = 'X';
+
+QString connectionString(const QString &path);
+// SQLite's SQL for a statement of the dialect: what the floors run.
+QByteArray emitted(const QString &statement);
+// For the count of a recordset's rows.
+QByteArray emittedCount(const QString &statement);
+
+} // namespace files
