@@ -49,6 +49,7 @@ enum class Operator {
     Divide
 };
 
+// The first five make one value of a group of rows.
 enum class Function { Count, Max, Min, Sum, Avg, Date, Now };
 
 struct Expression
@@ -102,6 +103,8 @@ struct Target
     Node value = none;
 };
 
+// Which members are filled depends on the kind: list, groupBy, having, orderBy and top belong to SELECT, targets to
+// INSERT and UPDATE.
 struct Tree
 {
     StatementKind kind = StatementKind::Select;

@@ -18,6 +18,7 @@ bool isSame(QStringView a, QStringView b)
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
+// As far as can be told without the tables: a missing table's name may be any.
 bool isSameColumn(const Expression &a, const Expression &b)
 {
     const bool sameTable = a.qualifier.isEmpty() || b.qualifier.isEmpty() || isSame(a.qualifier, b.qualifier);
@@ -51,6 +52,7 @@ QString written(const Expression &column)
     return column.qualifier.isEmpty() ? name : column.qualifier.toString() + u'.' + name;
 }
 
+// Two equal aliases, or one that its own expression reads.
 void checkAliases(const Tree &tree)
 {
     for (auto item = tree.list.begin(); item != tree.list.end(); ++item) {
@@ -69,6 +71,7 @@ void checkAliases(const Tree &tree)
     }
 }
 
+// Every column must be grouped by, or be read by an aggregate.
 void checkGrouping(const Tree &tree)
 {
     const auto refuse = [](const QString &what) {
@@ -91,6 +94,7 @@ void checkGrouping(const Tree &tree)
     }
 }
 
+// Rows made one have only the values of the list left to be ordered by.
 void checkDistinctOrder(const Tree &tree)
 {
     for (const OrderItem &order : tree.orderBy) {

@@ -12,6 +12,7 @@ namespace sql {
 
 namespace {
 
+// Bounds for statements that no one types, so that reading and writing them cannot exhaust the stack.
 constexpr int deepestNesting = 200;
 constexpr qsizetype mostNodes = 5000;
 
@@ -116,6 +117,7 @@ bool ExpressionParser::atName() const
            (m_token.is(TokenKind::Word) && m_token.is(Keyword::None));
 }
 
+// What cannot be read as an operand for a fault of its own counts too: that fault is the one to tell.
 bool ExpressionParser::atExpression() const
 {
     switch (m_token.kind) {
@@ -172,6 +174,7 @@ QStringView ExpressionParser::takeAllOf()
 {
     if (!atName())
         return {};
+    // A copy of the lexer looks ahead; the parser stays where it is unless all three tokens fit.
     Lexer ahead = m_lexer;
     if (!ahead.next().is(TokenKind::Dot) || !ahead.next().is(TokenKind::Star))
         return {};
@@ -226,6 +229,7 @@ Node ExpressionParser::conjunction()
     return left;
 }
 
+// Not binds less than a comparison and more than And.
 Node ExpressionParser::negation()
 {
     int negations = 0;
@@ -289,6 +293,7 @@ Node ExpressionParser::predicate(Node left)
     return add(node);
 }
 
+// The items of an In, each hanging by `next` on the one before.
 Node ExpressionParser::list()
 {
     if (!accept(TokenKind::LeftParenthesis))
@@ -303,6 +308,7 @@ Node ExpressionParser::list()
     return first;
 }
 
+// A chain of operators of one level; those that bind more lie one level further in.
 Node ExpressionParser::sum(int level)
 {
     if (level == levels)
@@ -395,6 +401,7 @@ Node ExpressionParser::number(bool negative)
     return add(node);
 }
 
+// A name with or without a table's name, or the call of a function.
 Node ExpressionParser::column()
 {
     if (m_token.is(TokenKind::BracketedName) && m_token.text.isEmpty())
@@ -444,6 +451,7 @@ Node ExpressionParser::call(QStringView name)
     return add(node);
 }
 
+// Where an expression ends for sure, whatever was wrong before.
 bool ExpressionParser::atClauseWord(const Token &token) const
 {
     switch (token.keyword) {
@@ -463,6 +471,7 @@ bool ExpressionParser::atClauseWord(const Token &token) const
     }
 }
 
+// A statement that ends too soon lacks its bracket; anything else in that place lacks an operator.
 void ExpressionParser::closeParenthesis()
 {
     if (accept(TokenKind::RightParenthesis))

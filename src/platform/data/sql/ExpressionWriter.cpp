@@ -68,6 +68,7 @@ bool isConcatenation(const Expression &node)
     return node.kind == ExpressionKind::Operation && node.operation == Operator::Concatenate;
 }
 
+// Needs no parentheses as an operand.
 bool isAtom(const Expression &node)
 {
     switch (node.kind) {
@@ -107,8 +108,7 @@ void ExpressionWriter::write(Node node)
     case ExpressionKind::Operation:
         return operation(expression);
     case ExpressionKind::Negation:
-        m_sql += '-';
-        return operand(expression.first);
+        return negation(expression);
     case ExpressionKind::Not:
         ++m_negations;
         m_sql += "NOT ";
@@ -143,6 +143,15 @@ void ExpressionWriter::operand(Node node)
     m_sql += '(';
     write(node);
     m_sql += ')';
+}
+
+// Two signs in a row would begin a comment.
+void ExpressionWriter::negation(const Expression &node)
+{
+    const bool isFlag = at(node.first).kind == ExpressionKind::Flag;
+    m_sql += isFlag ? "-(" : "-";
+    operand(node.first);
+    m_sql += isFlag ? ")" : "";
 }
 
 // The written form serves as it stands when its quotes are SQLite's.
@@ -188,6 +197,7 @@ void ExpressionWriter::junction(const Expression &node, QByteArrayView word)
     }
 }
 
+// Two columns compare by what the file declares for them, numbers as numbers; a text in the statement decides the rule.
 void ExpressionWriter::comparison(const Expression &node)
 {
     if (flagComparison(node))
@@ -233,6 +243,7 @@ void ExpressionWriter::noteComparison(Node column, Node literal)
         m_out.comparisons.push_back({reference(at(column)), value.kind == ExpressionKind::Text});
 }
 
+// "/" never cuts off, "\" and Mod round both sides first, and "+" joins texts, for which Null wins.
 void ExpressionWriter::arithmetic(const Expression &node)
 {
     const bool isWhole = node.operation == Operator::DivideWhole || node.operation == Operator::Modulo;
@@ -308,6 +319,7 @@ void ExpressionWriter::likePattern(const Expression &node, const Expression &pat
     m_sql += ')';
 }
 
+// The range of NOCASE that holds what begins with a text of ASCII, and nothing else.
 void ExpressionWriter::range(Node column, const QString &lowest, const QString &beyond)
 {
     operand(column);
@@ -340,6 +352,7 @@ void ExpressionWriter::between(const Expression &node)
     m_sql += ')';
 }
 
+// NOCASE for the whole list when all its texts are ASCII.
 void ExpressionWriter::inList(const Expression &node)
 {
     bool ofTexts = false;

@@ -25,6 +25,7 @@ public:
 
 private:
     void operand(Node node);
+    void negation(const Expression &node);
     void operation(const Expression &node);
     void junction(const Expression &node, QByteArrayView word);
     void comparison(const Expression &node);

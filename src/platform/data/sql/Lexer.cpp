@@ -179,6 +179,7 @@ qsizetype Lexer::digitsEnd(qsizetype from) const
     return from;
 }
 
+// "12", "1.5", ".5", "5." and "1.5E-3"; a second point spoils it.
 Token Lexer::number()
 {
     qsizetype end = digitsEnd(m_position);
@@ -196,6 +197,7 @@ Token Lexer::number()
     return take(TokenKind::BadNumber, end - m_position);
 }
 
+// Between two equal quotes; the quote itself stands doubled inside.
 Token Lexer::text(QChar quote)
 {
     qsizetype end = m_source.indexOf(quote, m_position + 1);
@@ -212,6 +214,7 @@ Token Lexer::date()
     return end < 0 ? take(TokenKind::BadDate, 1) : take(TokenKind::Date, end + 1 - m_position);
 }
 
+// No name holds an opening bracket.
 Token Lexer::bracketedName(QChar closing)
 {
     const qsizetype end = m_source.indexOf(closing, m_position + 1);

@@ -14,7 +14,7 @@ enum class TokenKind {
     BracketedName,
     Text,
     Number,
-    Date,
+    Date, // "#", anything, "#"
     LeftParenthesis,
     RightParenthesis,
     Comma,
@@ -32,10 +32,11 @@ enum class TokenKind {
     LessOrEqual,
     Greater,
     GreaterOrEqual,
+    // What fits nowhere, each with a fault of its own.
     UnclosedText,
     BadName, // a bracket or backquote without its fellow, or one bracket inside another
     BadNumber,
-    BadDate,
+    BadDate, // "#" without its fellow
     StrayBracket,
     Unknown
 };

@@ -25,6 +25,7 @@ QVarLengthArray<int, 4> numbersBetween(QStringView text, QChar separator)
     return numbers;
 }
 
+// Two digits mean 2000 to 2029 and 1930 to 1999.
 int fullYear(int year, bool shortForm)
 {
     if (!shortForm)
@@ -32,6 +33,7 @@ int fullYear(int year, bool shortForm)
     return year < 30 ? 2000 + year : 1900 + year;
 }
 
+// Month, day, year; day, month, year where that is impossible; or year, month, day with hyphens.
 QDate dayOf(QStringView text)
 {
     if (const auto parts = numbersBetween(text, u'-'); parts.size() == 3)
@@ -44,6 +46,7 @@ QDate dayOf(QStringView text)
     return usual.isValid() ? usual : QDate(year, parts[1], parts[0]);
 }
 
+// "17:04", "17:04:30", "5:04 PM" or "5 PM".
 QTime timeOf(QStringView text)
 {
     const bool morning = text.endsWith(u"am", Qt::CaseInsensitive);

@@ -4,7 +4,7 @@ namespace sql {
 
 void appendUtf8(QByteArray &sql, QStringView text)
 {
-    const qsizetype begin = sql.size();
+    const qsizetype begin = sql.size(); // nearly every text is ASCII, which takes one byte a character
     sql.resize(begin + text.size());
     char *out = sql.data() + begin;
     for (qsizetype at = 0; at < text.size(); ++at) {

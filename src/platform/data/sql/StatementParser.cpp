@@ -45,6 +45,7 @@ private:
 
 constexpr int mostBrackets = 50;
 
+// The dialect's one text for whatever is wrong with the list of a SELECT.
 runtime::RuntimeError faultInList()
 {
     return syntaxError(u"The SELECT statement includes a reserved word or an argument name that is misspelled or "
@@ -156,6 +157,7 @@ JoinKind StatementParser::joinKind()
     return kind;
 }
 
+// A third table without brackets shows here, as a word that no operator ties to the condition.
 void StatementParser::endJoinCondition(bool enclosed)
 {
     const bool atClause = m_in.atEnd() || atNextClause();
@@ -198,6 +200,7 @@ bool StatementParser::atNextClause() const
            token.is(Keyword::Order);
 }
 
+// A clause without anything in it is a fault of the clause, not of an expression.
 Node StatementParser::clauseExpression(Clause clause, Neighbours neighbours)
 {
     const bool isList = neighbours != Neighbours::None && clause != Clause::Join;
@@ -206,6 +209,7 @@ Node StatementParser::clauseExpression(Clause clause, Neighbours neighbours)
     return m_in.expression(neighbours);
 }
 
+// Groups are made after the condition has chosen the rows, so it cannot ask for Max and its like.
 void StatementParser::whereClause()
 {
     if (!m_in.accept(Keyword::Where))
@@ -287,6 +291,7 @@ void StatementParser::insert()
     finish();
 }
 
+// All values are read before they are counted: a broken text would change their number.
 void StatementParser::insertValues()
 {
     qsizetype count = 0;
@@ -344,6 +349,7 @@ void StatementParser::remove()
     finish();
 }
 
+// One semicolon may end the statement, and nothing may follow it.
 void StatementParser::finish()
 {
     if (m_in.accept(TokenKind::Semicolon)) {

@@ -10,6 +10,19 @@ namespace sql {
 
 namespace {
 
+QByteArrayView joinWord(JoinKind kind)
+{
+    switch (kind) {
+    case JoinKind::Inner:
+        break;
+    case JoinKind::Left:
+        return " LEFT JOIN ";
+    case JoinKind::Right:
+        return " RIGHT JOIN ";
+    }
+    return " INNER JOIN ";
+}
+
 class StatementWriter
 {
 public:
@@ -27,6 +40,10 @@ private:
     void rowId();
     void from();
     void source(Node node);
+    void side(Node part);
+    bool canChain(const Source &source) const;
+    bool isColumnOf(const Source &table, Node node) const;
+    bool mayRead(const Source &table, Node node) const;
     void table(const Source &source);
     void where();
     void groupBy();
@@ -62,6 +79,7 @@ void StatementWriter::statement()
     }
 }
 
+// A result whose rows are the rows of one table gets their row id as its last column.
 void StatementWriter::select()
 {
     checkSelect(m_tree);
@@ -149,24 +167,70 @@ void StatementWriter::table(const Source &source)
     }
 }
 
+// One side of a join.
+void StatementWriter::side(Node part)
+{
+    if (m_tree.sources[part].isTable())
+        return table(m_tree.sources[part]);
+    m_sql += '(';
+    source(part);
+    m_sql += ')';
+}
+
 void StatementWriter::source(Node node)
 {
     const Source &source = m_tree.sources[node];
     if (source.isTable())
         return table(source);
-    const auto side = [this](Node part) {
-        const bool isTable = m_tree.sources[part].isTable();
-        m_sql += isTable ? "" : "(";
-        this->source(part);
-        m_sql += isTable ? "" : ")";
-    };
+    const bool chains = canChain(source);
+    const Source &right = m_tree.sources[source.right];
     side(source.left);
-    m_sql += source.join == JoinKind::Inner  ? " INNER JOIN "
-             : source.join == JoinKind::Left ? " LEFT JOIN "
-                                             : " RIGHT JOIN ";
-    side(source.right);
+    m_sql += joinWord(source.join);
+    side(chains ? right.left : source.right);
     m_sql += " ON ";
     m_expressions.write(source.condition);
+    if (!chains)
+        return;
+    m_sql += joinWord(right.join);
+    side(right.right);
+    m_sql += " ON ";
+    m_expressions.write(right.condition);
+}
+
+// A LEFT JOIN (B LEFT JOIN C ON p) ON q delivers what A LEFT JOIN B ON q LEFT JOIN C ON p does when q does not look at
+// C and p fails for a B of Nulls. SQLite finds the rows of the second by their indexes, and reads all of B and C for
+// the first.
+bool StatementWriter::canChain(const Source &source) const
+{
+    const Source &right = m_tree.sources[source.right];
+    if (source.join != JoinKind::Left || right.isTable() || right.join != JoinKind::Left)
+        return false;
+    const Source &middle = m_tree.sources[right.left];
+    const Source &last = m_tree.sources[right.right];
+    if (!middle.isTable() || !last.isTable() || mayRead(last, source.condition))
+        return false;
+    const Expression &matching = m_tree.at(right.condition);
+    return matching.kind == ExpressionKind::Operation && matching.operation == Operator::Equal &&
+           (isColumnOf(middle, matching.first) || isColumnOf(middle, matching.second));
+}
+
+bool StatementWriter::isColumnOf(const Source &table, Node node) const
+{
+    const Expression &expression = m_tree.at(node);
+    return expression.kind == ExpressionKind::Column &&
+           expression.qualifier.compare(table.name(), Qt::CaseInsensitive) == 0;
+}
+
+// True also for a name without a table, which may mean any.
+bool StatementWriter::mayRead(const Source &table, Node node) const
+{
+    if (node == none)
+        return false;
+    const Expression &expression = m_tree.at(node);
+    if (expression.kind == ExpressionKind::Column && (expression.qualifier.isEmpty() || isColumnOf(table, node)))
+        return true;
+    return mayRead(table, expression.first) || mayRead(table, expression.second) || mayRead(table, expression.third) ||
+           mayRead(table, expression.next);
 }
 
 void StatementWriter::where()
@@ -230,6 +294,7 @@ void StatementWriter::orderItem(const OrderItem &item)
     m_sql += item.descending ? " DESC" : "";
 }
 
+// A literal becomes a parameter, which the data room binds in the column's type.
 void StatementWriter::targetValue(const Target &target)
 {
     if (auto literal = m_expressions.literalOf(target.value)) {
@@ -276,6 +341,7 @@ void StatementWriter::update()
     where();
 }
 
+// Whole rows go, whatever columns the list named.
 void StatementWriter::remove()
 {
     m_sql += "DELETE FROM ";

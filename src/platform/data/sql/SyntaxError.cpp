@@ -8,6 +8,7 @@ namespace {
 
 constexpr int syntaxErrorNumber = -2147217900;
 
+// "%1" is the expression.
 QString patternOf(Fault fault)
 {
     switch (fault) {

@@ -53,7 +53,7 @@ struct Translation
     QString table;
     // A SELECT whose rows are rows of `table`: the last result column is the row's _rowid_ and no part of the result.
     bool carriesRowId = false;
-    // Where in `sql` the list of the SELECT stands, in bytes.
+    // Where in `sql` the list of the SELECT stands, in bytes; the row id is the last item of it.
     qsizetype listBegin = 0;
     qsizetype listLength = 0;
 
