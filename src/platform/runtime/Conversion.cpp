@@ -24,8 +24,16 @@ template <class Whole> Whole rounded(double number)
 
 QString numberText(double number, int digits)
 {
-    const QString plain = QString::number(number, 'g', digits);
-    const qsizetype exponentAt = plain.indexOf(u'e');
+    QString plain = QString::number(number, 'g', digits);
+    qsizetype exponentAt = plain.indexOf(u'e');
+    if (exponentAt >= 0) { // a small number is written out where that takes no more digits
+        const qsizetype significant = plain.first(exponentAt).count(u'.') ? exponentAt - plain.indexOf(u'.') : 1;
+        const qsizetype decimals = significant - 1 - plain.sliced(exponentAt + 1).toInt();
+        if (std::abs(number) < 1 && decimals <= digits) {
+            plain = QString::number(number, 'f', int(decimals));
+            exponentAt = -1;
+        }
+    }
     QString text = plain.first(exponentAt < 0 ? plain.size() : exponentAt);
     text.replace(u"."_s, regional().decimalPoint());
     if (exponentAt >= 0)
@@ -73,8 +81,11 @@ double toDouble(const Value &value)
     case Value::Type::Date:
         return value.get<Date>().toSerial();
     case Value::Type::Text:
-        if (const auto number = parseDouble(value.get<QString>()))
+        if (const auto number = parseDouble(value.get<QString>())) {
+            if (!std::isfinite(*number))
+                throw RuntimeError(Overflow);
             return *number;
+        }
         break;
     case Value::Type::Binary:
         break;

@@ -23,7 +23,7 @@ void pushDigit(quint64 &scaled, int digit)
 
 qint64 withSign(quint64 scaled, bool negative)
 {
-    if (!negative && scaled > quint64(std::numeric_limits<qint64>::max()))
+    if (scaled > quint64(std::numeric_limits<qint64>::max()) + (negative ? 1 : 0))
         throw RuntimeError(Overflow);
     return negative ? qint64(0 - scaled) : qint64(scaled);
 }
@@ -85,7 +85,8 @@ bool roundsUp(const QString &digits, qsizetype at, bool odd)
 Currency Currency::fromDouble(double amount)
 {
     const double scaled = std::nearbyint(amount * double(scale));
-    if (!(std::abs(scaled) < 9223372036854775807.0))
+    constexpr double limit = 9223372036854775808.0;
+    if (!(scaled >= -limit && scaled < limit))
         throw RuntimeError(Overflow);
     return fromScaled(qint64(scaled));
 }

@@ -25,6 +25,8 @@ Date Date::fromSerial(double serial)
     qint64 second = std::llround(std::abs(serial - day) * double(secondsPerDay));
     Date date;
     date.m_seconds = qint64(day) * secondsPerDay + second;
+    if (date.m_seconds >= 2'958'466 * secondsPerDay) // rounded into the year 10000
+        throw RuntimeError(Overflow);
     return date;
 }
 

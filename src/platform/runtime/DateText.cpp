@@ -49,7 +49,8 @@ int monthOfName(const QString &name)
     for (int month = 1; month <= 12; ++month) {
         for (const QLocale &names : {locale, english}) {
             for (const auto form : {QLocale::LongFormat, QLocale::ShortFormat}) {
-                if (name.compare(names.monthName(month, form), Qt::CaseInsensitive) == 0)
+                // The point of a short form has parted it from the year already.
+                if (name.compare(names.monthName(month, form).remove(u'.'), Qt::CaseInsensitive) == 0)
                     return month;
             }
         }

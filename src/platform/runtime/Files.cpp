@@ -72,7 +72,8 @@ QString Dir(const QString &pattern)
     const QString folder = nativePath(pattern.first(qMax<qsizetype>(0, end)));
     QString filter = pattern.sliced(end + 1);
     if (filter == u"*.*")
-        filter = u"*"_s; // the classic pattern for every name, with a dot or without
+        filter = u"*"_s;              // the classic pattern for every name, with a dot or without
+    filter.replace(u"["_s, u"[[]"_s); // only * and ? are wildcards
     running() = Enumeration{folder, QDir(folder).entryList({filter}, QDir::Files, QDir::Name)};
     return nextName();
 }

@@ -1,0 +1,32 @@
+// What a call gives, as text: its result or "error <number>", so that tables hold invalid rows beside valid ones.
+#pragma once
+
+#include "platform/runtime/RuntimeError.h"
+
+#include <QString>
+
+inline QString asText(const QString &text)
+{
+    return text;
+}
+inline QString asText(bool flag)
+{
+    return flag ? QStringLiteral("True") : QStringLiteral("False");
+}
+inline QString asText(int number)
+{
+    return QString::number(number);
+}
+inline QString asText(double number)
+{
+    return QString::number(number, 'g', 17);
+}
+
+template <class Call> QString outcomeOf(Call &&call)
+{
+    try {
+        return asText(call());
+    } catch (const runtime::RuntimeError &error) {
+        return QStringLiteral("error %1").arg(error.number());
+    }
+}
