@@ -29,10 +29,9 @@ MdiForm *&theFrame()
 // What a child window's border and title bar take; its own layout knows it only once it has been seen.
 QMargins borders(const QMdiSubWindow &host)
 {
-    constexpr int aboveAndBelowTitle = 4;
     const int frame = host.style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth, nullptr, &host);
     const int title = host.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &host);
-    return {frame, title + aboveAndBelowTitle, frame, frame};
+    return {frame, title, frame, frame};
 }
 
 } // namespace

@@ -1,0 +1,240 @@
+#include "platform/desktop/Controls.h"
+#include "platform/desktop/Form.h"
+#include "platform/desktop/Launch.h"
+#include "platform/desktop/MdiForm.h"
+#include "platform/desktop/MsgBox.h"
+#include "platform/desktop/Settings.h"
+#include "platform/runtime/ErrorHandling.h"
+#include "support/Dialogs.h"
+
+#include <QDesktopServices>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <cstring>
+#include <stdexcept>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Says in a log what happens to it.
+class Window : public desktop::Form
+{
+public:
+    explicit Window(Place place = Place::InFrame, bool shared = false) : Form(place, u"Window")
+    {
+        setDesignCaption(u"design"_s);
+        if (shared)
+            setShared();
+    }
+    QStringList log;
+    int error = 0;       // raised by the load
+    bool closes = false; // by itself, while it loads
+    QString field;
+
+protected:
+    void Form_Load() override
+    {
+        log << u"load "_s + field;
+        if (error)
+            throw runtime::RuntimeError(error);
+        if (closes)
+            Unload();
+    }
+    void Form_Unload() override { log << u"unload"_s; }
+};
+
+class Frame : public desktop::MdiForm
+{
+public:
+    Frame() : MdiForm(u"Frame")
+    {
+        windows = menuBar()->addMenu(u"Windows"_s);
+        setWindowsMenu(windows);
+    }
+    QMenu *windows;
+};
+
+} // namespace
+
+class tst_Windows : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void aWindowLoadsOnceAtItsFirstTouch()
+    {
+        Window window;
+        window.field = u"set before"_s;
+        QVERIFY(window.log.isEmpty());
+        window.setCaption(u"caption"_s);
+        window.Show();
+        window.Show();
+        QCOMPARE(window.log, QStringList{u"load set before"_s});
+        QCOMPARE(window.windowTitle(), u"caption"_s);
+        window.Unload();
+        QCOMPARE(window.log.constLast(), u"unload"_s);
+        QVERIFY(!window.isLoaded());
+    }
+
+    void closingDeletesAWindowUnlessItIsShared()
+    {
+        QPointer<Window> own = desktop::showNew<Window>([](Window &) {});
+        own->Unload();
+        QTRY_VERIFY(!own);
+        QPointer<Window> closesItself = desktop::showNew<Window>([](Window &window) { window.closes = true; });
+        QTRY_VERIFY(!closesItself);
+        Window shared(Window::Place::Alone, true);
+        shared.Show();
+        shared.Unload();
+        shared.Show();
+        QCOMPARE(shared.log, (QStringList{u"load "_s, u"unload"_s, u"load "_s}));
+    }
+
+    void aFailingLoadReachesWhoeverOpensTheWindow()
+    {
+        const auto open = [] { desktop::showNew<Window>([](Window &window) { window.error = 13; }); };
+        QVERIFY_THROWS_EXCEPTION(runtime::RuntimeError, open());
+    }
+
+    void childrenLiveInTheFrame()
+    {
+        Frame frame;
+        frame.resize(800, 600);
+        frame.Show();
+        auto *first = desktop::showNew<Window>([](Window &window) { window.resize(300, 200); });
+        desktop::showNew<Window>([](Window &window) { window.setCaption(u"A & B"_s); });
+        QCOMPARE(frame.area().subWindowList().size(), 2);
+        QCOMPARE(first->size(), QSize(300, 200));
+        Q_EMIT frame.windows->aboutToShow();
+        QCOMPARE(frame.windows->actions().size(), 2);
+        QCOMPARE(frame.windows->actions()[1]->text(), u"&2 A && B"_s);
+        QVERIFY(frame.windows->actions()[1]->isChecked());
+        frame.windows->actions()[0]->trigger();
+        QCOMPARE(frame.area().activeSubWindow()->widget(), first);
+        first->Unload();
+        QTRY_COMPARE(frame.area().subWindowList().size(), 1);
+        frame.close();
+        QTRY_VERIFY(frame.area().subWindowList().isEmpty());
+    }
+
+    void messageBoxes_data()
+    {
+        QTest::addColumn<int>("style");
+        QTest::addColumn<QMessageBox::StandardButtons>("buttons");
+        QTest::addColumn<QMessageBox::Icon>("icon");
+        QTest::addColumn<QMessageBox::StandardButton>("press");
+        QTest::addColumn<int>("result");
+        using Box = QMessageBox;
+        QTest::newRow("OK") << 0 << Box::StandardButtons(Box::Ok) << Box::NoIcon << Box::Ok << 1;
+        QTest::newRow("information") << 64 << Box::StandardButtons(Box::Ok) << Box::Information << Box::Ok << 1;
+        QTest::newRow("stop") << 16 << Box::StandardButtons(Box::Ok) << Box::Critical << Box::Ok << 1;
+        QTest::newRow("Yes") << 4 << (Box::Yes | Box::No) << Box::NoIcon << Box::Yes << 6;
+        QTest::newRow("No") << 4 << (Box::Yes | Box::No) << Box::NoIcon << Box::No << 7;
+        QTest::newRow("Cancel") << 3 << (Box::Yes | Box::No | Box::Cancel) << Box::NoIcon << Box::Cancel << 2;
+    }
+    void messageBoxes()
+    {
+        QFETCH(int, style);
+        QFETCH(QMessageBox::StandardButtons, buttons);
+        QFETCH(QMessageBox::Icon, icon);
+        QFETCH(QMessageBox::StandardButton, press);
+        QFETCH(int, result);
+        BoxAnswers boxes({press});
+        QCOMPARE(int(desktop::MsgBox(u"<b>plain</b>"_s, style)), result);
+        QCOMPARE(boxes.seen[0].buttons, buttons);
+        QCOMPARE(boxes.seen[0].icon, icon);
+        QCOMPARE(boxes.seen[0].title, u"Tolmark Lite"_s);
+        QCOMPARE(boxes.seen[0].text, u"<b>plain</b>"_s);
+    }
+
+    // No exception passes the guard, whatever it is.
+    void theGuardReportsWhatEscapes()
+    {
+        CaughtErrors errors;
+        QPushButton button;
+        QObject receiver;
+        int thrown = 0;
+        desktop::on(&button, &QPushButton::clicked, &receiver, [&thrown](QObject *) {
+            if (++thrown == 1)
+                throw runtime::RuntimeError(94);
+            if (thrown == 2)
+                throw std::bad_alloc();
+            throw std::runtime_error("other");
+        });
+        for (const int number : {94, 7, -1}) {
+            button.click();
+            QCOMPARE(errors.takeNumber(), number);
+        }
+    }
+
+    void everyStepGoesOnAndEndSilentlyStops()
+    {
+        int ran = 0;
+        const auto fails = [] { throw runtime::RuntimeError(5); };
+        runtime::everyStep([&] { ++ran; }, fails, [&] { ++ran; });
+        QCOMPARE(ran, 2);
+        const auto body = [&] {
+            fails();
+            ++ran;
+        };
+        QVERIFY(!runtime::endSilently(body));
+        QCOMPARE(ran, 2);
+    }
+
+    // The real report, in a process of its own: this program called again with an argument.
+    void theReportEndsTheProcess()
+    {
+        QProcess process;
+        process.start(QApplication::applicationFilePath(), {u"--fail"_s});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process.exitCode(), 1);
+        QVERIFY(process.readAllStandardError().contains("Run-time error '6':\n\nOverflow\n"));
+    }
+
+    void settingsAreKept()
+    {
+        QTemporaryDir folder;
+        desktop::setSettingsFile(folder.filePath(u"settings.ini"_s));
+        QCOMPARE(desktop::GetSetting(u"Options"_s, u"Show Tips at Startup"_s, u"1"_s), u"1"_s);
+        desktop::SaveSetting(u"Options"_s, u"Show Tips at Startup"_s, u"0"_s);
+        QCOMPARE(desktop::GetSetting(u"Options"_s, u"Show Tips at Startup"_s, u"1"_s), u"0"_s);
+        desktop::setSettingsFile({});
+    }
+
+    void filesAreHandedToTheirProgram()
+    {
+        QDesktopServices::setUrlHandler(u"file"_s, this, "opened");
+        QTemporaryDir folder;
+        QFile file(folder.filePath(u"Letter #1 ä.TXT"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        desktop::ShellExecute(folder.path() + u"\\letter #1 ä.txt"_s); // names do not differ by case
+        QDesktopServices::unsetUrlHandler(u"file"_s);
+        QCOMPARE(m_opened, QList{QUrl::fromLocalFile(file.fileName())});
+    }
+
+public Q_SLOTS:
+    void opened(const QUrl &url) { m_opened << url; }
+
+private:
+    QList<QUrl> m_opened;
+};
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    if (argc > 1 && std::strcmp(argv[1], "--fail") == 0) {
+        BoxAnswers boxes({QMessageBox::Ok});
+        desktop::guarded([] { throw runtime::RuntimeError(runtime::Overflow); });
+        return 0;
+    }
+    tst_Windows tests;
+    return QTest::qExec(&tests, argc, argv);
+}
+#include "tst_windows.moc"
