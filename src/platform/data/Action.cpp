@@ -35,6 +35,7 @@ runtime::Value literalFor(ColumnType type, const runtime::Value &literal)
 
 void runAction(Database &database, const sql::Translation &translation)
 {
+    database.refreshSchema();
     if (translation.kind == sql::StatementKind::Insert && !database.hasTable(translation.table.toUtf8()))
         throw providerError(NoSuchTable, u"Could not find output table '%1'."_s.arg(translation.table));
     std::vector<runtime::Value> values; // outlive the statement

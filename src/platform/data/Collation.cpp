@@ -61,7 +61,7 @@ QList<char32_t> foldedCharacters(QByteArrayView text)
 char32_t base(char32_t c)
 {
     if (c < 0x80)
-        return c;
+        return foldedAscii(c); // the Kelvin sign is composed of a capital
     const QString parts = QChar::decomposition(c);
     const bool isCompatibility = QChar::decompositionTag(c) != QChar::Canonical;
     if (parts.isEmpty() || isCompatibility)

@@ -83,14 +83,13 @@ Cursor::Place Cursor::current()
 
 qint64 Cursor::currentRowId()
 {
-    requireUpdatable();
     if (m_addedRowId)
         return *m_addedRowId;
     const Place place = current();
     return place.rows->rowId(place.row);
 }
 
-void Cursor::requireUpdatable() const
+void Cursor::requireUpdatable()
 {
     if (!m_source.isUpdatable() || m_lockType == adLockReadOnly)
         throw objectError(NotUpdatable, errorSource);
@@ -101,7 +100,7 @@ void Cursor::finishPending()
 {
     if (m_editMode != adEditNone)
         update();
-    endSeries(-1);
+    endSeries();
     m_binaryColumn = -1;
     m_binary.clear();
 }
@@ -142,12 +141,7 @@ void Cursor::moveLast()
     while (m_row >= 0 && size_t(m_row) < m_deleted.size() && m_deleted[size_t(m_row)])
         --m_row;
     if (m_addedRowId) { // read in the statement's own order, the row may stand anywhere
-        for (qsizetype row = m_row; row >= 0; --row) {
-            if (m_rows->rowId(row) == *m_addedRowId) {
-                m_row = row;
-                break;
-            }
-        }
+        goTo(*m_addedRowId);
         m_addedRowId.reset();
     }
     if (m_row < 0) {
@@ -164,14 +158,25 @@ void Cursor::addNew()
     m_editMode = adEditAdd;
 }
 
-void Cursor::takeAdded(qint64 rowId)
+// False where the row is not among those that were read.
+bool Cursor::goTo(qint64 rowId)
 {
-    if (m_rows) {
-        m_source.readRow(rowId, *m_rows);
-        m_row = m_rows->rowCount() - 1;
-    } else {
-        m_addedRowId = rowId;
+    for (qsizetype row = m_rows->rowCount() - 1; row >= 0; --row) {
+        if (m_rows->rowId(row) == rowId) {
+            m_row = row;
+            return true;
+        }
+    }
+    return false;
+}
+
+void Cursor::takeAdded(const RowSource::Added &added)
+{
+    if (!m_rows) {
+        m_addedRowId = added.rowId;
         m_addedRow.reset();
+    } else if ((added.isNew || !goTo(added.rowId)) && m_source.readRow(added.rowId, *m_rows)) {
+        m_row = m_rows->rowCount() - 1;
     }
 }
 
@@ -181,9 +186,9 @@ void Cursor::update()
         return;
     try {
         if (m_editMode == adEditAdd) {
-            const qint64 rowId = m_source.insertRow(m_changes);
+            const RowSource::Added added = m_source.insertRow(m_changes);
             m_editMode = adEditNone;
-            takeAdded(rowId);
+            takeAdded(added);
         } else {
             const qint64 rowId = currentRowId();
             m_source.updateRow(rowId, m_changes);
@@ -197,7 +202,7 @@ void Cursor::update()
         raiseUpdateError(error);
     }
     m_changes.clear();
-    endSeries(-1);
+    endSeries();
     m_binaryColumn = -1;
     m_binary.clear();
 }
@@ -206,7 +211,7 @@ void Cursor::cancelUpdate()
 {
     m_editMode = adEditNone;
     m_changes.clear();
-    endSeries(-1);
+    endSeries();
 }
 
 void Cursor::deleteRow()
@@ -214,13 +219,15 @@ void Cursor::deleteRow()
     requireUpdatable();
     cancelUpdate();
     const qint64 rowId = currentRowId();
+    load();
+    if (m_addedRowId && goTo(rowId))
+        m_addedRowId.reset();
     try {
         m_source.deleteRow(rowId);
     } catch (const StoreError &error) {
         raiseUpdateError(error);
     }
-    load();
-    if (m_addedRowId) {
+    if (m_addedRowId) { // the statement's own condition leaves it out
         m_addedRowId.reset();
         m_row = m_rows->rowCount();
         return;
@@ -232,6 +239,7 @@ void Cursor::deleteRow()
 
 Value Cursor::value(int column)
 {
+    touch(column);
     if (m_editMode != adEditNone && m_changes[size_t(column)])
         return *m_changes[size_t(column)];
     if (m_editMode == adEditAdd)
@@ -252,12 +260,13 @@ void Cursor::setValue(int column, const Value &value)
         m_changes.assign(size_t(columnCount()), std::nullopt);
         m_editMode = adEditInProgress;
     }
-    endSeries(column);
+    endSeries();
     m_changes[size_t(column)] = std::move(converted);
 }
 
 qint64 Cursor::actualSize(int column)
 {
+    touch(column);
     const Column &known = m_source.columns()[size_t(column)];
     if (m_editMode == adEditNone && known.isLength) {
         const Place place = current();
@@ -280,12 +289,17 @@ const QByteArray &Cursor::binary(int column)
     return m_binary;
 }
 
+void Cursor::endSeries()
+{
+    m_seriesColumn = -1;
+    m_seriesPosition = 0;
+}
+
 // Reading or writing another field ends a series of chunks.
-void Cursor::endSeries(int column)
+void Cursor::touch(int column)
 {
     if (m_seriesColumn != column)
-        m_seriesColumn = -1;
-    m_seriesPosition = 0;
+        endSeries();
 }
 
 void Cursor::appendChunk(int column, const QByteArray &bytes)
@@ -306,24 +320,19 @@ Value Cursor::getChunk(int column, qint64 bytes)
 {
     if (m_source.columns()[size_t(column)].type != ColumnType::Binary)
         throw objectError(NotAllowedInContext, "ADODB.Field");
-    if (m_seriesColumn != column) {
-        m_seriesColumn = column;
-        m_seriesPosition = 0;
-    }
-    if (m_editMode == adEditNone) {
-        const Place place = current();
-        if (place.rows->isNull(place.row, column))
-            return {};
-    }
-    const bool pending = m_editMode != adEditNone;
-    const QByteArray whole = pending ? value(column).get<QByteArray>() : binary(column);
+    touch(column);
+    m_seriesColumn = column;
+    const Value content = value(column);
+    if (content.isNull())
+        return {};
+    const QByteArray &whole = content.get<QByteArray>();
     const qsizetype left = whole.size() - m_seriesPosition;
     if (left <= 0)
         return {};
     const qsizetype taken = qsizetype(std::min<qint64>(left, bytes));
     const QByteArray chunk = taken == whole.size() ? whole : whole.sliced(m_seriesPosition, taken);
     m_seriesPosition += taken;
-    if (m_seriesPosition >= whole.size() && !pending) { // the caller has them all
+    if (m_seriesPosition >= whole.size() && m_editMode == adEditNone) { // the caller has them all
         m_binaryColumn = -1;
         m_binary.clear();
     }

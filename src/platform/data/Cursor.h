@@ -39,7 +39,7 @@ public:
 private:
     void load();
     void finishPending();
-    void requireUpdatable() const;
+    void requireUpdatable();
     // The store and the row in it that hold the current record; error 3021 without one.
     struct Place
     {
@@ -49,8 +49,10 @@ private:
     Place current();
     qint64 currentRowId();
     const QByteArray &binary(int column);
-    void endSeries(int column);
-    void takeAdded(qint64 rowId);
+    void endSeries();
+    void touch(int column);
+    void takeAdded(const RowSource::Added &added);
+    bool goTo(qint64 rowId);
 
     std::weak_ptr<Database> m_database;
     RowSource m_source;

@@ -139,6 +139,7 @@ void Database::openWith(const QString &path, int flags)
 {
     sqlite3 *handle = nullptr;
     const int code = sqlite3_open_v2(path.toUtf8().constData(), &handle, flags, nullptr);
+    m_schemaReader.finalize();
     m_handle.reset(handle); // also of a failed open
     m_path = path;
     m_hasLike = false;
@@ -153,7 +154,7 @@ void Database::openWith(const QString &path, int flags)
 
 void Database::open(const QString &path)
 {
-    m_handle.reset();
+    close();
     m_path = path;
     const QFileInfo file(path);
     if (!file.exists()) {
@@ -177,6 +178,12 @@ void Database::open(const QString &path)
         m_handle.reset();
         throw;
     }
+}
+
+void Database::close()
+{
+    m_schemaReader.finalize();
+    m_handle.reset();
 }
 
 void Database::create(const QString &path)
@@ -204,6 +211,19 @@ qint64 Database::lastInsertRowId() const
     return sqlite3_last_insert_rowid(m_handle.get());
 }
 
+int Database::changedRows() const
+{
+    return sqlite3_changes(m_handle.get());
+}
+
+void Database::refreshSchema()
+{
+    if (!m_schemaReader.isPrepared())
+        m_schemaReader = prepare("SELECT 1 FROM sqlite_master LIMIT 0");
+    m_schemaReader.step(); // a step, unlike a preparation, looks whether the file's schema is still the one in memory
+    m_schemaReader.reset();
+}
+
 std::optional<QByteArray> Database::declaredType(const QByteArray &table, const QByteArray &column) const
 {
     const char *declared = nullptr;
@@ -216,6 +236,14 @@ bool Database::hasTable(const QByteArray &table) const
 {
     return sqlite3_table_column_metadata(m_handle.get(), "main", table.constData(), nullptr, nullptr, nullptr, nullptr,
                                          nullptr, nullptr) == SQLITE_OK;
+}
+
+bool Database::isKey(const QByteArray &table, const QByteArray &column) const
+{
+    int key = 0;
+    const int code = sqlite3_table_column_metadata(m_handle.get(), "main", table.constData(), column.constData(),
+                                                   nullptr, nullptr, nullptr, &key, nullptr);
+    return code == SQLITE_OK && key != 0;
 }
 
 QByteArray Database::readBlob(const QByteArray &table, const QByteArray &column, qint64 rowId) const

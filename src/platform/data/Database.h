@@ -42,7 +42,7 @@ public:
     void open(const QString &path);
     // Makes a new file and opens it; refuses a path at which something stands.
     void create(const QString &path);
-    void close() { m_handle.reset(); }
+    void close();
     bool isOpen() const { return m_handle != nullptr; }
     const QString &path() const { return m_path; }
 
@@ -51,9 +51,15 @@ public:
     Statement prepare(QByteArrayView sql) const;
 
     qint64 lastInsertRowId() const;
+    // How many rows the last INSERT, UPDATE or DELETE changed.
+    int changedRows() const;
+    // Takes note of tables and columns that another connection has made or changed: what is prepared and asked after
+    // this knows them.
+    void refreshSchema();
     // The declared type of a column; empty when the table or the column does not exist.
     std::optional<QByteArray> declaredType(const QByteArray &table, const QByteArray &column) const;
     bool hasTable(const QByteArray &table) const;
+    bool isKey(const QByteArray &table, const QByteArray &column) const;
     // The bytes of one binary value, read straight into the result; empty for a Null.
     QByteArray readBlob(const QByteArray &table, const QByteArray &column, qint64 rowId) const;
     // Provides the SQL function store_like(PATTERN, VALUE) of Collation.h.
@@ -69,6 +75,7 @@ private:
     void check(int code) const;
 
     std::unique_ptr<sqlite3, Close> m_handle;
+    Statement m_schemaReader; // goes before the handle
     QString m_path;
     bool m_hasLike = false;
 };

@@ -2,8 +2,8 @@
 //
 // Static: it shows the rows as they were when first read, and its own changes. A binary field is not touched until its
 // Value or a chunk is asked for, so opening a table in order to append costs the same whatever it holds. Errors: 3704
-// when it or its connection is closed, 3021 without a current record, 3251 on rows of several tables or groups, 3265
-// for an unknown field. A failing Update keeps what was pending.
+// when it or its connection is closed, 3021 without a current record, 3251 on rows of several tables, of groups or with
+// computed columns, 3265 for an unknown field. A failing Update keeps what was pending.
 #pragma once
 
 #include "platform/data/Connection.h"

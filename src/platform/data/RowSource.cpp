@@ -3,6 +3,7 @@
 #include "platform/data/ProviderError.h"
 #include "platform/data/StatementError.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace data {
@@ -16,11 +17,12 @@ QByteArray quoted(QByteArrayView name)
 
 } // namespace
 
-RowSource::RowSource(std::weak_ptr<Database> database, std::shared_ptr<const sql::Translation> translation)
-    : m_database(std::move(database)), m_translation(std::move(translation))
+RowSource::RowSource(std::weak_ptr<Database> file, std::shared_ptr<const sql::Translation> translation)
+    : m_database(std::move(file)), m_translation(std::move(translation))
 {
+    database().refreshSchema();
     prepared();
-    checkComparisons(this->database(), *m_translation);
+    checkComparisons(database(), *m_translation);
 }
 
 Database &RowSource::database() const
@@ -40,9 +42,15 @@ Statement &RowSource::prepared()
 
 void RowSource::describeColumns()
 {
-    if (m_described)
-        return;
-    const Statement &statement = prepared();
+    if (!m_described)
+        describe(prepared());
+    m_described = true;
+}
+
+void RowSource::describe(const Statement &statement)
+{
+    m_columns.clear();
+    m_hasBinary = false;
     const int count = statement.columnCount() - (m_translation->carriesRowId ? 1 : 0);
     m_columns.resize(size_t(count));
     for (int index = 0; index < count; ++index) {
@@ -57,16 +65,25 @@ void RowSource::describeColumns()
             if (const auto declared = database().declaredType(table.toUtf8(), computed.source.column.toUtf8()))
                 column.type = columnTypeOfDeclaration(*declared);
         }
-        column.isLength = m_translation->carriesRowId && column.type == ColumnType::Binary && !column.origin.isEmpty();
+    }
+    m_isUpdatable = m_translation->carriesRowId && std::none_of(m_columns.cbegin(), m_columns.cend(),
+                                                                [](const Column &c) { return c.origin.isEmpty(); });
+    for (Column &column : m_columns) {
+        column.isLength = m_isUpdatable && column.type == ColumnType::Binary;
         m_hasBinary = m_hasBinary || column.isLength;
     }
-    m_described = true;
 }
 
 const std::vector<Column> &RowSource::columns()
 {
     describeColumns();
     return m_columns;
+}
+
+bool RowSource::isUpdatable()
+{
+    describeColumns();
+    return m_isUpdatable;
 }
 
 int RowSource::columnOf(QStringView name)
@@ -109,16 +126,27 @@ RowStore RowSource::readAll()
     Statement statement =
         m_hasBinary ? prepareChecked(database(), *m_translation, readingSql()) : std::exchange(prepared(), Statement());
     m_statement.finalize();
+    const int preparedColumns = statement.columnCount();
+    bool isRow = statement.step();
+    if (statement.columnCount() != preparedColumns) { // the table was changed since Open
+        describe(statement);
+        if (m_hasBinary) {
+            statement = prepareChecked(database(), *m_translation, readingSql());
+            isRow = statement.step();
+        }
+    }
     RowStore rows(int(m_columns.size()));
-    while (statement.step())
+    for (; isRow; isRow = statement.step())
         rows.append(statement, m_translation->carriesRowId);
     return rows;
 }
 
 qint32 RowSource::count()
 {
-    Statement statement =
-        prepareChecked(database(), *m_translation, "SELECT COUNT(*) FROM (" + m_translation->sql + ')');
+    describeColumns();
+    // An order makes SQLite carry the rows about, which must not happen to the bytes in them.
+    const QByteArray rows = m_hasBinary ? readingSql() : m_translation->sql;
+    Statement statement = prepareChecked(database(), *m_translation, "SELECT COUNT(*) FROM (" + rows + ')');
     statement.step();
     return qint32(statement.integer(0));
 }
@@ -143,7 +171,13 @@ QByteArray RowSource::readBinary(qint64 rowId, int column)
     return database().readBlob(m_translation->table.toUtf8(), m_columns[size_t(column)].origin, rowId);
 }
 
-qint64 RowSource::insertRow(const Changes &changes)
+void RowSource::requireChange() const
+{
+    if (database().changedRows() == 0)
+        throw objectError(NoCurrentRecord, "ADODB.Recordset");
+}
+
+RowSource::Added RowSource::insertRow(const Changes &changes)
 {
     QByteArray names;
     QByteArray places;
@@ -163,7 +197,14 @@ qint64 RowSource::insertRow(const Changes &changes)
             statement.bind(int(column) + 1, *changes[column]);
     }
     statement.step();
-    return database().lastInsertRowId();
+    if (database().changedRows() > 0)
+        return {database().lastInsertRowId(), true};
+    for (size_t column = 0; column < changes.size(); ++column) {
+        if (changes[column] && changes[column]->is<qint32>() &&
+            database().isKey(m_translation->table.toUtf8(), m_columns[column].origin))
+            return {changes[column]->get<qint32>(), false};
+    }
+    return {database().lastInsertRowId(), false};
 }
 
 void RowSource::updateRow(qint64 rowId, const Changes &changes)
@@ -185,6 +226,7 @@ void RowSource::updateRow(qint64 rowId, const Changes &changes)
     }
     statement.bind(last, rowId);
     statement.step();
+    requireChange();
 }
 
 void RowSource::deleteRow(qint64 rowId)
@@ -193,6 +235,7 @@ void RowSource::deleteRow(qint64 rowId)
         database().prepare("DELETE FROM " + quoted(m_translation->table.toUtf8()) + " WHERE _rowid_=?1");
     statement.bind(1, rowId);
     statement.step();
+    requireChange();
 }
 
 } // namespace data

@@ -28,13 +28,13 @@ struct Column
 class RowSource
 {
 public:
-    RowSource(std::weak_ptr<Database> database, std::shared_ptr<const sql::Translation> translation);
+    RowSource(std::weak_ptr<Database> file, std::shared_ptr<const sql::Translation> translation);
 
     const std::vector<Column> &columns();
     // The column of a name, without regard to case; -1 when there is none.
     int columnOf(QStringView name);
-    // Rows can be added, changed and deleted: they are rows of one table.
-    bool isUpdatable() const { return m_translation->carriesRowId; }
+    // Rows can be added, changed and deleted: they are rows of one table, and no column is computed.
+    bool isUpdatable();
 
     // Runs the statement to its end; afterwards nothing of it stays open.
     RowStore readAll();
@@ -46,8 +46,13 @@ public:
 
     // The values of the columns to write; those without one keep what they have, or take their default.
     using Changes = std::vector<std::optional<runtime::Value>>;
-    // Returns the new row's identity.
-    qint64 insertRow(const Changes &changes);
+    struct Added
+    {
+        qint64 rowId;
+        bool isNew; // false where the table passed over it, for it has a row of that key: then it is that row
+    };
+    Added insertRow(const Changes &changes);
+    // Both raise error 3021 when the row is gone.
     void updateRow(qint64 rowId, const Changes &changes);
     void deleteRow(qint64 rowId);
 
@@ -55,6 +60,8 @@ private:
     Database &database() const;
     Statement &prepared();
     void describeColumns();
+    void describe(const Statement &statement);
+    void requireChange() const;
     // The statement with the length of each binary column in its place; the statement itself where it has none.
     QByteArray readingSql();
     QByteArray listOfOrigins(bool withBinaries);
@@ -65,6 +72,7 @@ private:
     std::vector<Column> m_columns;
     bool m_described = false;
     bool m_hasBinary = false;
+    bool m_isUpdatable = false;
     int m_nextGuess = 0; // handlers ask for the columns row by row in the same order
 };
 

@@ -41,8 +41,9 @@ void Statement::bind(int parameter, qint64 number)
 
 void Statement::bindText(int parameter, QByteArrayView utf8)
 {
-    check(sqlite3_bind_text64(m_statement.get(), parameter, utf8.data(), sqlite3_uint64(utf8.size()), SQLITE_TRANSIENT,
-                              SQLITE_UTF8));
+    // A text without characters may have no address, which SQLite would take for Null.
+    check(sqlite3_bind_text64(m_statement.get(), parameter, utf8.isEmpty() ? "" : utf8.data(),
+                              sqlite3_uint64(utf8.size()), SQLITE_TRANSIENT, SQLITE_UTF8));
 }
 
 void Statement::bind(int parameter, const runtime::Value &value)
@@ -87,6 +88,7 @@ bool Statement::step()
 {
     const int code = sqlite3_step(m_statement.get());
     check(code);
+    m_columnCount = sqlite3_column_count(m_statement.get());
     return code == SQLITE_ROW;
 }
 

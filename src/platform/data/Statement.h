@@ -30,7 +30,8 @@ public:
     void bind(int parameter, const runtime::Value &value);
     void bind(int parameter, qint64 number);
     void bindText(int parameter, QByteArrayView utf8);
-    // Fails with a StoreError. True while there is a row.
+    // Fails with a StoreError. True while there is a row. The first step may find that the table has changed since the
+    // statement was prepared: then it may have other columns.
     bool step();
     void reset();
 

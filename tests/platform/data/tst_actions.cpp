@@ -1,0 +1,285 @@
+#include "support/DataFolder.h"
+
+#include <QTest>
+
+#include <optional>
+
+using namespace Qt::Literals::StringLiterals;
+using data::Connection;
+using data::Recordset;
+using runtime::Value;
+
+class ActionsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void convertsLiterals_data();
+    void convertsLiterals();
+    void convertsLiteralsOfAnotherRegion();
+    void refusesStatements_data();
+    void refusesStatements();
+    void comparesOnlyLikeWithLike_data();
+    void comparesOnlyLikeWithLike();
+    void fillsInDefaults();
+    void changesAndDeletesWhatTheConditionNames();
+    void leavesTheFileWholeWhenItFails_data();
+    void leavesTheFileWholeWhenItFails();
+
+private:
+    void run(const QString &statement)
+    {
+        Recordset action;
+        action.Open(statement, m_connection);
+    }
+
+    std::optional<DataFolder> m_folder;
+    Connection m_connection;
+};
+
+namespace {
+
+const QString mismatch = u"-2147217913 Data type mismatch in criteria expression."_s;
+const QString overflow = u"-2147217833 Overflow"_s;
+const QString noValueGiven = u"-2147217904 No value given for one or more required parameters."_s;
+
+QString noInputTable(const QString &name)
+{
+    return u"-2147217865 The Microsoft Jet database engine cannot find the input table or query '%1'.  Make sure it "
+           u"exists and that its name is spelled correctly."_s.arg(name);
+}
+
+} // namespace
+
+void ActionsTest::init()
+{
+    m_folder.emplace();
+    m_folder->execute("CREATE TABLE Kinds (Id INTEGER PRIMARY KEY, Small SMALLINT, Whole INTEGER, Real DOUBLE,"
+                      " Amount CURRENCY, Day DATETIME, Flag BOOLEAN, Word TEXT COLLATE NOCASE,"
+                      " Bytes BLOB); INSERT INTO Kinds (Id) VALUES (1)");
+    m_folder->open(m_connection);
+}
+
+void ActionsTest::cleanup()
+{
+    QLocale::setDefault(QLocale::c());
+    m_connection = Connection();
+    m_folder.reset();
+}
+
+void ActionsTest::convertsLiterals_data()
+{
+    QTest::addColumn<QString>("column");
+    QTest::addColumn<QString>("literal");
+    QTest::addColumn<QString>("stored"); // or the error
+
+    const auto row = [](const char *column, const char *literal, const QString &stored) {
+        QTest::addRow("%s = %s", column, literal)
+            << QString::fromLatin1(column) << QString::fromLatin1(literal) << stored;
+    };
+    row("Small", "'12'", u"12"_s);
+    row("Small", "'12.5'", u"12"_s); // half to even
+    row("Small", "32767", u"32767"_s);
+    row("Small", "32768", overflow);
+    row("Small", "'-32769'", overflow);
+    row("Small", "''", mismatch);
+    row("Small", "Yes", u"-1"_s);
+    row("Whole", "'2147483648'", overflow);
+    row("Whole", "'1e3'", u"1000"_s);
+    row("Whole", "'x'", mismatch);
+    row("Real", "'1,200.5'", u"1200.5"_s);
+    row("Real", "'1e400'", overflow);
+    row("Amount", "'$1,200.50'", u"1200.5"_s);
+    row("Amount", "'(5)'", u"-5"_s);
+    row("Amount", "0.00005", u"0"_s);
+    row("Amount", "'1e15'", overflow);
+    row("Amount", "'922337203685477.5807'", overflow); // the file could not give it back
+    row("Amount", "''", mismatch);
+    row("Amount", "'5%'", mismatch);
+    row("Day", "'1/31/2001'", u"2001-01-31 00:00:00"_s);
+    row("Day", "#1/31/2001 5:04 PM#", u"2001-01-31 17:04:00"_s);
+    row("Day", "'soon'", mismatch);
+    row("Day", "''", mismatch);
+    row("Flag", "No", u"0"_s);
+    row("Flag", "2", u"-1"_s);
+    row("Flag", "'x'", mismatch);
+    row("Word", "12", u"12"_s);
+    row("Word", "''", QString());
+    row("Word", "Null", u"NULL"_s);
+    row("Bytes", "'x'", mismatch);
+}
+
+// The same in an INSERT and in an UPDATE.
+void ActionsTest::convertsLiterals()
+{
+    QFETCH(QString, column);
+    QFETCH(QString, literal);
+    QFETCH(QString, stored);
+    const QString inserted = errorOf([&] { run(u"INSERT INTO Kinds (Id, %1) values (2, %2)"_s.arg(column, literal)); });
+    const QString updated =
+        errorOf([&] { run(u"UPDATE Kinds SET Kinds.%1 = %2 WHERE (Id=1);"_s.arg(column, literal)); });
+    if (stored.startsWith(u"-2147")) {
+        QCOMPARE(inserted, stored);
+        QCOMPARE(updated, stored);
+        QCOMPARE(m_folder->row("SELECT COUNT(*) FROM Kinds"), u"1"_s);
+        stored = u"NULL"_s;
+    } else {
+        QCOMPARE(inserted + updated, QString());
+        QCOMPARE(m_folder->row("SELECT " + column.toUtf8() + " FROM Kinds WHERE Id = 2"), stored);
+    }
+    QCOMPARE(m_folder->row("SELECT " + column.toUtf8() + " FROM Kinds WHERE Id = 1"), stored);
+}
+
+void ActionsTest::convertsLiteralsOfAnotherRegion()
+{
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    // Quoted values are the user's, read by the user's settings; unquoted ones are the dialect's own.
+    run(u"INSERT INTO Kinds (Amount, Real, Day) values ('1.234,5', 2.5, '2.3.2001')"_s);
+    run(u"INSERT INTO Kinds (Amount, Day) values ('12', #2/3/2001#)"_s);
+    QCOMPARE(m_folder->rows("SELECT Amount, Real, Day FROM Kinds WHERE Id > 1"),
+             (QStringList{u"1234.5|2.5|2001-03-02 00:00:00"_s, u"12|NULL|2001-02-03 00:00:00"_s}));
+}
+
+void ActionsTest::refusesStatements_data()
+{
+    QTest::addColumn<QString>("statement");
+    QTest::addColumn<QString>("error");
+
+    QTest::newRow("unknown field of INSERT")
+        << u"INSERT INTO Kinds (Word, Colour) values ('a', 'b')"_s
+        << u"-2147217900 The INSERT INTO statement contains the following unknown field name: 'Colour'.  Make sure you "
+           u"have typed the name correctly, and try the operation again."_s;
+    QTest::newRow("unknown field of UPDATE") << u"UPDATE Kinds SET Colour = 'b'"_s << noValueGiven;
+    QTest::newRow("unknown field in a condition") << u"DELETE * FROM Kinds WHERE Colour = 'b'"_s << noValueGiven;
+    QTest::newRow("unknown field of SELECT") << u"SELECT Colour FROM Kinds"_s << noValueGiven;
+    QTest::newRow("unknown field in an order") << u"SELECT Word FROM Kinds ORDER BY Colour"_s << noValueGiven;
+    QTest::newRow("word without quotes") << u"SELECT * FROM Kinds WHERE Word = red"_s << noValueGiven;
+    QTest::newRow("missing table of INSERT")
+        << u"INSERT INTO [No Such] (a) values ('b')"_s << u"-2147217865 Could not find output table 'No Such'."_s;
+    QTest::newRow("missing table of UPDATE") << u"UPDATE [No Such] SET a = 'b'"_s << noInputTable(u"No Such"_s);
+    QTest::newRow("missing table of DELETE") << u"DELETE * FROM [No Such]"_s << noInputTable(u"No Such"_s);
+    QTest::newRow("missing table of SELECT") << u"SELECT * FROM [No Such]"_s << noInputTable(u"No Such"_s);
+    QTest::newRow("missing table of a join")
+        << u"SELECT * FROM Kinds LEFT JOIN Nothing ON Kinds.Id = Nothing.Id"_s << noInputTable(u"Nothing"_s);
+    QTest::newRow("field of two tables")
+        << u"SELECT MemberId FROM MemberInformation INNER JOIN EmployerInformation ON MemberInformation.MemberId = "
+           u"EmployerInformation.MemberId"_s
+        << u"-2147467259 The specified field 'MemberId' could refer to more than one table listed in the FROM clause "
+           u"of your SQL statement."_s;
+}
+
+void ActionsTest::refusesStatements()
+{
+    QFETCH(QString, statement);
+    QTEST(errorOf([&] { run(statement); }), "error");
+    QCOMPARE(m_folder->row("SELECT COUNT(*), Word FROM Kinds"), u"1|NULL"_s);
+}
+
+void ActionsTest::comparesOnlyLikeWithLike_data()
+{
+    QTest::addColumn<QString>("condition");
+    QTest::addColumn<QString>("error");
+
+    const auto row = [](const char *condition, const QString &error = {}) {
+        QTest::newRow(condition) << QString::fromLatin1(condition) << error;
+    };
+    row("Whole = 12");
+    row("Word = '12'");
+    row("Day > #1/1/2001#");
+    row("Flag = Yes");
+    row("Amount = 12.5");
+    row("Whole = Null");
+    row("Whole = '12'", mismatch);
+    row("Whole = ''", mismatch);
+    row("'12' = Kinds.Whole", mismatch);
+    row("Word = 12", mismatch);
+    row("Amount = '12.5'", mismatch);
+    row("Day = '1/1/2001'", mismatch);
+    row("Id = 0 AND (Word = 'x' OR Real = 'x')", mismatch);
+}
+
+void ActionsTest::comparesOnlyLikeWithLike()
+{
+    QFETCH(QString, condition);
+    QFETCH(QString, error);
+    QCOMPARE(errorOf([&] { run(u"SELECT * FROM Kinds WHERE "_s + condition); }), error);
+    QCOMPARE(errorOf([&] { run(u"UPDATE Kinds SET Word = 'x' WHERE "_s + condition); }), error);
+    QCOMPARE(errorOf([&] { run(u"DELETE * FROM Kinds WHERE "_s + condition); }), error);
+    QCOMPARE(m_folder->row("SELECT COUNT(*), Word FROM Kinds"), u"1|NULL"_s);
+}
+
+void ActionsTest::fillsInDefaults()
+{
+    const QDate today = QDate::currentDate();
+    run(u"INSERT INTO Contributions (ContributionAmount, ContributionNotes, MemberId) values ('12.50','',17)"_s);
+    Recordset rows;
+    rows.Open(u"SELECT * FROM Contributions WHERE ContributionNotes = '' AND MemberId = 17"_s, m_connection);
+    QCOMPARE(rows.RecordCount(), 1);
+    QCOMPARE(rows[u"ContributionAmount"].Value(), Value(runtime::Currency::fromScaled(125'000)));
+    const QDate day = rows[u"ContributionDate"].Value().get<runtime::Date>().day();
+    QVERIFY(day == today || day == QDate::currentDate()); // midnight may have passed
+    run(u"INSERT INTO MemberInformation (LastName) values ('Default')"_s);
+    QCOMPARE(textsOf(m_connection, u"select * from MemberInformation where LastName = 'Default' and Active = yes"_s,
+                     u"MemberId"),
+             QStringList{u"65"_s});
+}
+
+void ActionsTest::changesAndDeletesWhatTheConditionNames()
+{
+    run(u"UPDATE MemberType SET MemberType.MemberType = 'it''s \"so\"; é' WHERE (MemberType.MemberTypeId=4);"_s);
+    QCOMPARE(m_folder->rows("SELECT MemberTypeId FROM MemberType WHERE MemberType = 'it''s \"so\"; é'"),
+             QStringList{u"4"_s});
+    run(u"DELETE MemberType.MemberType FROM MemberType WHERE (MemberTypeId =4)"_s); // the whole row goes
+    run(u"DELETE * FROM MemberType WHERE (MemberTypeId =4)"_s);                     // nothing left to delete
+    QCOMPARE(m_folder->row("SELECT group_concat(MemberTypeId) FROM MemberType"), u"1,2,3,5,6"_s);
+    run(u"delete * from MemberType"_s);
+    QCOMPARE(m_folder->row("SELECT COUNT(*) FROM MemberType"), u"0"_s);
+}
+
+void ActionsTest::leavesTheFileWholeWhenItFails_data()
+{
+    QTest::addColumn<QString>("statement");
+    QTest::addColumn<int>("failsAt"); // the row whose change is refused
+
+    for (const int failsAt : {1, 3, 6}) {
+        QTest::addRow("update, row %d", failsAt) << u"UPDATE MemberType SET MemberType = 'x'"_s << failsAt;
+        QTest::addRow("delete, row %d", failsAt) << u"DELETE * FROM MemberType"_s << failsAt;
+    }
+    QTest::newRow("insert") << u"INSERT INTO MemberType (MemberType) values ('x')"_s << 7;
+}
+
+// A statement that fails in its middle changes nothing, and the recordset that meets the failure keeps its change.
+void ActionsTest::leavesTheFileWholeWhenItFails()
+{
+    QFETCH(QString, statement);
+    QFETCH(int, failsAt);
+    const QByteArray raise = " ON MemberType WHEN %1.MemberTypeId = " + QByteArray::number(failsAt) +
+                             " BEGIN SELECT RAISE(ABORT, 'refused'); END;";
+    for (const QByteArray event : {"UPDATE", "DELETE", "INSERT"})
+        m_folder->execute("CREATE TRIGGER refuse" + event + " AFTER " + event +
+                          QByteArray(raise).replace("%1", event == "DELETE" ? "OLD" : "NEW"));
+    const QStringList before = m_folder->rows("SELECT * FROM MemberType");
+
+    QCOMPARE(errorOf([&] { run(statement); }), u"-2147467259 refused"_s);
+    QCOMPARE(m_folder->rows("SELECT * FROM MemberType"), before);
+
+    Recordset rows;
+    rows.Open(u"select * from MemberType where MemberTypeId = %1"_s.arg(failsAt), m_connection);
+    if (rows.Eof())
+        rows.AddNew();
+    rows[u"MemberType"].setValue(u"kept"_s);
+    QCOMPARE(errorOf([&] { rows.Update(); }), u"-2147217887 refused"_s);
+    QCOMPARE(rows[u"MemberType"].Value(), Value(u"kept"_s));
+    QCOMPARE(m_folder->rows("SELECT * FROM MemberType"), before);
+    QCOMPARE(m_folder->row("PRAGMA integrity_check"), u"ok"_s);
+
+    m_folder->execute("DROP TRIGGER refuseUPDATE; DROP TRIGGER refuseINSERT");
+    rows.Update(); // what was pending is saved after all
+    QCOMPARE(m_folder->row("SELECT MemberTypeId FROM MemberType WHERE MemberType = 'kept'"), QString::number(failsAt));
+}
+
+QTEST_GUILESS_MAIN(ActionsTest)
+#include "tst_actions.moc"

@@ -1,0 +1,334 @@
+#include "platform/data/Collation.h"
+#include "platform/data/sql/Translation.h"
+#include "support/DataFolder.h"
+
+#include <QTest>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+using data::Connection;
+
+class CollationTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+
+    void tellsTextsApart_data();
+    void tellsTextsApart();
+    void isAnOrder();
+    void agreesWithTheIndexesOnAscii();
+    void matchesPatterns_data();
+    void matchesPatterns();
+    void findsByPatternWhatThePatternMatches_data();
+    void findsByPatternWhatThePatternMatches();
+    void findsByEqualityWhatCountsAsEqual();
+    void groupsAndOrdersNames();
+    void ordersNullFirst();
+    void searchesByIndex_data();
+    void searchesByIndex();
+
+private:
+    QStringList namesWhere(const QString &condition);
+
+    DataFolder m_folder{DataFolder::Content::Empty};
+    Connection m_connection;
+};
+
+namespace {
+
+const QString kelvin = u"\u212A"_s;
+const QString longS = u"\u017F"_s;
+
+// Names that differ by case, accents, blanks, and signs of the dialect's own.
+const QStringList names{u""_s,
+                        u" "_s,
+                        u"Smith"_s,
+                        u"smith"_s,
+                        u"Smith "_s,
+                        u"Smyth"_s,
+                        u"Smi"_s,
+                        u"Schäfer"_s,
+                        u"SCHÄFER"_s,
+                        u"Schafer"_s,
+                        u"Elan"_s,
+                        u"Élan"_s,
+                        u"élan"_s,
+                        u"Elba"_s,
+                        u"O'Brien"_s,
+                        u"O'brian"_s,
+                        u"OBrien"_s,
+                        u"100%"_s,
+                        u"100 percent"_s,
+                        u"a_b"_s,
+                        u"axb"_s,
+                        u"[x]"_s,
+                        u"x]"_s,
+                        u"kelly"_s,
+                        u"Kelly"_s,
+                        kelvin + u"elly"_s,
+                        longS + u"mith"_s,
+                        u"Öberg"_s,
+                        u"Oberg"_s,
+                        u"Zoë"_s,
+                        u"Zoe"_s,
+                        u"Łukasz"_s,
+                        u"Lukasz"_s,
+                        u"ΣΊΣΥΦΟΣ"_s,
+                        u"σίσυφος"_s,
+                        u"a@b"_s,
+                        u"a`b"_s,
+                        u"AzZ"_s,
+                        u"a{"_s,
+                        u"日本"_s,
+                        u"😀"_s,
+                        u"a*b?"_s};
+
+int compared(const QString &a, const QString &b)
+{
+    return data::compareTexts(a.toUtf8(), b.toUtf8());
+}
+
+} // namespace
+
+void CollationTest::initTestCase()
+{
+    m_folder.open(m_connection);
+    data::Recordset rows;
+    rows.Open(u"select * from MemberInformation"_s, m_connection);
+    for (const QString &name : names) {
+        rows.AddNew();
+        rows[u"LastName"].setValue(name);
+        rows.Update();
+    }
+    rows.AddNew(); // and one without a name
+    rows.Update();
+    QCOMPARE(m_folder.row("SELECT COUNT(*) FROM MemberInformation"), QString::number(names.size() + 1));
+}
+
+void CollationTest::tellsTextsApart_data()
+{
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("second");
+    QTest::addColumn<int>("sign");
+
+    QTest::newRow("case") << u"Smith"_s << u"sMITH"_s << 0;
+    QTest::newRow("case of an accented letter") << u"Élan"_s << u"éLAN"_s << 0;
+    QTest::newRow("case beyond Latin") << u"ΑΒΓ"_s << u"αβγ"_s << 0;
+    QTest::newRow("accent") << u"Elan"_s << u"Élan"_s << -1;
+    QTest::newRow("accent yields to a later letter") << u"Élan"_s << u"Elba"_s << -1;
+    QTest::newRow("accent before the next letter") << u"Öberg"_s << u"Ocker"_s << -1;
+    QTest::newRow("trailing blank") << u"Smith"_s << u"Smith "_s << -1;
+    QTest::newRow("nothing") << u""_s << u" "_s << -1;
+    QTest::newRow("Kelvin sign") << kelvin << u"k"_s << 1;
+    QTest::newRow("long s") << longS << u"s"_s << 1;
+    QTest::newRow("German sharp s") << u"Straße"_s << u"Strasse"_s << 1;
+    QTest::newRow("beyond the first plane") << u"😀"_s << u"😁"_s << -1;
+}
+
+void CollationTest::tellsTextsApart()
+{
+    QFETCH(QString, first);
+    QFETCH(QString, second);
+    QFETCH(int, sign);
+    QCOMPARE(compared(first, second), sign);
+    QCOMPARE(compared(second, first), -sign);
+}
+
+// A comparison that contradicts itself damages indexes and sorts at random.
+void CollationTest::isAnOrder()
+{
+    for (const QString &a : names) {
+        for (const QString &b : names) {
+            QCOMPARE(compared(a, b), -compared(b, a));
+            for (const QString &c : names) {
+                if (compared(a, b) <= 0 && compared(b, c) <= 0)
+                    QVERIFY2(compared(a, c) <= 0, qPrintable(a + u" <= "_s + b + u" <= "_s + c));
+                if (compared(a, b) == 0)
+                    QCOMPARE(compared(a, c), compared(b, c));
+            }
+        }
+    }
+}
+
+// A text of ASCII equals the same texts here and in the file's indexes.
+void CollationTest::agreesWithTheIndexesOnAscii()
+{
+    data::Database file;
+    file.open(m_folder.file());
+    data::Statement nocase = file.prepare("SELECT ?1 = ?2 COLLATE NOCASE");
+    for (const QString &a : names) {
+        if (std::any_of(a.cbegin(), a.cend(), [](QChar c) { return c.unicode() > 0x7f; }))
+            continue;
+        for (const QString &b : names) {
+            nocase.bindText(1, a.toUtf8());
+            nocase.bindText(2, b.toUtf8());
+            QVERIFY(nocase.step());
+            QVERIFY2((compared(a, b) == 0) == (nocase.integer(0) != 0), qPrintable(a + u" and "_s + b));
+            nocase.reset();
+        }
+    }
+}
+
+void CollationTest::matchesPatterns_data()
+{
+    QTest::addColumn<QString>("pattern");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("matches");
+
+    const auto row = [](const QString &pattern, const QString &text, bool matches) {
+        QTest::addRow("%s ~ %s", qPrintable(text), qPrintable(pattern)) << pattern << text << matches;
+    };
+    row(u"smi%"_s, u"SMITH"_s, true);
+    row(u"%"_s, u""_s, true);
+    row(u""_s, u""_s, true);
+    row(u""_s, u"x"_s, false);
+    row(u"_"_s, u"😀"_s, true);
+    row(u"_"_s, u""_s, false);
+    row(u"é%"_s, u"Élan"_s, true);
+    row(u"e%"_s, u"Élan"_s, false);
+    row(u"%a%b%c"_s, u"aXbXbc"_s, true); // has to go back to an earlier run
+    row(u"%a%b%c"_s, u"aXbXcb"_s, false);
+    row(u"%ab"_s, u"aab"_s, true);
+    row(u"[a-c]x"_s, u"Bx"_s, true);
+    row(u"[a-c]x"_s, u"dx"_s, false);
+    row(u"[^a-c]x"_s, u"dx"_s, true);
+    row(u"[^a-c]x"_s, u"Bx"_s, false);
+    row(u"100[%]"_s, u"100%"_s, true);
+    row(u"100[%]"_s, u"100 percent"_s, false);
+    row(u"a[_]b"_s, u"axb"_s, false);
+    row(u"[[]x]"_s, u"[x]"_s, true);
+    row(u"[x"_s, u"[x"_s, true); // a bracket without its fellow
+    row(u"a*b?"_s, u"a*b?"_s, true);
+    row(u"a*b?"_s, u"axxbx"_s, false);
+    row(u"k%"_s, kelvin, false);
+}
+
+void CollationTest::matchesPatterns()
+{
+    QFETCH(QString, pattern);
+    QFETCH(QString, text);
+    QTEST(data::matchesLike(pattern.toUtf8(), text.toUtf8()), "matches");
+}
+
+QStringList CollationTest::namesWhere(const QString &condition)
+{
+    return textsOf(m_connection,
+                   u"SELECT LastName FROM MemberInformation WHERE "_s + condition + u" ORDER BY MemberId"_s,
+                   u"LastName");
+}
+
+void CollationTest::findsByPatternWhatThePatternMatches_data()
+{
+    QTest::addColumn<QString>("pattern");
+    for (const QString &pattern :
+         {u"S%"_s,      u"smi%"_s, u"Smith%"_s, u"Smith %"_s, u"e%"_s,    u"É%"_s,  u"él%"_s, u"Sch%"_s,  u"schä%"_s,
+          u"O'%"_s,     u"o'b%"_s, u"k%"_s,     u"z%"_s,      u"zo%"_s,   u"a@%"_s, u"a`%"_s, u"az%"_s,   u"a%"_s,
+          u"100[%]"_s,  u"100%"_s, u"a[_]b"_s,  u"a_b"_s,     u"[[]x]"_s, u"x]%"_s, u"%i%"_s, u"_mith"_s, u"[s-z]%"_s,
+          u"[^a-z]%"_s, u"%"_s,    u""_s,       u" %"_s,      u"Ł%"_s,    u"日%"_s, u"😀"_s,   u"σ%"_s,    u"a*%"_s,
+          u"Smith"_s,   u"ELAN"_s, u"Élan"_s,   u"s[mc]%"_s,  u"%%"_s})
+        QTest::newRow(qPrintable(pattern)) << pattern;
+}
+
+// Ranges over an index, equality and the function of the store have to find what the plain rule says.
+void CollationTest::findsByPatternWhatThePatternMatches()
+{
+    QFETCH(QString, pattern);
+    QStringList expected;
+    for (const QString &name : names) {
+        if (data::matchesLike(pattern.toUtf8(), name.toUtf8()))
+            expected << name;
+    }
+    const QString written = QString(pattern).replace(u"'"_s, u"''"_s);
+    QCOMPARE(namesWhere(u"LastName LIKE '%1'"_s.arg(written)), expected);
+    QCOMPARE(namesWhere(u"NOT (LastName LIKE '%1')"_s.arg(written)).size(), names.size() - expected.size());
+}
+
+void CollationTest::findsByEqualityWhatCountsAsEqual()
+{
+    for (const QString &wanted : names) {
+        QStringList expected;
+        for (const QString &name : names) {
+            if (compared(wanted, name) == 0)
+                expected << name;
+        }
+        const QString written = QString(wanted).replace(u"'"_s, u"''"_s);
+        QCOMPARE(namesWhere(u"LastName = '%1'"_s.arg(written)), expected);
+        QCOMPARE(namesWhere(u"LastName <> '%1'"_s.arg(written)).size(), names.size() - expected.size());
+    }
+}
+
+void CollationTest::groupsAndOrdersNames()
+{
+    QCOMPARE(textsOf(m_connection,
+                     u"SELECT LastName FROM MemberInformation WHERE LastName LIKE 'e%' OR LastName LIKE 'é%' "
+                     u"ORDER BY LastName, MemberId"_s,
+                     u"LastName"),
+             (QStringList{u"Elan"_s, u"Élan"_s, u"élan"_s, u"Elba"_s}));
+    QCOMPARE(textsOf(m_connection,
+                     u"SELECT DISTINCT LastName FROM MemberInformation WHERE LastName LIKE '%lan' ORDER BY LastName"_s,
+                     u"LastName")
+                 .size(),
+             2);
+    QStringList sorted = names;
+    std::stable_sort(sorted.begin(), sorted.end(), [](auto &a, auto &b) { return compared(a, b) < 0; });
+    QCOMPARE(textsOf(m_connection,
+                     u"SELECT LastName FROM MemberInformation WHERE LastName IS NOT NULL ORDER BY LastName, MemberId"_s,
+                     u"LastName"),
+             sorted);
+}
+
+void CollationTest::ordersNullFirst()
+{
+    data::Recordset rows;
+    rows.Open(u"SELECT LastName FROM MemberInformation ORDER BY LastName"_s, m_connection);
+    QVERIFY(rows[u"LastName"].Value().isNull());
+    rows.MoveNext();
+    QCOMPARE(rows[u"LastName"].Value(), runtime::Value(QString()));
+    data::Recordset descending;
+    descending.Open(u"SELECT LastName FROM MemberInformation ORDER BY LastName DESC"_s, m_connection);
+    descending.MoveLast();
+    QVERIFY(descending[u"LastName"].Value().isNull());
+}
+
+void CollationTest::searchesByIndex_data()
+{
+    QTest::addColumn<QString>("statement");
+    QTest::addColumn<QString>("search");
+
+    QTest::newRow("explorer") << u"select * from [MemberInformation] Where [LastName] like 'A%' and Active = yes"_s
+                              << u"USING INDEX MemberInformation_LastName (LastName>? AND LastName<?)"_s;
+    QTest::newRow("joined list")
+        << u"SELECT MemberInformation.MemberId, MemberType.MemberType FROM MemberInformation LEFT JOIN MemberType ON "
+           u"MemberInformation.MemberTypeId = MemberType.MemberTypeId WHERE (((MemberInformation.LastName) Like 'A%') "
+           u"AND ((MemberInformation.Active)=Yes)) ORDER BY FirstName ASC"_s
+        << u"USING INDEX MemberInformation_LastName (LastName>? AND LastName<?)"_s;
+    QTest::newRow("accent behind a plain beginning")
+        << u"select * from [MemberInformation] Where [LastName] like 'Schä%'"_s
+        << u"USING INDEX MemberInformation_LastName (LastName>? AND LastName<?)"_s;
+    QTest::newRow("equal name") << u"SELECT * FROM MemberInformation WHERE LastName = 'smith'"_s
+                                << u"USING INDEX MemberInformation_LastName (LastName=?)"_s;
+    QTest::newRow("events") << u"SELECT EventInformation.* FROM EventInformation WHERE (((EventInformation.EventName) "
+                               u"Like 'G%') AND ((EventInformation.Active)=Yes))"_s
+                            << u"USING INDEX EventInformation_EventName (EventName>? AND EventName<?)"_s;
+}
+
+void CollationTest::searchesByIndex()
+{
+    QFETCH(QString, statement);
+    QFETCH(QString, search);
+    const sql::Translation translation = sql::translate(statement);
+    data::Database file;
+    file.open(m_folder.file());
+    if (translation.callsLike)
+        file.provideLike();
+    QString plan;
+    for (data::Statement query = file.prepare("EXPLAIN QUERY PLAN " + translation.sql); query.step();)
+        plan += QString::fromUtf8(query.text(3)) + u'\n';
+    QVERIFY2(plan.contains(search), qPrintable(plan));
+}
+
+QTEST_GUILESS_MAIN(CollationTest)
+#include "tst_collation.moc"

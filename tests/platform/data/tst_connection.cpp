@@ -1,0 +1,355 @@
+#include "platform/data/Command.h"
+#include "support/DataFolder.h"
+#include "support/OrdinaryUser.h"
+
+#include <QDir>
+#include <QTest>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+using namespace Qt::Literals::StringLiterals;
+using data::Connection;
+using data::Recordset;
+
+class ConnectionTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void refusesToOpen_data();
+    void refusesToOpen();
+    void leavesNothingBehindARefusal();
+    void opensAtMostOnce();
+    void readsItsString_data();
+    void readsItsString();
+    void refusesWorkOverAClosedConnection_data();
+    void refusesWorkOverAClosedConnection();
+    void closesItsRecordsets();
+    void staysOpenBesideMany();
+    void seesWhatAnotherWrote();
+    void saysThatTheFileIsInUse();
+    void readsAFileThatMayNotBeWritten();
+    void runsCommands();
+    void cancelsNothing();
+
+private:
+    const QString selectMembers = u"select * from MemberInformation"_s;
+};
+
+namespace {
+
+void write(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), bytes.size());
+}
+
+QByteArray firstBytes(const QString &path, qint64 count)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.read(count) : QByteArray();
+}
+
+using Prepare = std::function<void(const DataFolder &, const QString &)>;
+
+} // namespace
+
+void ConnectionTest::refusesToOpen_data()
+{
+    QTest::addColumn<Prepare>("prepare");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("error"); // %1: the full path
+
+    const Prepare nothing = [](const DataFolder &, const QString &) {};
+    const auto holding = [](const QByteArray &bytes) {
+        return Prepare([bytes](const DataFolder &, const QString &path) { write(path, bytes); });
+    };
+    const QString unrecognized = u"-2147467259 Unrecognized database format '%1'."_s;
+
+    QTest::newRow("missing file") << nothing << u"none.mdb"_s << u"-2147467259 Could not find file '%1'."_s;
+    QTest::newRow("missing folder") << nothing << u"none/Tolmark.mdb"_s
+                                    << u"-2147467259 '%1' is not a valid path.  Make sure that the path name is "
+                                       u"spelled correctly and that you are connected to the server on which the "
+                                       u"file resides."_s;
+    QTest::newRow("folder") << Prepare([](const DataFolder &, const QString &path) { QVERIFY(QDir().mkdir(path)); })
+                            << u"folder.mdb"_s
+                            << u"-2147467259 The Microsoft Jet database engine cannot open the file '%1'.  It is "
+                               u"already opened exclusively by another user, or you need permission to view its "
+                               u"data."_s;
+    QTest::newRow("file of no bytes") << holding({}) << u"nothing.mdb"_s << unrecognized;
+    QTest::newRow("short text") << holding("hello") << u"short.mdb"_s << unrecognized;
+    QTest::newRow("long text") << holding(QByteArray(10'000, 'x')) << u"long.mdb"_s << unrecognized;
+    QTest::newRow("data file of another program")
+        << holding(QByteArray("\0\1\0\0Standard", 12) + QByteArray(4084, '\0')) << u"foreign.mdb"_s << unrecognized;
+    QTest::newRow("beginning of a data file")
+        << Prepare([](const DataFolder &folder, const QString &path) { write(path, firstBytes(folder.file(), 1000)); })
+        << u"cut.mdb"_s << unrecognized;
+    QTest::newRow("damaged schema") << Prepare([](const DataFolder &folder, const QString &path) {
+        QByteArray bytes = firstBytes(folder.file(), 65536);
+        write(path, bytes.replace(100, 900, QByteArray(900, '\xff')));
+    }) << u"damaged.mdb"_s << unrecognized;
+}
+
+void ConnectionTest::refusesToOpen()
+{
+    const DataFolder folder;
+    QFETCH(Prepare, prepare);
+    QFETCH(QString, name);
+    QFETCH(QString, error);
+    const QString path = folder.path(name);
+    prepare(folder, path);
+    Connection connection;
+    QCOMPARE(errorOf([&] { connection.Open(DataFolder::connectionStringFor(path)); }), error.arg(path));
+    QCOMPARE(connection.State(), data::adStateClosed);
+}
+
+void ConnectionTest::leavesNothingBehindARefusal()
+{
+    const DataFolder folder;
+    Connection connection;
+    QVERIFY(!errorOf([&] { connection.Open(DataFolder::connectionStringFor(folder.path(u"none.mdb"_s))); }).isEmpty());
+    QVERIFY(!QFile::exists(folder.path(u"none.mdb"_s)));
+    folder.open(connection); // the same object serves after all
+    QCOMPARE(textsOf(connection, u"select * from MemberType where MemberTypeId = 5"_s, u"MemberType"),
+             QStringList{u"Life"_s});
+    connection.Close();
+    QCOMPARE(QDir(folder.folder()).entryList(QDir::Files), QStringList{u"Tolmark.mdb"_s});
+}
+
+void ConnectionTest::opensAtMostOnce()
+{
+    const DataFolder folder;
+    Connection connection;
+    const QString closed = u"3704 Operation is not allowed when the object is closed."_s;
+    QCOMPARE(errorOf([&] { connection.Close(); }), closed);
+    folder.open(connection);
+    QCOMPARE(errorOf([&] { folder.open(connection); }), u"3705 Operation is not allowed when the object is open."_s);
+    QCOMPARE(connection.State(), data::adStateOpen);
+    connection.Close();
+    QCOMPARE(errorOf([&] { connection.Close(); }), closed);
+    folder.open(connection);
+}
+
+void ConnectionTest::readsItsString_data()
+{
+    QTest::addColumn<QString>("string"); // %1: the folder
+    QTest::addColumn<QString>("error");
+
+    QTest::newRow("backslashes") << u"Provider=P;Data Source=%1\\Tolmark.mdb;"_s << QString();
+    QTest::newRow("another case") << u"PROVIDER=P;data source=%1\\TOLMARK.MDB"_s << QString();
+    QTest::newRow("blanks and further settings")
+        << u"Provider = P ; Mode=Share Deny None; Data Source = %1/Tolmark.mdb ;;"_s << QString();
+    QTest::newRow("no provider") << u"Data Source=%1/Tolmark.mdb;"_s
+                                 << u"3706 Provider cannot be found. It may not be properly installed."_s;
+    QTest::newRow("nothing") << QString() << u"3706 Provider cannot be found. It may not be properly installed."_s;
+}
+
+void ConnectionTest::readsItsString()
+{
+    const DataFolder folder;
+    QFETCH(QString, string);
+    Connection connection;
+    QTEST(errorOf([&] { connection.Open(string.contains(u"%1") ? string.arg(folder.folder()) : string); }), "error");
+}
+
+void ConnectionTest::refusesWorkOverAClosedConnection_data()
+{
+    QTest::addColumn<bool>("wasOpen");
+    QTest::newRow("never open") << false;
+    QTest::newRow("open once") << true;
+}
+
+void ConnectionTest::refusesWorkOverAClosedConnection()
+{
+    const DataFolder folder;
+    QFETCH(bool, wasOpen);
+    Connection connection;
+    if (wasOpen) {
+        folder.open(connection);
+        connection.Close();
+    }
+    const QString noConnection = u"3709 The connection cannot be used to perform this operation. It is either closed "
+                                 u"or invalid in this context."_s;
+    Recordset rows;
+    QCOMPARE(errorOf([&] { rows.Open(selectMembers, connection); }), noConnection);
+    QCOMPARE(rows.State(), data::adStateClosed);
+    data::Command command;
+    command.CommandText = selectMembers;
+    QCOMPARE(errorOf([&] { command.Execute(); }), noConnection);
+    command.ActiveConnection = &connection;
+    QCOMPARE(errorOf([&] { command.Execute(); }), noConnection);
+}
+
+void ConnectionTest::closesItsRecordsets()
+{
+    const DataFolder folder;
+    Connection connection;
+    folder.open(connection);
+    Recordset read;
+    read.Open(selectMembers, connection);
+    QVERIFY(!read.Eof());
+    Recordset unread;
+    unread.Open(selectMembers, connection);
+    Recordset pending;
+    pending.Open(selectMembers, connection);
+    pending.AddNew();
+    pending[u"LastName"].setValue(u"Pending"_s);
+    connection.Close();
+
+    const QString closed = u"3704 Operation is not allowed when the object is closed."_s;
+    for (Recordset *rows : {&read, &unread, &pending}) {
+        QCOMPARE(rows->State(), data::adStateClosed);
+        QCOMPARE(errorOf([&] { rows->Eof(); }), closed);
+        QCOMPARE(errorOf([&] { rows->RecordCount(); }), closed);
+        QCOMPARE(errorOf([&] { rows->MoveNext(); }), closed);
+        QCOMPARE(errorOf([&] { rows->Fields(u"LastName"); }), closed);
+        QCOMPARE(errorOf([&] { rows->Update(); }), closed);
+        QCOMPARE(errorOf([&] { rows->Close(); }), closed);
+    }
+    QCOMPARE(folder.row("SELECT COUNT(*) FROM MemberInformation WHERE LastName = 'Pending'"), u"0"_s);
+
+    folder.open(connection); // they stay closed, and serve again
+    QCOMPARE(errorOf([&] { read.Eof(); }), closed);
+    read.Open(selectMembers, connection);
+    QVERIFY(!read.Eof());
+}
+
+void ConnectionTest::staysOpenBesideMany()
+{
+    const DataFolder folder;
+    struct Window
+    {
+        Connection connection;
+        Recordset rows;
+    };
+    std::vector<std::unique_ptr<Window>> windows;
+    for (int count = 0; count < 20; ++count) {
+        auto &window = *windows.emplace_back(std::make_unique<Window>());
+        folder.open(window.connection);
+        window.rows.Open(selectMembers, window.connection);
+        if (count % 3 == 0)
+            QVERIFY(!window.rows.Eof());
+        if (count % 3 == 1)
+            window.rows.MoveNext();
+    }
+    for (const auto &window : windows) {
+        window->rows.AddNew();
+        window->rows[u"LastName"].setValue(u"Many"_s);
+        window->rows.Update();
+    }
+    QCOMPARE(folder.row("SELECT COUNT(*), COUNT(DISTINCT MemberId) FROM MemberInformation WHERE LastName = 'Many'"),
+             u"20|20"_s);
+    windows.clear();
+    QCOMPARE(QDir(folder.folder()).entryList(QDir::Files | QDir::Hidden), QStringList{u"Tolmark.mdb"_s});
+}
+
+void ConnectionTest::seesWhatAnotherWrote()
+{
+    const DataFolder folder(DataFolder::Content::Empty);
+    Connection writer;
+    Connection reader;
+    folder.open(writer);
+    folder.open(reader);
+    Recordset rows;
+    rows.Open(u"select * from EventInformation"_s, reader);
+    Recordset action;
+    action.Open(u"INSERT INTO EventInformation (EventName) values ('Gala')"_s, writer);
+    QCOMPARE(rows.RecordCount(), 1); // read when it is first asked, which was after the insertion
+    // A table that another tool changes meanwhile is read as it then is.
+    folder.execute("ALTER TABLE EventInformation ADD COLUMN Place TEXT; UPDATE EventInformation SET Place = 'Hall'");
+    Recordset wider;
+    wider.Open(u"select * from EventInformation"_s, reader);
+    QCOMPARE(wider[u"Place"].Value(), runtime::Value(u"Hall"_s));
+    // So is one that was changed between Open and the first look at its rows; what it then writes goes to its own row.
+    Recordset widest;
+    widest.Open(u"select * from EventInformation"_s, reader);
+    folder.execute("ALTER TABLE EventInformation ADD COLUMN Seats INTEGER DEFAULT 5");
+    QVERIFY(!widest.Eof());
+    QCOMPARE(widest[u"Seats"].Value(), runtime::Value(qint32(5)));
+    widest[u"Place"].setValue(u"Garden"_s);
+    widest.Update();
+    QCOMPARE(folder.row("SELECT EventIdentification, Place, Seats FROM EventInformation"), u"1|Garden|5"_s);
+
+    folder.execute("CREATE TABLE Page (Id INTEGER, Word TEXT)");
+    action.Open(u"INSERT INTO Page (Id, Word) values ('1', 'new')"_s, reader);
+    QCOMPARE(textsOf(reader, u"select * from Page where Id = 1"_s, u"Word"), QStringList{u"new"_s});
+}
+
+void ConnectionTest::saysThatTheFileIsInUse()
+{
+    const DataFolder folder;
+    data::Database other;
+    other.open(folder.file());
+    other.execute("BEGIN EXCLUSIVE");
+    Connection connection;
+    QCOMPARE(errorOf([&] { folder.open(connection); }),
+             u"-2147467259 Could not use '%1'; file already in use."_s.arg(folder.file()));
+    other.execute("ROLLBACK");
+    folder.open(connection);
+}
+
+void ConnectionTest::readsAFileThatMayNotBeWritten()
+{
+    const DataFolder folder;
+    QVERIFY(QFile::setPermissions(folder.folder(), QFile::Permissions::fromInt(0x7755)));
+    QVERIFY(QFile::setPermissions(folder.file(), QFile::Permissions::fromInt(0x4444)));
+    const OrdinaryUser user;
+    if (!user.isInEffect())
+        QSKIP("The system lets this user write every file.");
+    Connection connection;
+    folder.open(connection);
+    Recordset rows;
+    rows.Open(u"select * from MemberType where MemberTypeId = 5"_s, connection);
+    rows[u"MemberType"].setValue(u"Lifelong"_s);
+    QCOMPARE(errorOf([&] { rows.Update(); }), u"-2147467259 Cannot update.  Database or object is read-only."_s);
+    rows.CancelUpdate();
+    QCOMPARE(rows[u"MemberType"].Value(), runtime::Value(u"Life"_s));
+    QCOMPARE(errorOf([&] { rows.Delete(); }), u"-2147467259 Cannot update.  Database or object is read-only."_s);
+    Recordset action;
+    QCOMPARE(errorOf([&] { action.Open(u"DELETE * FROM MemberType"_s, connection); }),
+             u"-2147467259 Operation must use an updateable query."_s);
+}
+
+void ConnectionTest::runsCommands()
+{
+    const DataFolder folder(DataFolder::Content::Empty);
+    Connection connection;
+    folder.open(connection);
+    data::Command command;
+    command.ActiveConnection = &connection;
+    command.CommandText = u"INSERT INTO EventInformation (EventName) values ('Gala')"_s;
+    QCOMPARE(command.Execute().State(), data::adStateClosed);
+    command.CommandText = u"SELECT * FROM EventInformation"_s;
+    Recordset rows = command.Execute();
+    QCOMPARE(rows[u"EventName"].Value(), runtime::Value(u"Gala"_s));
+    QVERIFY(errorOf([&] { rows.AddNew(); }).startsWith(u"3251 "));
+    command.CommandText = u"DELETE * FROM EventInformation"_s;
+    QCOMPARE(errorOf([&] { command.Execute().Eof(); }), u"3704 Operation is not allowed when the object is closed."_s);
+    QCOMPARE(folder.row("SELECT COUNT(*) FROM EventInformation"), u"0"_s);
+}
+
+void ConnectionTest::cancelsNothing()
+{
+    const DataFolder folder;
+    Connection connection;
+    connection.Cancel();
+    folder.open(connection);
+    Recordset rows;
+    rows.Cancel();
+    rows.Open(selectMembers, connection);
+    rows.AddNew();
+    rows[u"LastName"].setValue(u"Kept"_s);
+    rows.Cancel();
+    connection.Cancel();
+    data::Command().Cancel();
+    rows.Update();
+    QCOMPARE(folder.row("SELECT COUNT(*) FROM MemberInformation WHERE LastName = 'Kept'"), u"1"_s);
+}
+
+Q_DECLARE_METATYPE(Prepare)
+
+QTEST_GUILESS_MAIN(ConnectionTest)
+#include "tst_connection.moc"

@@ -1,0 +1,551 @@
+#include "platform/data/Command.h"
+#include "support/DataFolder.h"
+
+#include <QTest>
+
+#include <optional>
+
+using namespace Qt::Literals::StringLiterals;
+using data::Connection;
+using data::Recordset;
+using runtime::Value;
+
+class RecordsetTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void standsOnNothing();
+    void walksItsRows();
+    void findsFieldsByName();
+    void keepsTypes();
+    void tellsNullFromTheEmptyText();
+    void keepsToItsOwnStates();
+
+    void addsRows();
+    void givesNumbersOnlyOnce();
+    void addsBeforeAnythingIsRead();
+    void addsSeveral();
+    void writesAPendingRowBeforeItMovesOn();
+    void edits();
+    void editsARowThatIsNoMore();
+    void dropsWhatIsPending();
+    void deletesWhileItWalks();
+    void countsWhatItAddsAndDeletes();
+    void readsNothingOfADeletedRow();
+    void deletesTheRowJustAdded_data();
+    void deletesTheRowJustAdded();
+
+    void refusesValues_data();
+    void refusesValues();
+    void convertsValues_data();
+    void convertsValues();
+    void refusesToWrite_data();
+    void refusesToWrite();
+    void writesThroughNamedColumns();
+    void passesOverAPersonThatIsThereAlready();
+    void keepsThePendingRowWhenItFails();
+
+private:
+    Recordset opened(const QString &statement, data::LockTypeEnum lock = data::adLockOptimistic)
+    {
+        Recordset rows;
+        rows.Open(statement, m_connection, data::adOpenStatic, lock);
+        return rows;
+    }
+
+    std::optional<DataFolder> m_folder;
+    Connection m_connection;
+};
+
+namespace {
+
+const QString noCurrentRecord = u"3021 Either BOF or EOF is True, or the current record has been deleted. Requested "
+                                u"operation requires a current record."_s;
+const QString refusedValue = u"-2147217887 Multiple-step operation generated errors. Check each status value."_s;
+const QString notUpdatable = u"3251 Current Recordset does not support updating. This may be a limitation of the "
+                             u"provider, or of the selected locktype."_s;
+
+Value text(const char *utf8)
+{
+    return Value(QString::fromUtf8(utf8));
+}
+
+} // namespace
+
+void RecordsetTest::init()
+{
+    m_folder.emplace();
+    m_folder->open(m_connection);
+}
+
+void RecordsetTest::cleanup()
+{
+    m_connection = Connection();
+    m_folder.reset();
+}
+
+void RecordsetTest::standsOnNothing()
+{
+    Recordset rows = opened(u"select * from MemberInformation where MemberId = 0"_s);
+    QCOMPARE(rows.RecordCount(), 0);
+    QVERIFY(rows.Eof());
+    QCOMPARE(rows.RecordCount(), 0);
+    QCOMPARE(errorOf([&] { rows.MoveNext(); }), noCurrentRecord);
+    QCOMPARE(errorOf([&] { rows.MoveFirst(); }), noCurrentRecord);
+    QCOMPARE(errorOf([&] { rows.MoveLast(); }), noCurrentRecord);
+    QCOMPARE(errorOf([&] { rows[u"LastName"].Value(); }), noCurrentRecord);
+    QCOMPARE(errorOf([&] { rows[u"LastName"].setValue(u"x"_s); }), noCurrentRecord);
+    QCOMPARE(errorOf([&] { rows.Delete(); }), noCurrentRecord);
+    rows.Update(); // nothing is pending
+    rows.Close();
+}
+
+void RecordsetTest::walksItsRows()
+{
+    Recordset rows = opened(u"select * from MemberType order by MemberTypeId"_s);
+    QVERIFY(!rows.Eof());
+    QCOMPARE(rows.RecordCount(), 6);
+    const data::Field type = rows[u"MemberType"];
+    QCOMPARE(type.Value(), text("Regular"));
+    rows.MoveLast();
+    QCOMPARE(type.Value(), text("Honorary")); // the field follows the moves
+    rows.MoveNext();
+    QVERIFY(rows.Eof());
+    QCOMPARE(errorOf([&] { rows.MoveNext(); }), noCurrentRecord);
+    QCOMPARE(errorOf([&] { type.Value(); }), noCurrentRecord);
+    rows.MoveFirst();
+    QCOMPARE(textsOf(rows, u"MemberTypeId"), (QStringList{u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s}));
+}
+
+void RecordsetTest::findsFieldsByName()
+{
+    Recordset rows =
+        opened(u"SELECT MemberId AS id, LastName AS [last] FROM [MemberInformation] WHERE MemberId = 16"_s);
+    QCOMPARE(rows[u"LAST"].Value(), text("D'Angelo"));
+    QCOMPARE(rows.Fields(1).Name(), u"last"_s);
+    const QString noSuchItem = u"3265 Item cannot be found in the collection corresponding to the requested name or "
+                               u"ordinal."_s;
+    QCOMPARE(errorOf([&] { rows[u"LastName"]; }), noSuchItem);
+    QCOMPARE(errorOf([&] { rows.Fields(u""); }), noSuchItem);
+    QCOMPARE(errorOf([&] { rows.Fields(2); }), noSuchItem);
+    QCOMPARE(errorOf([&] { rows.Fields(-1); }), noSuchItem);
+}
+
+void RecordsetTest::keepsTypes()
+{
+    m_folder->execute(
+        "CREATE TABLE Kinds (Flag BOOLEAN, Small SMALLINT, Whole INTEGER, Real DOUBLE, Amount CURRENCY,"
+        "                    Day DATETIME, Word TEXT, Memo LONGTEXT, Bytes BLOB);"
+        "INSERT INTO Kinds VALUES (-1, 7, 100000, 1.5, 12.3456, '2001-01-31 17:04:00', 'w', 'm', x'00ff'),"
+        "                         (0, 70000, 5000000000, 2, 3, 'soon', 12, 1.5, 'text')");
+    Recordset rows = opened(u"select * from Kinds"_s);
+    const auto typeOf = [&rows](QStringView name) { return int(rows[name].Value().type()); };
+    using Type = Value::Type;
+    QCOMPARE(rows[u"Flag"].Value(), Value(true));
+    QCOMPARE(rows[u"Small"].Value(), Value(qint16(7)));
+    QCOMPARE(rows[u"Whole"].Value(), Value(qint32(100'000)));
+    QCOMPARE(rows[u"Real"].Value(), Value(1.5));
+    QCOMPARE(rows[u"Amount"].Value(), Value(runtime::Currency::fromScaled(123'456)));
+    QCOMPARE(rows[u"Day"].Value(), Value(runtime::Date(QDate(2001, 1, 31), QTime(17, 4))));
+    QCOMPARE(rows[u"Bytes"].Value(), Value(QByteArray("\0\xff", 2)));
+
+    // What another tool wrote into a column of another kind comes back as what it is.
+    rows.MoveNext();
+    QCOMPARE(rows[u"Flag"].Value(), Value(false));
+    QCOMPARE(rows[u"Small"].Value(), Value(qint32(70'000)));
+    QCOMPARE(rows[u"Whole"].Value(), Value(5e9));
+    QCOMPARE(typeOf(u"Real"), int(Type::Double));
+    QCOMPARE(typeOf(u"Amount"), int(Type::Currency));
+    QCOMPARE(rows[u"Day"].Value(), text("soon"));
+    QCOMPARE(rows[u"Word"].Value(), text("12"));
+    QCOMPARE(rows[u"Memo"].Value(), text("1.5"));
+}
+
+void RecordsetTest::tellsNullFromTheEmptyText()
+{
+    Recordset rows = opened(u"select * from MemberInformation where MemberId = 2"_s);
+    QCOMPARE(rows[u"MiddleName"].Value(), text(""));
+    QVERIFY(rows[u"CellPhone"].Value().isNull());
+    QCOMPARE(errorOf([&] { runtime::toText(rows[u"CellPhone"].Value()); }), u"94 Invalid use of Null"_s);
+    rows[u"MiddleName"].setValue(Value());
+    rows[u"CellPhone"].setValue(QString()); // a text without characters, not Null
+    rows.Update();
+    QCOMPARE(m_folder->row("SELECT MiddleName, CellPhone FROM MemberInformation WHERE MemberId = 2"), u"NULL|"_s);
+    QVERIFY(rows[u"MiddleName"].Value().isNull());
+    QCOMPARE(rows[u"CellPhone"].Value(), text(""));
+    QCOMPARE(textsOf(m_connection, u"select * from MemberInformation where MiddleName = '' and MemberId <= 3"_s,
+                     u"MemberId"),
+             QStringList{}); // = '' does not find the Null of the third
+}
+
+void RecordsetTest::keepsToItsOwnStates()
+{
+    const QString closed = u"3704 Operation is not allowed when the object is closed."_s;
+    Recordset rows;
+    QCOMPARE(errorOf([&] { rows.Close(); }), closed);
+    QCOMPARE(errorOf([&] { rows.Eof(); }), closed);
+    rows.Open(u"select * from MemberType"_s, m_connection);
+    QCOMPARE(errorOf([&] { rows.Open(u"select * from MemberType"_s, m_connection); }),
+             u"3705 Operation is not allowed when the object is open."_s);
+    rows[u"MemberType"].setValue(u"Ordinary"_s);
+    QCOMPARE(errorOf([&] { rows.Close(); }), u"3219 Operation is not allowed in this context."_s);
+    rows.CancelUpdate();
+    rows.Close();
+    // A failing statement leaves it closed; so does one that has no rows to give.
+    QVERIFY(!errorOf([&] { rows.Open(u"select * from Nothing"_s, m_connection); }).isEmpty());
+    QCOMPARE(rows.State(), data::adStateClosed);
+    rows.Open(u"UPDATE MemberType SET MemberType = 'Ordinary' WHERE MemberTypeId = 1"_s, m_connection);
+    QCOMPARE(rows.State(), data::adStateClosed);
+    QCOMPARE(errorOf([&] { rows.Eof(); }), closed);
+    QCOMPARE(m_folder->row("SELECT MemberType FROM MemberType WHERE MemberTypeId = 1"), u"Ordinary"_s);
+}
+
+void RecordsetTest::addsRows()
+{
+    Recordset rows = opened(u"select * from MemberInformation"_s);
+    QCOMPARE(rows.RecordCount(), 64);
+    rows.AddNew();
+    QVERIFY(!rows.Eof());
+    QVERIFY(rows[u"MemberId"].Value().isNull());
+    QVERIFY(rows[u"Active"].Value().isNull());
+    rows[u"FirstName"].setValue(u"Zoë"_s);
+    rows[u"LastName"].setValue(u"O'Hara; (\"x\")"_s);
+    QCOMPARE(rows[u"LastName"].Value(), text("O'Hara; (\"x\")"));
+    rows.UpdateBatch();
+    QCOMPARE(rows[u"MemberId"].Value(), Value(qint32(65)));
+    QCOMPARE(rows[u"Active"].Value(), Value(true)); // the file's default
+    QVERIFY(rows[u"City"].Value().isNull());
+    QCOMPARE(m_folder->row("SELECT FirstName, LastName, City, Active FROM MemberInformation WHERE MemberId = 65"),
+             u"Zoë|O'Hara; (\"x\")|NULL|-1"_s);
+    rows.MoveNext(); // the new row stands at the end
+    QVERIFY(rows.Eof());
+}
+
+void RecordsetTest::givesNumbersOnlyOnce()
+{
+    QStringList numbers;
+    for (int round = 0; round < 3; ++round) {
+        Recordset rows = opened(u"select * from MemberInterest"_s);
+        rows.AddNew();
+        rows[u"MemberId"].setValue(Value(qint16(1)));
+        rows.Update();
+        numbers << runtime::toText(rows[u"MemberInterestId"].Value());
+        rows.Delete();
+    }
+    QCOMPARE(QSet<QString>(numbers.cbegin(), numbers.cend()).size(), 3);
+}
+
+void RecordsetTest::addsBeforeAnythingIsRead()
+{
+    Recordset rows = opened(u"select * from EventInformation order by EventName"_s);
+    rows.AddNew();
+    rows[u"EventName"].setValue(u"Gala"_s);
+    rows.Update();
+    const Value id = rows[u"EventIdentification"].Value();
+    QCOMPARE(id, Value(qint32(18)));
+    QCOMPARE(rows.RecordCount(), 18);
+    rows[u"EventDescription"].setValue(u"In the hall"_s); // an edit of the new row
+    rows.Update();
+    QCOMPARE(rows[u"EventDescription"].Value(), text("In the hall"));
+    rows.MoveLast();
+    QCOMPARE(rows[u"EventIdentification"].Value(), id); // wherever the order put it
+    rows.MoveFirst();
+    QCOMPARE(rows[u"EventName"].Value(), text("50th Anniversary"));
+    QCOMPARE(m_folder->row("SELECT EventName, EventDescription FROM EventInformation WHERE EventIdentification = 18"),
+             u"Gala|In the hall"_s);
+}
+
+void RecordsetTest::addsSeveral()
+{
+    for (const bool readFirst : {false, true}) {
+        Recordset rows = opened(u"select * from CategoryInfo"_s);
+        if (readFirst)
+            QVERIFY(!rows.Eof());
+        const qint32 before = rows.RecordCount();
+        for (const char *name : {"One", "Two", "Three"}) {
+            rows.AddNew(); // writes the one before
+            rows[u"CategoryName"].setValue(QString::fromLatin1(name));
+        }
+        rows.Update();
+        QCOMPARE(rows[u"CategoryName"].Value(), text("Three"));
+        QCOMPARE(rows.RecordCount(), before + 3);
+        rows.Update(); // nothing more is pending
+        QCOMPARE(rows.RecordCount(), before + 3);
+    }
+    QCOMPARE(m_folder->row("SELECT COUNT(*) FROM CategoryInfo WHERE CategoryName IN ('One', 'Two', 'Three')"), u"6"_s);
+}
+
+void RecordsetTest::writesAPendingRowBeforeItMovesOn()
+{
+    Recordset rows = opened(u"select * from MemberType order by MemberTypeId"_s);
+    rows[u"MemberType"].setValue(u"Ordinary"_s);
+    rows.MoveNext();
+    QCOMPARE(rows[u"MemberType"].Value(), text("Family"));
+    rows.MoveFirst();
+    QCOMPARE(rows[u"MemberType"].Value(), text("Ordinary"));
+    QCOMPARE(m_folder->row("SELECT MemberType FROM MemberType WHERE MemberTypeId = 1"), u"Ordinary"_s);
+}
+
+void RecordsetTest::edits()
+{
+    Recordset rows = opened(u"select * from MemberInformation order by MemberId"_s);
+    rows.MoveNext();
+    rows[u"City"].setValue(u"Dayton"_s);
+    QCOMPARE(m_folder->row("SELECT City FROM MemberInformation WHERE MemberId = 2"), u"Columbus"_s);
+    rows.Update();
+    QCOMPARE(rows[u"City"].Value(), text("Dayton"));
+    QCOMPARE(rows[u"LastName"].Value(), text("Abernathy"));
+    QCOMPARE(m_folder->row("SELECT group_concat(MemberId) FROM MemberInformation WHERE City = 'Dayton'"), u"2"_s);
+    QCOMPARE(rows.RecordCount(), 64);
+}
+
+void RecordsetTest::editsARowThatIsNoMore()
+{
+    Recordset rows = opened(u"select * from MemberType order by MemberTypeId"_s);
+    QVERIFY(!rows.Eof());
+    m_folder->execute("DELETE FROM MemberType WHERE MemberTypeId = 1");
+    rows[u"MemberType"].setValue(u"Ordinary"_s);
+    // The user must not believe that this was saved.
+    QCOMPARE(errorOf([&] { rows.Update(); }), noCurrentRecord);
+    rows.CancelUpdate();
+    QCOMPARE(errorOf([&] { rows.Delete(); }), noCurrentRecord);
+    rows.MoveNext();
+    QCOMPARE(rows[u"MemberType"].Value(), text("Family"));
+}
+
+void RecordsetTest::dropsWhatIsPending()
+{
+    Recordset rows = opened(u"select * from MemberType order by MemberTypeId"_s);
+    rows.CancelUpdate(); // nothing is pending
+    rows.MoveNext();
+    rows[u"MemberType"].setValue(u"Clan"_s);
+    rows.CancelUpdate();
+    QCOMPARE(rows[u"MemberType"].Value(), text("Family"));
+    rows.AddNew();
+    rows[u"MemberType"].setValue(u"Clan"_s);
+    rows.CancelUpdate();
+    QCOMPARE(rows[u"MemberType"].Value(), text("Family")); // the earlier row is the current one again
+    rows.MoveNext();
+    QCOMPARE(m_folder->row("SELECT COUNT(*) FROM MemberType WHERE MemberType = 'Clan'"), u"0"_s);
+}
+
+void RecordsetTest::deletesWhileItWalks()
+{
+    Recordset rows = opened(u"select * from MemberType order by MemberTypeId"_s);
+    while (!rows.Eof()) {
+        if (runtime::toLong(rows[u"MemberTypeId"].Value()) % 3 != 1)
+            rows.Delete();
+        rows.MoveNext();
+    }
+    QCOMPARE(rows.RecordCount(), 2);
+    rows.MoveFirst();
+    QCOMPARE(textsOf(rows, u"MemberTypeId"), (QStringList{u"1"_s, u"4"_s}));
+    rows.MoveLast();
+    QCOMPARE(rows[u"MemberTypeId"].Value(), Value(qint32(4)));
+    QCOMPARE(m_folder->row("SELECT group_concat(MemberTypeId) FROM MemberType"), u"1,4"_s);
+    rows.Delete();
+    rows.MoveFirst();
+    rows.Delete();
+    QCOMPARE(errorOf([&] { rows.MoveFirst(); }), noCurrentRecord);
+    QCOMPARE(rows.RecordCount(), 0);
+}
+
+void RecordsetTest::countsWhatItAddsAndDeletes()
+{
+    for (const bool readFirst : {false, true}) {
+        Recordset rows = opened(u"select * from MemberType"_s);
+        if (readFirst)
+            QVERIFY(!rows.Eof());
+        rows.AddNew();
+        QCOMPARE(rows.RecordCount(), 6); // not before it is written
+        rows.Update();
+        QCOMPARE(rows.RecordCount(), 7);
+        rows.MoveLast();
+        rows.Delete();
+        QCOMPARE(rows.RecordCount(), 6);
+    }
+}
+
+void RecordsetTest::readsNothingOfADeletedRow()
+{
+    Recordset rows = opened(u"select * from MemberType order by MemberTypeId"_s);
+    rows.Delete();
+    QCOMPARE(errorOf([&] { rows[u"MemberType"].Value(); }), noCurrentRecord);
+    QCOMPARE(errorOf([&] { rows[u"MemberType"].setValue(u"x"_s); }), noCurrentRecord);
+    QCOMPARE(errorOf([&] { rows.Delete(); }), noCurrentRecord);
+    rows.Update();
+    rows.MoveNext();
+    QCOMPARE(rows[u"MemberType"].Value(), text("Family"));
+}
+
+void RecordsetTest::deletesTheRowJustAdded_data()
+{
+    QTest::addColumn<bool>("readFirst");
+    QTest::newRow("rows not read yet") << false;
+    QTest::newRow("rows read") << true;
+}
+
+void RecordsetTest::deletesTheRowJustAdded()
+{
+    QFETCH(bool, readFirst);
+    Recordset rows = opened(u"select * from MemberType"_s);
+    if (readFirst)
+        QVERIFY(!rows.Eof());
+    rows.AddNew();
+    rows.Update();
+    rows.Delete();
+    QCOMPARE(m_folder->row("SELECT COUNT(*) FROM MemberType"), u"6"_s);
+    QCOMPARE(errorOf([&] { rows[u"MemberType"].Value(); }), noCurrentRecord);
+    QCOMPARE(rows.RecordCount(), 6);
+    rows.MoveNext();
+    QVERIFY(rows.Eof());
+}
+
+void RecordsetTest::refusesValues_data()
+{
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<Value>("value");
+
+    QTest::newRow("word for an amount") << u"ContributionAmount"_s << text("twelve");
+    QTest::newRow("empty text for an amount") << u"ContributionAmount"_s << text("");
+    QTest::newRow("amount beyond its type") << u"ContributionAmount"_s << text("1e15");
+    QTest::newRow("amount beyond what the file keeps exactly")
+        << u"ContributionAmount"_s << text("922337203685477.5807");
+    QTest::newRow("word for a date") << u"ContributionDate"_s << text("soon");
+    QTest::newRow("empty text for a date") << u"ContributionDate"_s << text("");
+    QTest::newRow("day beyond the calendar") << u"ContributionDate"_s << Value(1e9);
+    QTest::newRow("number beyond 32 bits") << u"MemberId"_s << Value(2147483648.0);
+    QTest::newRow("word for a number") << u"MemberId"_s << text("x");
+    QTest::newRow("bytes for a memo") << u"ContributionNotes"_s << Value(QByteArray("x"));
+}
+
+// At the assignment, not at the save; what was pending before stays so.
+void RecordsetTest::refusesValues()
+{
+    QFETCH(QString, field);
+    QFETCH(Value, value);
+    Recordset rows = opened(u"select * from Contributions"_s);
+    rows.AddNew();
+    rows[u"ContributionNotes"].setValue(u"kept"_s);
+    QCOMPARE(errorOf([&] { rows[field].setValue(value); }), refusedValue);
+    QCOMPARE(rows[u"ContributionNotes"].Value(), text("kept"));
+    rows.Update();
+    QCOMPARE(rows[u"ContributionNotes"].Value(), text("kept"));
+}
+
+void RecordsetTest::convertsValues_data()
+{
+    QTest::addColumn<QString>("table");
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<Value>("value");
+    QTest::addColumn<QString>("stored");
+
+    QTest::newRow("amount with its signs")
+        << u"Contributions"_s << u"ContributionAmount"_s << text("$1,200.50") << u"1200.5"_s;
+    QTest::newRow("amount with four decimals")
+        << u"Contributions"_s << u"ContributionAmount"_s << text("-0.0001") << u"-0.0001"_s;
+    QTest::newRow("date in the region's order")
+        << u"Contributions"_s << u"ContributionDate"_s << text("2/3/2001") << u"2001-02-03 00:00:00"_s;
+    QTest::newRow("time alone") << u"MeetingInfo"_s << u"MeetingStartTime"_s << text("5:30 PM")
+                                << u"1899-12-30 17:30:00"_s;
+    QTest::newRow("half to even") << u"Resources"_s << u"DocuemntVersion"_s << text("2.5") << u"2"_s;
+    QTest::newRow("number as text") << u"MemberInformation"_s << u"Zip"_s << Value(qint32(4101)) << u"4101"_s;
+    QTest::newRow("any number is Yes") << u"MemberInformation"_s << u"Active"_s << Value(qint16(5)) << u"-1"_s;
+    QTest::newRow("word for Yes") << u"MemberInformation"_s << u"Active"_s << text("false") << u"0"_s;
+    QTest::newRow("Null for a number") << u"Resources"_s << u"DocuemntVersion"_s << Value() << u"NULL"_s;
+}
+
+void RecordsetTest::convertsValues()
+{
+    QFETCH(QString, table);
+    QFETCH(QString, field);
+    QFETCH(Value, value);
+    Recordset rows = opened(u"select * from "_s + table);
+    rows.AddNew();
+    rows[field].setValue(value);
+    rows.Update();
+    QTEST(m_folder->row("SELECT " + field.toUtf8() + " FROM " + table.toUtf8() + " ORDER BY _rowid_ DESC LIMIT 1"),
+          "stored");
+}
+
+void RecordsetTest::refusesToWrite_data()
+{
+    QTest::addColumn<QString>("statement");
+    QTest::addColumn<int>("lock");
+
+    QTest::newRow("join") << u"SELECT FieldInfo.*, TabInfo.TabNam FROM FieldInfo INNER JOIN TabInfo ON FieldInfo.TabId "
+                             u"= TabInfo.TabId"_s
+                          << int(data::adLockOptimistic);
+    QTest::newRow("distinct rows") << u"SELECT distinct AttachmentExtension FROM Attachments"_s
+                                   << int(data::adLockOptimistic);
+    QTest::newRow("groups") << u"SELECT LastName, Count(*) FROM MemberInformation GROUP BY LastName"_s
+                            << int(data::adLockOptimistic);
+    QTest::newRow("computed column") << u"SELECT MemberId + 1 AS following, LastName FROM MemberInformation"_s
+                                     << int(data::adLockOptimistic);
+    QTest::newRow("read-only lock") << u"select * from MemberType"_s << int(data::adLockReadOnly);
+}
+
+void RecordsetTest::refusesToWrite()
+{
+    QFETCH(QString, statement);
+    QFETCH(int, lock);
+    Recordset rows = opened(statement, data::LockTypeEnum(lock));
+    QVERIFY(rows.RecordCount() > 0);
+    QCOMPARE(errorOf([&] { rows.AddNew(); }), notUpdatable);
+    QCOMPARE(errorOf([&] { rows.Fields(0).setValue(Value()); }), notUpdatable);
+    QCOMPARE(errorOf([&] { rows.Delete(); }), notUpdatable);
+    rows.Close();
+}
+
+// A list of columns, renamed ones among them, is as good as all of them.
+void RecordsetTest::writesThroughNamedColumns()
+{
+    Recordset rows = opened(u"SELECT LastName AS [last], City FROM MemberInformation WHERE MemberId = 16"_s);
+    rows[u"last"].setValue(u"Angelo"_s);
+    rows.Update();
+    QCOMPARE(rows[u"last"].Value(), text("Angelo"));
+    QCOMPARE(m_folder->row("SELECT LastName, City FROM MemberInformation WHERE MemberId = 16"), u"Angelo|Newark"_s);
+    rows.AddNew();
+    rows[u"last"].setValue(u"Last"_s);
+    rows.Update();
+    QCOMPARE(rows[u"last"].Value(), text("Last"));
+}
+
+void RecordsetTest::passesOverAPersonThatIsThereAlready()
+{
+    Recordset rows = opened(u"select * from [Personal Information]"_s);
+    rows.AddNew();
+    rows[u"PersonalInformationId"].setValue(Value(qint32(3)));
+    rows[u"Last Name"].setValue(u"Second"_s);
+    rows.Update();
+    QCOMPARE(m_folder->rows("SELECT \"Last Name\" FROM \"Personal Information\" WHERE PersonalInformationId = 3"),
+             QStringList{u"Beaumont"_s});
+    QCOMPARE(rows.RecordCount(), 6);
+}
+
+void RecordsetTest::keepsThePendingRowWhenItFails()
+{
+    m_folder->execute("CREATE TABLE Strict (Id INTEGER PRIMARY KEY, Name TEXT NOT NULL);"
+                      "INSERT INTO Strict VALUES (1, 'first')");
+    Recordset rows = opened(u"select * from Strict"_s);
+    rows.AddNew();
+    rows[u"Id"].setValue(Value(qint32(1)));
+    QCOMPARE(errorOf([&] { rows.Update(); }),
+             u"-2147217887 The field 'Strict.Name' cannot contain a Null value because the Required property for this "
+             u"field is set to True.  Enter a value in this field."_s);
+    rows[u"Name"].setValue(u"second"_s);
+    QVERIFY(errorOf([&] { rows.Update(); })
+                .startsWith(u"-2147217887 The changes you requested to the table were not successful because they "
+                            u"would create duplicate values"));
+    QVERIFY(errorOf([&] { rows.MoveNext(); }).startsWith(u"-2147217887 ")); // nor does it move away
+    rows[u"Id"].setValue(Value(qint32(2)));
+    rows.Update();
+    QCOMPARE(m_folder->rows("SELECT * FROM Strict"), (QStringList{u"1|first"_s, u"2|second"_s}));
+}
+
+QTEST_GUILESS_MAIN(RecordsetTest)
+#include "tst_recordset.moc"
