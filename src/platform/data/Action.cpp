@@ -3,11 +3,21 @@
 #include "platform/data/RowSource.h"
 #include "platform/data/StatementError.h"
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace data {
 
 namespace {
+
+bool knowsTargets(const Database &database, const sql::Translation &translation)
+{
+    const QByteArray table = translation.table.toUtf8();
+    return database.hasTable(table) &&
+           std::all_of(translation.assignments.cbegin(), translation.assignments.cend(),
+                       [&](const sql::Assignment &a) { return database.declaredType(table, a.column.toUtf8()); });
+}
 
 ColumnType typeOfTarget(const Database &database, const sql::Translation &translation, const QString &column)
 {
@@ -35,7 +45,8 @@ runtime::Value literalFor(ColumnType type, const runtime::Value &literal)
 
 void runAction(Database &database, const sql::Translation &translation)
 {
-    database.refreshSchema();
+    if (!knowsTargets(database, translation)) // another connection may have made them
+        database.refreshSchema();
     if (translation.kind == sql::StatementKind::Insert && !database.hasTable(translation.table.toUtf8()))
         throw providerError(NoSuchTable, u"Could not find output table '%1'."_s.arg(translation.table));
     std::vector<runtime::Value> values; // outlive the statement

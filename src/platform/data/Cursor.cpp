@@ -105,6 +105,18 @@ void Cursor::finishPending()
     m_binary.clear();
 }
 
+int Cursor::columnOf(QStringView name)
+{
+    const int known = columnCount();
+    const int column = m_source.columnOf(name);
+    if (columnCount() != known) {
+        m_addedRow.reset();
+        if (m_editMode != adEditNone)
+            m_changes.resize(size_t(columnCount()));
+    }
+    return column;
+}
+
 void Cursor::moveFirst()
 {
     finishPending();

@@ -27,7 +27,7 @@ public:
     void deleteRow();
     EditModeEnum editMode() const { return m_editMode; }
 
-    int columnOf(QStringView name) { return m_source.columnOf(name); }
+    int columnOf(QStringView name);
     int columnCount() { return int(m_source.columns().size()); }
     const QString &columnName(int column) { return m_source.columns()[size_t(column)].name; }
     runtime::Value value(int column);

@@ -20,7 +20,6 @@ QByteArray quoted(QByteArrayView name)
 RowSource::RowSource(std::weak_ptr<Database> file, std::shared_ptr<const sql::Translation> translation)
     : m_database(std::move(file)), m_translation(std::move(translation))
 {
-    database().refreshSchema();
     prepared();
     checkComparisons(database(), *m_translation);
 }
@@ -89,6 +88,18 @@ bool RowSource::isUpdatable()
 int RowSource::columnOf(QStringView name)
 {
     describeColumns();
+    const int column = describedColumnOf(name);
+    if (column >= 0 || !m_statement.isPrepared())
+        return column;
+    // Another connection may have added it since this one last looked.
+    m_statement.finalize();
+    database().refreshSchema();
+    describe(prepared());
+    return describedColumnOf(name);
+}
+
+int RowSource::describedColumnOf(QStringView name)
+{
     const auto is = [this, name](int column) {
         const QString &known = m_columns[size_t(column)].name;
         return known == name || known.compare(name, Qt::CaseInsensitive) == 0;

@@ -31,7 +31,8 @@ public:
     RowSource(std::weak_ptr<Database> file, std::shared_ptr<const sql::Translation> translation);
 
     const std::vector<Column> &columns();
-    // The column of a name, without regard to case; -1 when there is none.
+    // The column of a name, without regard to case; -1 when there is none. Until the rows are read there may come more
+    // columns behind those known before.
     int columnOf(QStringView name);
     // Rows can be added, changed and deleted: they are rows of one table, and no column is computed.
     bool isUpdatable();
@@ -61,6 +62,7 @@ private:
     Statement &prepared();
     void describeColumns();
     void describe(const Statement &statement);
+    int describedColumnOf(QStringView name);
     void requireChange() const;
     // The statement with the length of each binary column in its place; the statement itself where it has none.
     QByteArray readingSql();

@@ -263,7 +263,19 @@ void ConnectionTest::seesWhatAnotherWrote()
     Recordset wider;
     wider.Open(u"select * from EventInformation"_s, reader);
     QCOMPARE(wider[u"Place"].Value(), runtime::Value(u"Hall"_s));
-    // So is one that was changed between Open and the first look at its rows; what it then writes goes to its own row.
+    // A column may come to light while a row is being added, too.
+    Recordset adding;
+    adding.Open(u"select * from EventInformation"_s, reader);
+    adding.AddNew();
+    adding[u"EventName"].setValue(u"Fair"_s);
+    folder.execute("ALTER TABLE EventInformation ADD COLUMN Colour TEXT");
+    adding[u"Colour"].setValue(u"red"_s);
+    adding.Update();
+    QCOMPARE(adding[u"EventName"].Value(), runtime::Value(u"Fair"_s));
+    QCOMPARE(folder.row("SELECT EventName FROM EventInformation WHERE Colour = 'red'"), u"Fair"_s);
+    adding.Delete();
+
+    // Rows are read by the columns of that moment, not of Open; what is then written goes to its own row.
     Recordset widest;
     widest.Open(u"select * from EventInformation"_s, reader);
     folder.execute("ALTER TABLE EventInformation ADD COLUMN Seats INTEGER DEFAULT 5");
@@ -348,8 +360,6 @@ void ConnectionTest::cancelsNothing()
     rows.Update();
     QCOMPARE(folder.row("SELECT COUNT(*) FROM MemberInformation WHERE LastName = 'Kept'"), u"1"_s);
 }
-
-Q_DECLARE_METATYPE(Prepare)
 
 QTEST_GUILESS_MAIN(ConnectionTest)
 #include "tst_connection.moc"
