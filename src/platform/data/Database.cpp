@@ -138,7 +138,8 @@ void Database::check(int code) const
 void Database::openWith(const QString &path, int flags)
 {
     sqlite3 *handle = nullptr;
-    const int code = sqlite3_open_v2(path.toUtf8().constData(), &handle, flags, nullptr);
+    // Without locks round each call: a connection belongs to the one thread.
+    const int code = sqlite3_open_v2(path.toUtf8().constData(), &handle, flags | SQLITE_OPEN_NOMUTEX, nullptr);
     m_schemaReader.finalize();
     m_handle.reset(handle); // also of a failed open
     m_path = path;

@@ -1,6 +1,7 @@
 #include "platform/data/RowStore.h"
 
-#include <limits>
+#include <algorithm>
+#include <span>
 
 namespace data {
 
@@ -19,46 +20,35 @@ Value wholeNumber(qint64 number, ColumnType type)
 
 } // namespace
 
-size_t RowStore::takeRow(const Statement &statement)
+const RowStore::Cell *RowStore::takeRow(const Statement &statement)
 {
-    const size_t start = m_cells.size();
-    m_cells.resize(start + size_t(m_columnCount));
-    for (int column = 0; column < m_columnCount; ++column) {
-        Cell &cell = m_cells[start + size_t(column)];
-        cell.storage = statement.storage(column);
-        switch (cell.storage) {
-        case Statement::Storage::Integer:
-            cell.content.integer = statement.integer(column);
-            break;
-        case Statement::Storage::Real:
-            cell.content.real = statement.real(column);
-            break;
-        case Statement::Storage::Text:
-        case Statement::Storage::Blob: {
-            const QByteArrayView bytes =
-                cell.storage == Statement::Storage::Text ? statement.text(column) : statement.blob(column);
-            cell.content.offset = m_bytes.size();
-            cell.size = quint32(bytes.size());
-            m_bytes.append(bytes.data(), size_t(bytes.size()));
-            break;
-        }
-        case Statement::Storage::Null:
-            break;
-        }
+    const auto count = size_t(m_columnCount);
+    Cell *cells = std::pmr::polymorphic_allocator<Cell>(m_memory.get()).allocate(count);
+    size_t bytes = 0;
+    for (size_t column = 0; column < count; ++column) {
+        const Cell &cell = *new (cells + column) Cell(statement.content(int(column)));
+        bytes += cell.size;
     }
-    return start;
+    auto *place = static_cast<char *>(m_memory->allocate(bytes, 1));
+    for (Cell &cell : std::span(cells, count)) {
+        if (!cell.hasBytes())
+            continue;
+        cell.bytes = std::copy_n(cell.bytes, cell.size, place) - cell.size;
+        place += cell.size;
+    }
+    return cells;
 }
 
 void RowStore::append(const Statement &statement, bool carriesRowId)
 {
-    m_rowStarts.push_back(takeRow(statement));
+    m_rows.push_back(takeRow(statement));
     if (carriesRowId)
         m_rowIds.push_back(statement.integer(m_columnCount));
 }
 
 void RowStore::replace(qsizetype row, const Statement &statement, bool carriesRowId)
 {
-    m_rowStarts[size_t(row)] = takeRow(statement);
+    m_rows[size_t(row)] = takeRow(statement);
     if (carriesRowId)
         m_rowIds[size_t(row)] = statement.integer(m_columnCount);
 }
@@ -71,7 +61,7 @@ bool RowStore::isNull(qsizetype row, int column) const
 Value RowStore::numberValue(const Cell &cell, ColumnType type) const
 {
     const bool whole = cell.storage == Statement::Storage::Integer;
-    const double real = whole ? double(cell.content.integer) : cell.content.real;
+    const double real = whole ? double(cell.integer) : cell.real;
     switch (type) {
     case ColumnType::Boolean:
         return Value(real != 0.0);
@@ -83,14 +73,14 @@ Value RowStore::numberValue(const Cell &cell, ColumnType type) const
         return Value(real);
     case ColumnType::Text:
     case ColumnType::Memo:
-        return Value(whole ? QString::number(cell.content.integer) : QString::number(real, 'g', 15));
+        return Value(whole ? QString::number(cell.integer) : QString::number(real, 'g', 15));
     case ColumnType::Unknown:
     case ColumnType::Integer:
     case ColumnType::Long:
     case ColumnType::Binary:
         break;
     }
-    return whole ? wholeNumber(cell.content.integer, type) : Value(real);
+    return whole ? wholeNumber(cell.integer, type) : Value(real);
 }
 
 Value RowStore::textValue(QByteArrayView text, ColumnType type) const
@@ -117,9 +107,9 @@ Value RowStore::value(qsizetype row, int column, ColumnType type) const
     case Statement::Storage::Real:
         return numberValue(from, type);
     case Statement::Storage::Text:
-        return textValue({m_bytes.data() + from.content.offset, qsizetype(from.size)}, type);
+        return textValue(from.view(), type);
     case Statement::Storage::Blob:
-        return Value(QByteArray(m_bytes.data() + from.content.offset, qsizetype(from.size)));
+        return Value(from.view().toByteArray());
     }
     return {};
 }

@@ -2,6 +2,7 @@
 
 #include "platform/data/Database.h"
 
+#include <new>
 #include <sqlite3.h>
 #include <utility>
 
@@ -127,21 +128,39 @@ qint64 Statement::integer(int column) const
     return sqlite3_column_int64(m_statement.get(), column);
 }
 
-double Statement::real(int column) const
-{
-    return sqlite3_column_double(m_statement.get(), column);
-}
-
 QByteArrayView Statement::text(int column) const
 {
     const auto *bytes = reinterpret_cast<const char *>(sqlite3_column_text(m_statement.get(), column));
     return {bytes, sqlite3_column_bytes(m_statement.get(), column)};
 }
 
-QByteArrayView Statement::blob(int column) const
+// Through the value, which is looked up once. Only the thread that steps may do this.
+Statement::Content Statement::content(int column) const
 {
-    const auto *bytes = static_cast<const char *>(sqlite3_column_blob(m_statement.get(), column));
-    return {bytes, sqlite3_column_bytes(m_statement.get(), column)};
+    sqlite3_value *value = sqlite3_column_value(m_statement.get(), column);
+    Content content;
+    content.storage = Storage(sqlite3_value_type(value));
+    switch (content.storage) {
+    case Storage::Integer:
+        content.integer = sqlite3_value_int64(value);
+        break;
+    case Storage::Real:
+        content.real = sqlite3_value_double(value);
+        break;
+    case Storage::Text:
+        content.bytes = reinterpret_cast<const char *>(sqlite3_value_text(value));
+        content.size = quint32(sqlite3_value_bytes(value));
+        if (!content.bytes)
+            throw std::bad_alloc();
+        break;
+    case Storage::Blob: // without an address when it is empty
+        content.bytes = static_cast<const char *>(sqlite3_value_blob(value));
+        content.size = quint32(sqlite3_value_bytes(value));
+        break;
+    case Storage::Null:
+        break;
+    }
+    return content;
 }
 
 } // namespace data

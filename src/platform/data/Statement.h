@@ -1,6 +1,6 @@
 // One prepared statement of SQLite: binds parameters (numbered from 1), steps through rows, reads columns (from 0).
 //
-// Move-only. What text() and blob() return stays valid until the next step; texts are UTF-8.
+// Move-only. The bytes that text() and content() return stay valid until the next step; texts are UTF-8.
 #pragma once
 
 #include "platform/runtime/Value.h"
@@ -45,9 +45,23 @@ public:
     enum class Storage { Integer = 1, Real = 2, Text = 3, Blob = 4, Null = 5 };
     Storage storage(int column) const;
     qint64 integer(int column) const;
-    double real(int column) const;
     QByteArrayView text(int column) const;
-    QByteArrayView blob(int column) const;
+
+    // A column as it was delivered, in one go. Error 7 for a text without memory for it.
+    struct Content
+    {
+        union {
+            qint64 integer;
+            double real;
+            const char *bytes;
+        };
+        quint32 size = 0; // of the bytes of a text or a blob
+        Storage storage = Storage::Null;
+
+        bool hasBytes() const { return storage == Storage::Text || storage == Storage::Blob; }
+        QByteArrayView view() const { return {bytes, qsizetype(size)}; }
+    };
+    Content content(int column) const;
 
 private:
     struct Finalize

@@ -6,7 +6,41 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include <utility>
+
 namespace desktop {
+
+namespace {
+
+bool isText(int role)
+{
+    return role == Qt::DisplayRole || role == Qt::EditRole;
+}
+
+} // namespace
+
+void ListItem::setSubItem(int index, QString text)
+{
+    if (index >= m_texts.size())
+        m_texts.resize(index + 1);
+    m_texts[index] = std::move(text);
+    emitDataChanged();
+}
+
+QVariant ListItem::data(int column, int role) const
+{
+    if (!isText(role))
+        return QTreeWidgetItem::data(column, role);
+    return column < m_texts.size() && !m_texts[column].isNull() ? QVariant(m_texts[column]) : QVariant();
+}
+
+void ListItem::setData(int column, int role, const QVariant &value)
+{
+    if (isText(role))
+        setSubItem(column, value.toString());
+    else
+        QTreeWidgetItem::setData(column, role, value);
+}
 
 ListItem &ListItems::Add(const QString &text)
 {
@@ -101,6 +135,7 @@ void ListView::mouseDoubleClickEvent(QMouseEvent *event)
 ListItem &ListFilling::Add()
 {
     auto *item = new ListItem();
+    item->m_texts.reserve(m_list.columnCount());
     m_items.append(item);
     return *item;
 }

@@ -13,15 +13,25 @@ namespace desktop {
 class ListView;
 
 // One line; owned by its list. Sub-items count from 1, as the columns behind the first do.
+//
+// It keeps its texts itself, one behind another: Qt's own item makes a list and a variant of each, and long lists have
+// tens of thousands.
 class ListItem : public QTreeWidgetItem
 {
 public:
     QString Tag;
 
-    QString Text() const { return text(0); }
-    void setText(const QString &text) { QTreeWidgetItem::setText(0, text); }
-    QString SubItems(int index) const { return text(index); }
-    void setSubItem(int index, const QString &text) { QTreeWidgetItem::setText(index, text); }
+    QString Text() const { return SubItems(0); }
+    void setText(const QString &text) { setSubItem(0, text); }
+    QString SubItems(int index) const { return m_texts.value(index); }
+    void setSubItem(int index, QString text);
+
+    QVariant data(int column, int role) const override;
+    void setData(int column, int role, const QVariant &value) override;
+
+private:
+    friend class ListFilling;
+    QStringList m_texts; // by column, as far as there are any
 };
 
 // The lines, from 1.
