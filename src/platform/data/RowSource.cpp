@@ -100,19 +100,22 @@ int RowSource::columnOf(QStringView name)
 
 int RowSource::describedColumnOf(QStringView name)
 {
-    const auto is = [this, name](int column) {
-        const QString &known = m_columns[size_t(column)].name;
-        return known == name || known.compare(name, Qt::CaseInsensitive) == 0;
-    };
     const int count = int(m_columns.size());
-    for (int tried = 0; tried < count; ++tried) {
-        const int column = (m_nextGuess + tried) % count;
-        if (is(column)) {
-            m_nextGuess = (column + 1) % count;
-            return column;
-        }
-    }
-    return -1;
+    const auto find = [this](int from, int to, const auto &matches) {
+        while (from < to && !matches(m_columns[size_t(from)].name))
+            ++from;
+        return from < to ? from : -1;
+    };
+    const auto isSame = [name](const QString &known) { return known.size() == name.size() && known == name; };
+    const auto isAlike = [name](const QString &known) { return known.compare(name, Qt::CaseInsensitive) == 0; };
+    int column = find(m_nextGuess, count, isSame);
+    if (column < 0)
+        column = find(0, m_nextGuess, isSame);
+    if (column < 0) // rarely: most handlers write a name as it is
+        column = find(0, count, isAlike);
+    if (column >= 0)
+        m_nextGuess = column + 1;
+    return column;
 }
 
 QByteArray RowSource::listOfOrigins(bool withBinaries)
