@@ -108,9 +108,10 @@ int RowSource::describedColumnOf(QStringView name)
     };
     const auto isSame = [name](const QString &known) { return known.size() == name.size() && known == name; };
     const auto isAlike = [name](const QString &known) { return known.compare(name, Qt::CaseInsensitive) == 0; };
-    int column = find(m_nextGuess, count, isSame);
+    const int guess = std::min(m_nextGuess, count);
+    int column = find(guess, count, isSame);
     if (column < 0)
-        column = find(0, m_nextGuess, isSame);
+        column = find(0, guess, isSame);
     if (column < 0) // rarely: most handlers write a name as it is
         column = find(0, count, isAlike);
     if (column >= 0)
