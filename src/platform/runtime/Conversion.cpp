@@ -161,6 +161,20 @@ QString toText(Value &&value)
     return value.is<QString>() ? std::move(value).get<QString>() : toText(std::as_const(value));
 }
 
+bool IsNumeric(const Value &value)
+{
+    switch (value.type()) {
+    case Value::Type::Null:
+    case Value::Type::Date:
+    case Value::Type::Binary:
+        return false;
+    case Value::Type::Text:
+        return std::isfinite(parseDouble(value.get<QString>()).value_or(qQNaN()));
+    default:
+        return true;
+    }
+}
+
 QString joinedText(const Value &value)
 {
     return value.isNull() ? QString() : toText(value);

@@ -18,6 +18,9 @@ Date toDate(const Value &value);
 QString toText(const Value &value);
 QString toText(Value &&value);
 
+// Whether the value is a number, a Boolean, or a text that can be read as a number. Raises nothing.
+bool IsNumeric(const Value &value);
+
 // The value's text, the empty text for Null: what joining it to a text gives.
 QString joinedText(const Value &value);
 

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void roundsToWholeNumbers();
     void readsNumbers_data();
     void readsNumbers();
+    void tellsWhatCountsAsANumber();
     void readsNumbersOfAnotherRegion_data();
     void readsNumbersOfAnotherRegion();
     void tellsBooleans_data();
@@ -137,6 +138,16 @@ void ConversionTest::readsNumbers()
 {
     QFETCH(QString, text);
     QTEST(outcomeOf([&] { return runtime::toDouble(Value(text)); }), "number");
+    QFETCH(QString, number);
+    QCOMPARE(runtime::IsNumeric(Value(text)), !number.startsWith(u"error"));
+}
+
+void ConversionTest::tellsWhatCountsAsANumber()
+{
+    for (const Value &number : {Value(qint16(0)), Value(-0.5), Value(Currency()), Value(false)})
+        QVERIFY(runtime::IsNumeric(number));
+    for (const Value &other : {Value(), Value(Date(QDate(2001, 1, 31))), Value(QByteArray("12"))})
+        QVERIFY(!runtime::IsNumeric(other));
 }
 
 void ConversionTest::readsNumbersOfAnotherRegion_data()

@@ -1,5 +1,6 @@
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/Conversion.h"
+#include "platform/runtime/DateDiff.h"
 #include "support/Outcome.h"
 
 #include <QTest>
@@ -25,6 +26,8 @@ private Q_SLOTS:
     void comesBackFromTheStoresForm_data();
     void comesBackFromTheStoresForm();
     void ordersAsTimeGoes();
+    void countsBoundaries_data();
+    void countsBoundaries();
 };
 
 void DatesTest::init()
@@ -175,6 +178,47 @@ void DatesTest::ordersAsTimeGoes()
         QVERIFY(moments[at - 1] < moments[at]);
         QVERIFY(moments[at - 1].toIsoText() < moments[at].toIsoText());
     }
+}
+
+void DatesTest::countsBoundaries_data()
+{
+    QTest::addColumn<QString>("interval");
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<QString>("to");
+    QTest::addColumn<QString>("count");
+
+    const auto row = [](const char *interval, const char *from, const char *to, const char *count) {
+        QTest::addRow("%s %s, %s", interval, from, to) << QString::fromLatin1(interval) << QString::fromLatin1(from)
+                                                       << QString::fromLatin1(to) << QString::fromLatin1(count);
+    };
+    row("n", "2001-01-31 10:00:59", "2001-01-31 10:01:00", "1");
+    row("n", "2001-01-31 10:00:00", "2001-01-31 10:00:59", "0");
+    row("n", "2001-01-31 10:00:50", "2001-01-31 10:01:10", "1");
+    row("s", "2001-01-31 10:00:50", "2001-01-31 10:01:10", "20");
+    row("n", "2001-01-31 10:01:00", "2001-01-31 10:00:59", "-1");
+    row("N", "2001-01-31 23:00:00", "2001-02-02 01:00:00", "1560");
+    row("n", "1899-12-29 23:59:59", "1899-12-30 00:00:01", "1");
+    row("n", "1899-12-29 23:58:59", "1899-12-29 23:59:00", "1");
+    row("h", "2001-01-31 10:59:59", "2001-01-31 11:00:00", "1");
+    row("d", "1899-12-29 18:00:00", "1899-12-30 06:00:00", "1");
+    row("m", "2000-12-31", "2001-01-01", "1");
+    row("yyyy", "2000-12-31 23:59:59", "2001-01-01", "1");
+    row("yyyy", "2001-01-01", "2001-12-31", "0");
+    row("s", "1970-01-01", "2038-01-19 03:14:07", "2147483647");
+    row("s", "1970-01-01", "2038-01-19 03:14:08", "error 6");
+    row("s", "2038-01-19 03:14:08", "1970-01-01", "-2147483648");
+    row("n", "0100-01-01", "9999-12-31", "error 6");
+    row("minutes", "2001-01-31", "2001-01-31", "error 5");
+    row("", "2001-01-31", "2001-01-31", "error 5");
+}
+
+void DatesTest::countsBoundaries()
+{
+    QFETCH(QString, interval);
+    QFETCH(QString, from);
+    QFETCH(QString, to);
+    QTEST(outcomeOf([&] { return runtime::DateDiff(interval, *Date::fromIsoText(from), *Date::fromIsoText(to)); }),
+          "count");
 }
 
 QTEST_APPLESS_MAIN(DatesTest)
