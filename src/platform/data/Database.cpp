@@ -58,7 +58,7 @@ NumberedText providerAnswer(int extendedCode, const QString &message, const QStr
     case SQLITE_READONLY:
         return {Unspecified, u"Operation must use an updateable query."_s};
     case SQLITE_FULL:
-        return {61, runtime::errorText(61)};
+        return {runtime::DiskFull, runtime::errorText(runtime::DiskFull)};
     case SQLITE_NOMEM:
         return {runtime::OutOfMemory, runtime::errorText(runtime::OutOfMemory)};
     default:

@@ -30,6 +30,7 @@ constexpr std::array texts{
     ErrorText{58, "File already exists"},
     ErrorText{61, "Disk full"},
     ErrorText{62, "Input past end of file"},
+    ErrorText{63, "Bad record number"},
     ErrorText{67, "Too many files"},
     ErrorText{70, "Permission denied"},
     ErrorText{75, "Path/File access error"},
