@@ -195,6 +195,11 @@ void Database::create(const QString &path)
     openWith(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_EXCLUSIVE);
 }
 
+void Database::createInMemory()
+{
+    openWith(u":memory:"_s, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+}
+
 void Database::execute(const QByteArray &sql)
 {
     check(sqlite3_exec(m_handle.get(), sql.constData(), nullptr, nullptr, nullptr));
