@@ -36,6 +36,7 @@ enum ErrorNumber : int {
     InvalidPropertyValue = 380,
     ObjectRequired = 424,
     PropertyNotSupported = 438,
+    WrongDataFormat = 461,
     PrinterError = 482,
     IndexOutOfBounds = 35600,
     ElementNotFound = 35601,
