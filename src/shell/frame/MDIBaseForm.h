@@ -41,9 +41,11 @@ public:
 
     void MnuNewClient_Click();
     void MnuExplorer_Click();
+    void mnuNewEvent_Click();
     void mnuDifferentUser_Click();
     void mnuExit_Click();
     void mnuWhoAmI_Click();
+    void Toolbar1_ButtonClick(QAction *button);
 
 protected:
     void Form_Load() override;
