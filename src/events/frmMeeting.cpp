@@ -15,7 +15,7 @@ using desktop::CommandButton;
 
 namespace {
 
-constexpr int linesOfAList = 4;
+constexpr int linesOfAList = 5;
 
 QString today()
 {

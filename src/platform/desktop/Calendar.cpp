@@ -1,5 +1,6 @@
 #include "platform/desktop/Calendar.h"
 
+#include "platform/runtime/Regional.h"
 #include "platform/runtime/RuntimeError.h"
 
 #include <QSignalBlocker>
@@ -19,6 +20,8 @@ int within(int part, int first, int last)
 
 Calendar::Calendar(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
 {
+    setLocale(runtime::regional());
+    setVerticalHeaderFormat(NoVerticalHeader);
     takeOver();
     connect(this, &QCalendarWidget::selectionChanged, this, &Calendar::takeOver);
     connect(this, &QCalendarWidget::clicked, this, &Calendar::Click);

@@ -175,10 +175,7 @@ void ListBox::setSelected(int index, bool selected)
 void ListBox::setLines(int lines)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    const int line = qMax(sizeHintForRow(0), fontMetrics().height() + 6);
-    for (int row = 0; row < count(); ++row)
-        item(row)->setSizeHint(QSize(0, line)); // each item fills the line
-    setFixedHeight(lines * line + 2 * frameWidth());
+    setFixedHeight(lines * qMax(sizeHintForRow(0), fontMetrics().height()) + 2 * frameWidth());
 }
 
 void ListBox::setOneLine()
@@ -186,6 +183,9 @@ void ListBox::setOneLine()
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    const int line = qMax(sizeHintForRow(0), fontMetrics().height() + 6);
+    for (int row = 0; row < count(); ++row)
+        item(row)->setSizeHint(QSize(0, line)); // each item fills the line
     setLines(1);
 }
 
