@@ -2,6 +2,7 @@
 
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/Twips.h"
+#include "platform/runtime/RuntimeError.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -82,6 +83,12 @@ MultilineTextBox::MultilineTextBox(QWidget *parent, QAnyStringView name) : Contr
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 }
 
+void MultilineTextBox::wrapLines()
+{
+    setLineWrapMode(QPlainTextEdit::WidgetWidth);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
 CommandButton::CommandButton(QWidget *parent, QAnyStringView name, const QString &caption) : ControlOf(parent, name)
 {
     setText(caption);
@@ -144,16 +151,44 @@ void ListBox::setText(const QString &text)
         setCurrentItem(equal.constFirst());
 }
 
+int ListBox::ListIndex() const
+{
+    const QModelIndexList selected = selectedIndexes();
+    return selected.isEmpty() ? -1 : selected.constFirst().row();
+}
+
+void ListBox::setSelected(int index, bool selected)
+{
+    if (index < 0 || index >= count())
+        throw runtime::RuntimeError(runtime::InvalidPropertyValue);
+    if (selected)
+        setCurrentRow(index);
+    else
+        item(index)->setSelected(false);
+}
+
+void ListBox::setLines(int lines)
+{
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setFixedHeight(lines * qMax(sizeHintForRow(0), fontMetrics().height()) + 2 * frameWidth());
+}
+
 void ListBox::setOneLine()
 {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     const int line = qMax(sizeHintForRow(0), fontMetrics().height() + 6);
     for (int row = 0; row < count(); ++row)
         item(row)->setSizeHint(QSize(0, line)); // each item fills the line
-    setFixedHeight(line + 2 * frameWidth());
+    setLines(1);
+}
+
+// Qt lets Ctrl with a click take the selection away; here what has been picked can only be exchanged.
+QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex &index, const QEvent *event) const
+{
+    const QItemSelectionModel::SelectionFlags command = ControlOf::selectionCommand(index, event);
+    return command.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::NoUpdate : command;
 }
 
 PictureBox::PictureBox(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)

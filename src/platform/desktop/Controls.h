@@ -48,6 +48,8 @@ public:
     MultilineTextBox(QWidget *parent, QAnyStringView name);
     QString text() const { return toPlainText(); }
     void setText(const QString &text) { setPlainText(text); }
+    // Breaks long lines at the box's edge, so that it needs no bar below it.
+    void wrapLines();
 };
 
 class CommandButton : public ControlOf<QPushButton>
@@ -84,8 +86,17 @@ public:
     // The selected item's text, the empty text when none is selected.
     QString Text() const;
     void setText(const QString &text);
+    // The selected item's place from 0; -1 when none is selected.
+    int ListIndex() const;
+    // Selects the item at that place from 0, or takes its selection away. Error 380 outside of the list.
+    void setSelected(int index, bool selected = true);
+    // Draws the list so many items high, at a height that a layout leaves alone.
+    void setLines(int lines);
     // Draws the list one line high; the arrow keys and the bar beside it move through the items.
     void setOneLine();
+
+protected:
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
 };
 
 // A bare area that reports the mouse.

@@ -6,6 +6,8 @@
 #include <QCloseEvent>
 #include <QMdiSubWindow>
 
+#include <utility>
+
 namespace desktop {
 
 Form::Form(Place place, QAnyStringView className) : m_place(place)
@@ -79,13 +81,17 @@ double Form::Height() const
 
 void Form::setSize(double width, double height)
 {
-    outer()->resize(pixels(width), pixels(height));
+    const QSize size(pixels(width), pixels(height));
+    if (outer() == this)
+        m_presetSize = size;
+    outer()->resize(size);
 }
 
 void Form::closeEvent(QCloseEvent *event)
 {
-    m_state = State::Unloaded;
-    guarded([this] { Form_Unload(); });
+    // The frame also closes the shared windows that are closed already.
+    if (std::exchange(m_state, State::Unloaded) != State::Unloaded)
+        guarded([this] { Form_Unload(); });
     QWidget::closeEvent(event);
 }
 

@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 namespace desktop {
 
@@ -38,6 +39,8 @@ public:
     double Width() const;
     double Height() const;
     void setSize(double width, double height);
+    // The size that was set before the window came into the frame, in pixels.
+    std::optional<QSize> presetSize() const { return m_presetSize; }
 
 protected:
     virtual void Form_Load() {}
@@ -54,6 +57,7 @@ private:
     Place m_place;
     State m_state = State::Unloaded;
     bool m_shared = false;
+    std::optional<QSize> m_presetSize;
 };
 
 // Makes a window, hands it what its opener sets, and shows it. A window whose load fails is gone again.

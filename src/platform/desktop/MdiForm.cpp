@@ -121,16 +121,25 @@ void MdiForm::showChild(Form &form)
     if (!host) {
         host = m_area->addSubWindow(&form);
         host->setAttribute(Qt::WA_DeleteOnClose, form.testAttribute(Qt::WA_DeleteOnClose));
-        host->resize(content.grownBy(borders(*host)));
+        host->resize(form.presetSize().value_or(content.grownBy(borders(*host))));
         form.show();
         host->show();
         // The area has found a place for it; what still hangs over an edge comes in.
         const QSize room = m_area->viewport()->size() - host->size();
         host->move(qMax(0, qMin(host->x(), room.width())), qMax(0, qMin(host->y(), room.height())));
     }
+    if (host->isMinimized())
+        host->showNormal();
     form.show();
     host->show();
     m_area->setActiveSubWindow(host);
+}
+
+QList<QMdiSubWindow *> MdiForm::openChildren() const
+{
+    QList<QMdiSubWindow *> windows = m_area->subWindowList();
+    windows.removeIf([](const QMdiSubWindow *window) { return window->isHidden(); });
+    return windows;
 }
 
 void MdiForm::setBackground(const QString &file)
@@ -147,7 +156,7 @@ void MdiForm::listWindows(QMenu *menu)
 {
     menu->clear();
     auto *group = new QActionGroup(menu);
-    const QList<QMdiSubWindow *> windows = m_area->subWindowList();
+    const QList<QMdiSubWindow *> windows = openChildren();
     for (qsizetype at = 0; at < windows.size(); ++at) {
         QMdiSubWindow *window = windows[at];
         QString title = window->windowTitle();
@@ -170,7 +179,7 @@ void MdiForm::resizeEvent(QResizeEvent *event)
 void MdiForm::closeEvent(QCloseEvent *event)
 {
     m_area->closeAllSubWindows();
-    if (!m_area->subWindowList().isEmpty() && m_area->currentSubWindow()) {
+    if (!openChildren().isEmpty()) {
         event->ignore();
         return;
     }

@@ -8,6 +8,7 @@
 #include <QMainWindow>
 
 class QMdiArea;
+class QMdiSubWindow;
 class QMenu;
 
 namespace desktop {
@@ -55,6 +56,8 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    // A shared window that is closed stays in the area, hidden.
+    QList<QMdiSubWindow *> openChildren() const;
     void listWindows(QMenu *menu);
 
     class Area;

@@ -43,6 +43,7 @@ constexpr std::array texts{
     ErrorText{380, "Invalid property value"},
     ErrorText{424, "Object required"},
     ErrorText{438, "Object doesn't support this property or method"},
+    ErrorText{482, "Printer error"},
     ErrorText{35600, "Index out of bounds"},
     ErrorText{35601, "Element not found"},
     ErrorText{35602, "Key is not unique in collection"},

@@ -1,0 +1,43 @@
+// Boxes under one another with their labels on the left: how the windows of many fields lay them out.
+//
+// Each label is the buddy of its box and gives it its accessible name. The tab order follows the order of adding.
+#pragma once
+
+#include "platform/desktop/Controls.h"
+
+class QGridLayout;
+
+namespace desktop {
+
+class FieldGrid
+{
+public:
+    // The parent owns what the grid makes.
+    explicit FieldGrid(QWidget *parent);
+
+    TextBox *addText(QAnyStringView name, const QString &label);
+    // Takes the height that the window has left.
+    MultilineTextBox *addMultilineText(QAnyStringView name, const QString &label);
+    // A list box that shows so many items at a time.
+    ListBox *addList(QAnyStringView name, const QString &label, const QStringList &items, int lines);
+    // A list box one line high.
+    ListBox *addOneLineList(QAnyStringView name, const QString &label, const QStringList &items);
+
+    // Small controls behind the box of the last row; what they are for is their accessible name.
+    CommandButton *addButtonBehind(QAnyStringView name, const QString &caption, const QString &purpose);
+    ListBox *addListBehind(QAnyStringView name, const QStringList &items, const QString &purpose);
+
+    // At the bottom right, under all rows.
+    void addButtons(std::initializer_list<CommandButton *> buttons);
+
+private:
+    void addRow(const QString &label, QWidget *box, Qt::Alignment labelAlignment = {});
+    void addBehind(QWidget *widget, const QString &purpose);
+
+    QWidget *m_parent;
+    QGridLayout *m_layout;
+    QWidget *m_lastBox = nullptr;
+    int m_rows = 0;
+};
+
+} // namespace desktop
