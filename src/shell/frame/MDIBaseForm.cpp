@@ -2,6 +2,7 @@
 
 #include "dossier/FrmAddEditMember.h"
 #include "explorers/FrmDataBaseExplorer.h"
+#include "explorers/FrmEventExplorer.h"
 #include "platform/desktop/MsgBox.h"
 #include "platform/runtime/Application.h"
 #include "platform/runtime/Conversion.h"
@@ -129,6 +130,11 @@ void MDIBaseForm::MnuExplorer_Click()
     desktop::reportOutOfMemoryOnly([this] {
         desktop::showNew<FrmDataBaseExplorer>([this](FrmDataBaseExplorer &window) { window.UserLevel = UserLevel(); });
     });
+}
+
+void MDIBaseForm::mnuEventExplorer_Click()
+{
+    desktop::reportOutOfMemoryOnly([] { desktop::showNew<FrmEventExplorer>(); });
 }
 
 void MDIBaseForm::mnuDifferentUser_Click()
