@@ -3,6 +3,7 @@
 #include "platform/desktop/Form.h"
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/Twips.h"
+#include "platform/runtime/ErrorHandling.h"
 
 #include <QHeaderView>
 
@@ -11,6 +12,7 @@
 using namespace Qt::Literals::StringLiterals;
 
 using desktop::Label;
+using desktop::PictureBox;
 
 namespace {
 
@@ -37,8 +39,7 @@ ExplorerPanes::ExplorerPanes(desktop::Form &window, const ExplorerTexts &texts)
     : Toolbar1(new desktop::Toolbar(&window, u"Toolbar1")),
       LblMemberListing(new Label(&window, u"LblMemberListing", texts.listing)),
       LblMemberInformation(new Label(&window, u"LblMemberInformation", texts.information)),
-      TreClassView(new desktop::TreeView(&window, u"TreClassView")),
-      Picture1(new desktop::PictureBox(&window, u"Picture1")),
+      TreClassView(new desktop::TreeView(&window, u"TreClassView")), Picture1(new PictureBox(&window, u"Picture1")),
       LstStudenInformation(new desktop::ListView(&window, u"LstStudenInformation")),
       StatusBar1(new desktop::StatusBar(&window, u"StatusBar1")),
       ImageList1(new desktop::ImageList(&window, u"ImageList1")), m_window(window)
@@ -50,6 +51,9 @@ ExplorerPanes::ExplorerPanes(desktop::Form &window, const ExplorerTexts &texts)
     LblMemberListing->setToolTip(u"Click to Refresh"_s);
     LblMemberListing->setClickable();
     Picture1->setFrameStyle(QFrame::VLine | QFrame::Raised);
+    desktop::on(Picture1, &PictureBox::MouseMove, Picture1, [this](PictureBox *, int button, float x, float) {
+        runtime::endSilently([this, button, x] { dragSplitter(button, x); });
+    });
     TreClassView->setAccessibleName(u"Groups"_s);
     LstStudenInformation->setAccessibleName(texts.information);
     LstStudenInformation->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -105,6 +109,15 @@ QString ExplorerPanes::countText() const
     if (!node->Tag.isEmpty())
         text.remove(node->Tag);
     return text.remove(u' ').remove(u')').remove(u'(');
+}
+
+void ExplorerPanes::forEachSelected(const std::function<void(const desktop::ListItem &)> &act) const
+{
+    const auto &items = LstStudenInformation->ListItems;
+    for (int index = 1; index <= items.Count(); ++index) {
+        if (items(index).isSelected())
+            act(items(index));
+    }
 }
 
 void ExplorerPanes::dragSplitter(int button, float x)

@@ -1,5 +1,5 @@
-// What stands in both explorers: the bar of one button, the tree of groups, the list, the splitter between them and the
-// status bar. The windows keep what they differ in: what is counted, listed and opened.
+// What stands in both explorers: the bar of one button, the tree of groups, the list, the splitter between them, which
+// it serves itself, and the status bar.
 //
 // The controls belong to the window. All geometry is in twips.
 #pragma once
@@ -10,6 +10,8 @@
 #include "platform/desktop/StatusBar.h"
 #include "platform/desktop/Toolbar.h"
 #include "platform/desktop/TreeView.h"
+
+#include <functional>
 
 namespace desktop {
 class Form;
@@ -42,14 +44,16 @@ public:
     // The count that the text of the selected node shows, empty for a grey node. Error 91 without a selected node.
     QString countText() const;
 
-    // The pointer moved over the splitter: with the left button alone held down, both panes follow it.
-    void dragSplitter(int button, float x);
+    void forEachSelected(const std::function<void(const desktop::ListItem &)> &act) const;
+
     // Keeps the two bars at the edges of the window.
     void placeBars();
 
 private:
     void setUpBars(const ExplorerTexts &texts);
     void setUpPlaces();
+    // The pointer moved over the splitter: with the left button alone held down, both panes follow it.
+    void dragSplitter(int button, float x);
 
     desktop::Form &m_window;
 };

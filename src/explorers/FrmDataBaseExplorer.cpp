@@ -1,14 +1,9 @@
 #include "explorers/FrmDataBaseExplorer.h"
 
 #include "dossier/DisplayMembers.h"
-#include "explorers/SortClause.h"
-#include "explorers/UserTree.h"
 #include "platform/desktop/Keys.h"
-#include "platform/desktop/MsgBox.h"
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/ErrorHandling.h"
-#include "shell/CLsDataBaseConnection.h"
-#include "shell/CommandSequence.h"
 
 #include <array>
 
@@ -19,33 +14,49 @@ using runtime::Value;
 
 namespace {
 
-struct MemberColumn
-{
-    QStringView header;
-    QStringView tag; // what stands behind ORDER BY; the bracket of the last one makes the provider refuse that sort
-    QStringView column;
+// The bracket of the last tag makes the provider refuse the sort on that column.
+constexpr std::array memberColumns{
+    ListedColumn{u"Member Id", u"MemberId", u"MemberId"},
+    ListedColumn{u"Member Type", u"MemberType", u"MemberType"},
+    ListedColumn{u"First Name", u"FirstName", u"FirstName"},
+    ListedColumn{u"Middle Name", u"MiddleName", u"MiddleName"},
+    ListedColumn{u"Last Name", u"LastName", u"LastName"},
+    ListedColumn{u"Address", u"AddressOne", u"AddressOne"},
+    ListedColumn{u"City", u"City", u"City"},
+    ListedColumn{u"State", u"State", u"State"},
+    ListedColumn{u"Zip", u"ZIP", u"Zip"},
+    ListedColumn{u"Home Phone", u"HomePhone", u"HomePhone"},
+    ListedColumn{u"Cell Phone", u"CellPhone]", u"CellPhone"},
 };
 
-constexpr std::array memberColumns{
-    MemberColumn{u"Member Id", u"MemberId", u"MemberId"},
-    MemberColumn{u"Member Type", u"MemberType", u"MemberType"},
-    MemberColumn{u"First Name", u"FirstName", u"FirstName"},
-    MemberColumn{u"Middle Name", u"MiddleName", u"MiddleName"},
-    MemberColumn{u"Last Name", u"LastName", u"LastName"},
-    MemberColumn{u"Address", u"AddressOne", u"AddressOne"},
-    MemberColumn{u"City", u"City", u"City"},
-    MemberColumn{u"State", u"State", u"State"},
-    MemberColumn{u"Zip", u"ZIP", u"Zip"},
-    MemberColumn{u"Home Phone", u"HomePhone", u"HomePhone"},
-    MemberColumn{u"Cell Phone", u"CellPhone]", u"CellPhone"},
-};
+GroupedTable members()
+{
+    return {
+        .name = u"MemberInformation"_s,
+        .groupColumn = u"LastName"_s,
+        .plural = u"Members"_s,
+        .information = u"Member Information"_s,
+        .captionStart = u"Member Explorer : Member's with a last name starting with "_s,
+        .listStart = u"SELECT MemberInformation.MemberId, MemberInformation.FirstName, MemberInformation.MiddleName, "
+                     " MemberInformation.LastName, MemberInformation.AddressOne, MemberInformation.City, "
+                     " MemberInformation.State, MemberInformation.Zip, MemberInformation.HomePhone, "
+                     " MemberInformation.CellPhone, MemberType.MemberType FROM MemberInformation "
+                     " LEFT JOIN MemberType ON MemberInformation.MemberTypeId = MemberType.MemberTypeId"
+                     " WHERE (((MemberInformation.LastName) Like '"_s,
+        .listEnd = u"%') AND ((MemberInformation.Active)=Yes))"_s,
+        .columns = memberColumns,
+        .deleteQuestion = u"You are about to delete the selected members\nDo you want to proceed?"_s,
+        .deleteStart = u"delete * from memberinformation where MemberId = "_s,
+    };
+}
 
 } // namespace
 
 FrmDataBaseExplorer::FrmDataBaseExplorer()
     : Form(Place::InFrame, u"FrmDataBaseExplorer"),
       m_panes(*this, {u"Delete Member"_s, u":/icons/delete-member.svg"_s, u"Members (Click to Refresh)"_s,
-                      u"Member Information"_s})
+                      u"Member Information"_s}),
+      m_rows(*this, m_panes, members())
 {
     setDesignCaption(u"Tolmark Member Explorer"_s);
     using desktop::on;
@@ -56,116 +67,34 @@ FrmDataBaseExplorer::FrmDataBaseExplorer()
     on(list, &desktop::ListView::DblClick, this, &FrmDataBaseExplorer::LstStudenInformation_DblClick);
     on(list, &desktop::ListView::KeyUp, this, &FrmDataBaseExplorer::LstStudenInformation_KeyUp);
     on(m_panes.Toolbar1, &desktop::Toolbar::ButtonClick, this, &FrmDataBaseExplorer::Toolbar1_ButtonClick);
-    on(m_panes.Picture1, &desktop::PictureBox::MouseMove, this, &FrmDataBaseExplorer::Picture1_MouseMove);
 }
 
 void FrmDataBaseExplorer::Form_Load()
 {
     setCursor(Qt::WaitCursor);
-    loadColumns();
-    loadTree();
-    CurrentNode->setExpanded(true);
+    m_rows.loadColumns();
+    m_rows.loadTree(UserLevel);
+    m_rows.CurrentNode->setExpanded(true);
     unsetCursor();
-}
-
-void FrmDataBaseExplorer::loadColumns()
-{
-    auto &headers = m_panes.LstStudenInformation->ColumnHeaders;
-    headers.Clear();
-    for (const MemberColumn &column : memberColumns)
-        headers.Add(column.header.toString(), column.tag.toString());
-}
-
-void FrmDataBaseExplorer::loadTree()
-{
-    qint16 total = 0;
-    if (UserLevel < 99) {
-        total = loadGroups();
-    } else {
-        m_panes.LblMemberInformation->setText(u"Description"_s);
-        m_panes.LblMemberListing->setText(u"User"_s);
-        CurrentNode = loadUserTree(m_panes);
-    }
-    m_panes.LblMemberListing->setText(u"Members - "_s + QString::number(total) + u" (Click to Refresh)"_s);
-}
-
-// Adds a node for each group and returns the number of members under all of them.
-qint16 FrmDataBaseExplorer::loadGroups()
-{
-    CLsDataBaseConnection outer;
-    CLsDataBaseConnection inner;
-    qint16 total = 0;
-    data::Recordset groups = outer.CreateRecordset(u"select * from NodeInformation Where NodeActive = 1"_s);
-    for (; !groups.Eof(); groups.MoveNext()) {
-        const QString name = runtime::toText(groups[u"NodeName"].Value());
-        data::Recordset members = inner.CreateRecordset(u"select * from [MemberInformation] Where [LastName] like '"_s +
-                                                        name + u"%' and Active = yes"_s);
-        const qint32 count = members.RecordCount();
-        total = runtime::toInteger(Value(qint32(total) + count));
-        members.Close();
-        inner.DbClose();
-        CurrentNode = &m_panes.addGroup(name, count);
-    }
-    groups.Close();
-    return total;
 }
 
 void FrmDataBaseExplorer::LblMemberListing_Click()
 {
-    CurrentNode = nullptr;
-    m_panes.TreClassView->Nodes.Clear();
-    loadTree();
+    m_rows.clearTree();
+    m_rows.loadTree(UserLevel);
 }
 
 void FrmDataBaseExplorer::TreClassView_Click()
 {
-    setCaption(u"Member Explorer : Member's with a last name starting with \""_s +
-               m_panes.TreClassView->SelectedItem()->Tag + u"\" are displayed."_s);
-    m_panes.LblMemberInformation->setText(u"Member Information - "_s + m_panes.countText());
-    loadList();
-}
-
-void FrmDataBaseExplorer::loadList()
-{
-    const QString group = m_panes.TreClassView->SelectedItem()->Tag;
-    if (group.isEmpty())
-        return;
-    CLsDataBaseConnection store;
-    data::Recordset members = store.CreateRecordset(
-        u"SELECT MemberInformation.MemberId, MemberInformation.FirstName, MemberInformation.MiddleName, "
-        " MemberInformation.LastName, MemberInformation.AddressOne, MemberInformation.City, "
-        " MemberInformation.State, MemberInformation.Zip, MemberInformation.HomePhone, "
-        " MemberInformation.CellPhone, MemberType.MemberType FROM MemberInformation "
-        " LEFT JOIN MemberType ON MemberInformation.MemberTypeId = MemberType.MemberTypeId"
-        " WHERE (((MemberInformation.LastName) Like '"_s +
-        group + u"%') AND ((MemberInformation.Active)=Yes))"_s + SortClause);
-    m_panes.LstStudenInformation->ListItems.Clear();
-    {
-        desktop::ListFilling filling(*m_panes.LstStudenInformation);
-        for (; !members.Eof(); members.MoveNext()) {
-            ListItem &item = filling.Add();
-            item.Tag = runtime::joinedText(members[u"MemberId"].Value());
-            for (size_t at = 0; at < memberColumns.size(); ++at) {
-                Value value = members[memberColumns[at].column].Value();
-                if (!value.isNull())
-                    item.setSubItem(int(at), runtime::toText(std::move(value)));
-            }
-        }
-    }
-    members.Close();
-    store.DbClose();
+    m_rows.announceGroup();
+    m_rows.loadList();
 }
 
 void FrmDataBaseExplorer::LstStudenInformation_ColumnClick(int index)
 {
     runtime::endSilently([this, index] {
-        const desktop::ColumnHeader &clicked = m_panes.LstStudenInformation->ColumnHeaders(index);
-        const QString count = m_panes.countText();
-        SortClause = sortClauseAfterClick(SortClause, clicked.Tag);
-        m_panes.LblMemberInformation->setText(u"Member Information - "_s + count +
-                                              u" : Currently the list is sorted by the field "_s + clicked.Text +
-                                              u" in "_s + sortDirection(SortClause) + u" order"_s);
-        loadList();
+        m_rows.sortBy(index);
+        m_rows.loadList();
     });
 }
 
@@ -180,13 +109,8 @@ void FrmDataBaseExplorer::LstStudenInformation_KeyUp(int keyCode)
     desktop::reportOutOfMemoryOnly([this, keyCode] {
         if (keyCode == desktop::vbKeyDelete)
             deleteSelectedMembers();
-        if (keyCode != desktop::vbKeyReturn)
-            return;
-        const auto &items = m_panes.LstStudenInformation->ListItems;
-        for (int index = 1; index <= items.Count(); ++index) {
-            if (items(index).isSelected())
-                openDossier(items(index));
-        }
+        if (keyCode == desktop::vbKeyReturn)
+            m_panes.forEachSelected([this](const ListItem &item) { openDossier(item); });
     });
 }
 
@@ -201,20 +125,10 @@ void FrmDataBaseExplorer::Toolbar1_ButtonClick(QAction *button)
 // becomes of that.
 void FrmDataBaseExplorer::deleteSelectedMembers()
 {
-    const int answer = desktop::MsgBox(u"You are about to delete the selected members\nDo you want to proceed?"_s,
-                                       desktop::vbYesNo, u"Tolmark"_s);
-    CommandSequence sequence;
-    sequence.open();
-    if (answer == desktop::vbYes) {
-        const auto &items = m_panes.LstStudenInformation->ListItems;
-        for (int index = 1; index <= items.Count(); ++index) {
-            if (items(index).isSelected())
-                sequence.execute(u"delete * from memberinformation where MemberId = "_s + items(index).Text());
-        }
-        loadList();
-        loadTree();
-    }
-    sequence.close();
+    m_rows.deleteSelected([this] {
+        m_rows.loadList();
+        m_rows.loadTree(UserLevel);
+    });
 }
 
 void FrmDataBaseExplorer::openDossier(const ListItem &item)
@@ -226,11 +140,6 @@ void FrmDataBaseExplorer::openDossier(const ListItem &item)
         dossier.setMemberIdentification(Value(item.Text()));
         dossier.Tag = item.SubItems(1);
     });
-}
-
-void FrmDataBaseExplorer::Picture1_MouseMove(int button, float x, float)
-{
-    runtime::endSilently([this, button, x] { m_panes.dragSplitter(button, x); });
 }
 
 void FrmDataBaseExplorer::resizeEvent(QResizeEvent *event)

@@ -5,7 +5,7 @@
 // list and the splitter swallow it.
 #pragma once
 
-#include "explorers/ExplorerPanes.h"
+#include "explorers/GroupedRows.h"
 #include "platform/desktop/Form.h"
 
 #include <QAction>
@@ -30,16 +30,10 @@ private:
     void LstStudenInformation_DblClick();
     void LstStudenInformation_KeyUp(int keyCode);
     void Toolbar1_ButtonClick(QAction *button);
-    void Picture1_MouseMove(int button, float x, float y);
 
-    void loadColumns();
-    void loadTree();
-    qint16 loadGroups();
-    void loadList();
     void deleteSelectedMembers();
     static void openDossier(const desktop::ListItem &item);
 
     ExplorerPanes m_panes;
-    desktop::ObjectRef<desktop::Node> CurrentNode;
-    QString SortClause;
+    GroupedRows m_rows;
 };

@@ -1,7 +1,10 @@
 #include "explorers/UserTree.h"
 
+#include "explorers/ListedColumns.h"
 #include "platform/runtime/Conversion.h"
 #include "shell/CLsDataBaseConnection.h"
+
+#include <array>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -9,6 +12,14 @@ using desktop::Node;
 using runtime::joinedText;
 
 namespace {
+
+constexpr std::array userColumns{
+    ListedColumn{u"First Name", u"UserFirstName", u"UserFirstName"},
+    ListedColumn{u"Middle Name", u"UserMiddleName", u"UserMiddleName"},
+    ListedColumn{u"Last Name", u"UserLastName", u"UserLastName"},
+    ListedColumn{u"User Name", u"UserName", u"UserName"},
+    ListedColumn{u"User Level", u"UserLevel", u"UserLevel"},
+};
 
 Node &addUser(ExplorerPanes &panes, Node &parent, data::Recordset &users, int number)
 {
@@ -23,11 +34,10 @@ Node &addUser(ExplorerPanes &panes, Node &parent, data::Recordset &users, int nu
 
 } // namespace
 
-desktop::ObjectRef<Node> loadUserTree(ExplorerPanes &panes)
+void loadUserTree(ExplorerPanes &panes, desktop::ObjectRef<Node> &current)
 {
     CLsDataBaseConnection outer;
     CLsDataBaseConnection inner;
-    Node *current = nullptr;
     data::Recordset groups = outer.CreateRecordset(u"select * from NodeInformation Where NodeActive = 1"_s);
     for (; !groups.Eof(); groups.MoveNext()) {
         const QString name = runtime::toText(groups[u"NodeName"].Value());
@@ -41,5 +51,19 @@ desktop::ObjectRef<Node> loadUserTree(ExplorerPanes &panes)
         inner.DbClose();
     }
     groups.Close();
-    return current;
+}
+
+void loadUserList(ExplorerPanes &panes)
+{
+    const auto node = panes.TreClassView->SelectedItem();
+    if (!node->Tag.isEmpty())
+        return;
+    desktop::ListView &list = *panes.LstStudenInformation;
+    setUpHeaders(list, userColumns);
+    CLsDataBaseConnection store;
+    data::Recordset users =
+        store.CreateRecordset(u"select * from [Security] Where UserLastName like '"_s + node->Text() + u"%'"_s);
+    fillList(list, users, u"SecurityId", userColumns);
+    users.Close();
+    store.DbClose();
 }

@@ -1,8 +1,13 @@
-// The administrator's tree: the users under the groups of their last names.
+// What the administrator sees of the users: the tree of them under the groups of their last names, and a list of a
+// group's users.
 #pragma once
 
 #include "explorers/ExplorerPanes.h"
 
-// Adds one group for each active row of NodeInformation and, nested one under another, its users. Returns the node
-// added last, unset when there is no group.
-desktop::ObjectRef<desktop::Node> loadUserTree(ExplorerPanes &panes);
+// Adds one group for each active row of NodeInformation and, nested one under another, its users. `current` becomes
+// each node as it is added.
+void loadUserTree(ExplorerPanes &panes, desktop::ObjectRef<desktop::Node> &current);
+
+// Lists the users of the selected group. No click leads here: it is kept for an administrator's list, in which the node
+// of a user would open that user's window.
+void loadUserList(ExplorerPanes &panes);

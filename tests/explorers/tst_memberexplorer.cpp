@@ -1,77 +1,17 @@
 #include "dossier/DisplayMembers.h"
 #include "explorers/FrmDataBaseExplorer.h"
+#include "explorers/OpenExplorer.h"
 #include "platform/desktop/MdiForm.h"
 #include "support/DataStoreFolder.h"
-#include "support/Dialogs.h"
-
-#include <QHeaderView>
-#include <QScrollBar>
 
 using namespace Qt::Literals::StringLiterals;
 
 using desktop::Label;
-using desktop::ListView;
 using desktop::Node;
-using desktop::TreeView;
 
 namespace {
 
-// An open explorer, driven by mouse and keyboard.
-class Explorer
-{
-public:
-    explicit Explorer(qint16 level = 0)
-    {
-        m_window.UserLevel = level;
-        m_window.Show();
-    }
-
-    FrmDataBaseExplorer &window() { return m_window; }
-    TreeView &tree() { return *child<TreeView>(m_window, "TreClassView"); }
-    ListView &list() { return *child<ListView>(m_window, "LstStudenInformation"); }
-    QString listing() { return child<Label>(m_window, "LblMemberListing")->text(); }
-    QString information() { return child<Label>(m_window, "LblMemberInformation")->text(); }
-
-    void clickGroup(const QString &name)
-    {
-        for (int index = 1; index <= tree().Nodes.Count(); ++index) {
-            Node &node = tree().Nodes(index);
-            if (node.Tag == name) {
-                tree().scrollToItem(&node);
-                QTest::mouseClick(tree().viewport(), Qt::LeftButton, {}, tree().visualItemRect(&node).center());
-            }
-        }
-    }
-    void clickHeader(int index)
-    {
-        QHeaderView *header = list().header();
-        list().horizontalScrollBar()->setValue(header->sectionPosition(index - 1));
-        QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
-                          QPoint(header->sectionViewportPosition(index - 1) + 10, 5));
-    }
-    void clickDelete()
-    {
-        auto *bar = child<desktop::Toolbar>(m_window, "Toolbar1");
-        QTest::mouseClick(bar->widgetForAction(bar->actions().constFirst()), Qt::LeftButton);
-    }
-    QStringList column(int index)
-    {
-        QStringList texts;
-        for (int row = 1; row <= list().ListItems.Count(); ++row)
-            texts << list().ListItems(row).SubItems(index);
-        return texts;
-    }
-    void select(const QString &memberId)
-    {
-        for (int row = 1; row <= list().ListItems.Count(); ++row) {
-            if (list().ListItems(row).Text() == memberId)
-                list().ListItems(row).setSelected(true);
-        }
-    }
-
-private:
-    FrmDataBaseExplorer m_window;
-};
+using Explorer = OpenExplorer<FrmDataBaseExplorer>;
 
 // A small organisation in which every count is known.
 constexpr const char *knownMembers =

@@ -1,5 +1,6 @@
 #include "dossier/FrmAddEditMember.h"
 #include "explorers/FrmDataBaseExplorer.h"
+#include "explorers/FrmEventExplorer.h"
 #include "platform/runtime/Clock.h"
 #include "shell/frame/DesignTime.h"
 #include "shell/frame/MDIBaseForm.h"
@@ -100,13 +101,15 @@ private Q_SLOTS:
         frame.Show();
         item("MnuExplorer").trigger();
         item("MnuNewClient").trigger();
+        item("mnuEventExplorer").trigger();
         const auto windows = frame.area().subWindowList();
-        QCOMPARE(windows.size(), 3);
+        QCOMPARE(windows.size(), 4);
         QCOMPARE(qobject_cast<FrmDataBaseExplorer *>(windows[0]->widget())->UserLevel, qint16(0));
         QCOMPARE(qobject_cast<FrmDataBaseExplorer *>(windows[1]->widget())->UserLevel, qint16(99));
         QVERIFY(qobject_cast<FrmAddEditMember *>(windows[2]->widget()));
+        QCOMPARE(qobject_cast<FrmEventExplorer *>(windows[3]->widget())->UserLevel, qint16(0));
         windows[1]->close();
-        QTRY_COMPARE(frame.area().subWindowList().size(), 2);
+        QTRY_COMPARE(frame.area().subWindowList().size(), 3);
     }
 
     // The guard of the menu swallows what fails while a window loads, and no half window stays.

@@ -4,6 +4,7 @@
 #include "events/FrmAddEvent.h"
 #include "events/frmMeeting.h"
 #include "explorers/FrmDataBaseExplorer.h"
+#include "explorers/FrmEventExplorer.h"
 #include "platform/desktop/MsgBox.h"
 #include "platform/runtime/Application.h"
 #include "platform/runtime/Conversion.h"
@@ -137,6 +138,11 @@ void MDIBaseForm::MnuExplorer_Click()
 void MDIBaseForm::mnuNewEvent_Click()
 {
     desktop::reportOutOfMemoryOnly([] { FrmAddEvent::shared().Show(); });
+}
+
+void MDIBaseForm::mnuEventExplorer_Click()
+{
+    desktop::reportOutOfMemoryOnly([] { desktop::showNew<FrmEventExplorer>(); });
 }
 
 void MDIBaseForm::mnuDifferentUser_Click()

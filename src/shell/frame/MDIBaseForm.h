@@ -42,6 +42,7 @@ public:
     void MnuNewClient_Click();
     void MnuExplorer_Click();
     void mnuNewEvent_Click();
+    void mnuEventExplorer_Click();
     void mnuDifferentUser_Click();
     void mnuExit_Click();
     void mnuWhoAmI_Click();

@@ -1,0 +1,180 @@
+#include "explorers/FrmEventExplorer.h"
+
+#include "events/FrmAddEvent.h"
+#include "platform/desktop/Keys.h"
+#include "platform/runtime/ErrorHandling.h"
+#include "shell/Session.h"
+
+#include <array>
+#include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
+
+using desktop::ListItem;
+
+namespace {
+
+constexpr ListedColumn eventColumn(QStringView header, QStringView column)
+{
+    return {header, column, column};
+}
+
+// The header of EventEndDate says "End Time" too: that is how the office knows this list.
+constexpr std::array eventColumns{
+    eventColumn(u"Event Id", u"EventIdentification"), eventColumn(u"Date Added", u"EventDate"),
+    eventColumn(u"Event Name", u"EventName"),         eventColumn(u"Event Description", u"EventDescription"),
+    eventColumn(u"Start Date", u"EventStartDate"),    eventColumn(u"Start Time", u"EventStartTime"),
+    eventColumn(u"Am/Pm", u"EventStartTimeAmPm"),     eventColumn(u"End Time", u"EventEndDate"),
+    eventColumn(u"End Time", u"EventEndTime"),        eventColumn(u"Am/Pm", u"EventEndTimeAmPm"),
+};
+
+GroupedTable events()
+{
+    return {
+        .name = u"EventInformation"_s,
+        .groupColumn = u"EventName"_s,
+        .plural = u"Events"_s,
+        .information = u"Event Information"_s,
+        .captionStart = u"Event Explorer : All event starting with "_s,
+        .listStart = u"SELECT EventInformation.* FROM EventInformation WHERE (((EventInformation.EventName) Like '"_s,
+        .listEnd = u"%') AND ((EventInformation.Active)=Yes)) "_s,
+        .columns = eventColumns,
+        .deleteQuestion = u"You are about to delete the selected event\nDo you want to proceed?"_s,
+        .deleteStart = u"delete * from EventInformation where EventIdentification = "_s,
+    };
+}
+
+// What the panes leave free of the window, in twips.
+constexpr double aboveAndBelowPanes = 1720;
+constexpr double splitterBesideHeadline = 425;
+constexpr double rightOfList = 200;
+
+// The caption comes first: setting it loads the window, and what the window presets is then written over.
+void openEvent(const ListItem &item)
+{
+    desktop::showNew<FrmAddEvent>([&item](FrmAddEvent &window) {
+        window.setCaption(u"Tolmark Event Information : "_s + item.SubItems(2) + u" "_s + item.SubItems(4) + u" - "_s +
+                          item.SubItems(7));
+        window.Tag = item.SubItems(1);
+        window.EventId = item.Text();
+        window.txtEventDescription->setText(item.SubItems(3));
+        window.txtEventEndDate->setText(item.SubItems(7));
+        window.txtEventName->setText(item.SubItems(2));
+        window.txtEventEndTime->setText(item.SubItems(8));
+        window.txtEventStartDate->setText(item.SubItems(4));
+        window.txtEventStartTime->setText(item.SubItems(5));
+        window.lstEndTime->setText(item.SubItems(9));
+        window.lstStartTime->setText(item.SubItems(6));
+    });
+}
+
+} // namespace
+
+FrmEventExplorer::FrmEventExplorer()
+    : Form(Place::InFrame, u"FrmEventExplorer"),
+      m_panes(*this, {u"Delete Event"_s, u":/icons/delete-event.svg"_s, u"Events (Click to Refresh)"_s,
+                      u"Event Information"_s}),
+      m_rows(*this, m_panes, events())
+{
+    setDesignCaption(u"Tolmark Event Explorer"_s);
+    using desktop::on;
+    on(m_panes.LblMemberListing, &desktop::Label::Click, this, &FrmEventExplorer::LblMemberListing_Click);
+    on(m_panes.TreClassView, &desktop::TreeView::Click, this, &FrmEventExplorer::TreClassView_Click);
+    desktop::ListView *list = m_panes.LstStudenInformation;
+    on(list, &desktop::ListView::ColumnClick, this, &FrmEventExplorer::LstStudenInformation_ColumnClick);
+    on(list, &desktop::ListView::DblClick, this, &FrmEventExplorer::LstStudenInformation_DblClick);
+    on(list, &desktop::ListView::KeyUp, this, &FrmEventExplorer::LstStudenInformation_KeyUp);
+    on(m_panes.Toolbar1, &desktop::Toolbar::ButtonClick, this, &FrmEventExplorer::Toolbar1_ButtonClick);
+}
+
+void FrmEventExplorer::Form_Load()
+{
+    setCursor(Qt::WaitCursor);
+    loadTree();
+    m_rows.loadColumns();
+    m_rows.CurrentNode->setExpanded(true);
+    unsetCursor();
+}
+
+void FrmEventExplorer::loadTree()
+{
+    runtime::endSilently([this] { m_rows.loadTree(UserLevel); });
+}
+
+void FrmEventExplorer::loadList()
+{
+    runtime::endSilently([this] { m_rows.loadList(); });
+}
+
+void FrmEventExplorer::LblMemberListing_Click()
+{
+    m_rows.clearTree();
+    loadTree();
+}
+
+void FrmEventExplorer::TreClassView_Click()
+{
+    m_rows.announceGroup();
+    loadList();
+}
+
+void FrmEventExplorer::LstStudenInformation_ColumnClick(int index)
+{
+    runtime::endSilently([this, index] {
+        m_rows.sortBy(index);
+        loadList();
+    });
+}
+
+void FrmEventExplorer::LstStudenInformation_DblClick()
+{
+    if (m_panes.LstStudenInformation->ListItems.Count() > 0)
+        openEvent(*m_panes.LstStudenInformation->SelectedItem());
+}
+
+void FrmEventExplorer::LstStudenInformation_KeyUp(int keyCode)
+{
+    if (keyCode == desktop::vbKeyReturn)
+        desktop::reportOutOfMemoryOnly([this] { m_panes.forEachSelected(openEvent); });
+}
+
+// The tree is loaded over its old nodes and refuses the first group, so it keeps its counts until it is refreshed.
+void FrmEventExplorer::Toolbar1_ButtonClick(QAction *button)
+{
+    if (button->text() != u"Delete Event" || m_panes.LstStudenInformation->ListItems.Count() == 0)
+        return;
+    m_rows.deleteSelected([this] {
+        loadList();
+        loadTree();
+    });
+}
+
+// In a window smaller than what the panes leave free, they grow again as it shrinks.
+void FrmEventExplorer::Form_Resize()
+{
+    ExplorerPanes &panes = m_panes;
+    runtime::everyStep([&] { panes.TreClassView->setHeight(std::abs(Height() - aboveAndBelowPanes)); },
+                       [&] { panes.Picture1->setHeight(panes.TreClassView->Height() + splitterBesideHeadline); },
+                       [&] {
+                           const double left = panes.LstStudenInformation->Left();
+                           panes.LblMemberInformation->setLeft(left);
+                           panes.LblMemberInformation->setWidth(std::abs(Width() - (left + rightOfList)));
+                       },
+                       [&] { panes.LblMemberListing->setWidth(panes.TreClassView->Width()); },
+                       [&] {
+                           panes.LstStudenInformation->setHeight(std::abs(Height() - aboveAndBelowPanes));
+                           panes.LstStudenInformation->setWidth(panes.LblMemberInformation->Width());
+                       },
+                       [&] {
+                           for (desktop::Panel *panel : panes.StatusBar1->Panels())
+                               panel->setPanelWidth(Width() / double(panes.StatusBar1->Panels().size()));
+                       },
+                       [&] { Session::current().ResizeReady = true; });
+}
+
+void FrmEventExplorer::resizeEvent(QResizeEvent *event)
+{
+    Form::resizeEvent(event);
+    m_panes.placeBars();
+    desktop::guarded([this] { Form_Resize(); });
+}

@@ -1,0 +1,59 @@
+// The rows of one table by groups: the tree of the groups with the number of rows in each, the list of the chosen
+// group's rows, which the store sorts, and the deletion of the selected ones.
+//
+// It works on the panes of its window. Every failure goes to the caller: the windows differ in what they hold back.
+#pragma once
+
+#include "explorers/ExplorerPanes.h"
+#include "explorers/ListedColumns.h"
+
+#include <functional>
+
+// What one explorer explores, and the words that it has for that.
+struct GroupedTable
+{
+    QString name;
+    QString groupColumn;                   // a row belongs to the group with which this column begins
+    QString plural;                        // "Members"
+    QString information;                   // headline of the list
+    QString captionStart;                  // of the window that shows a group
+    QString listStart;                     // the list's query up to the group's name
+    QString listEnd;                       // and behind it
+    std::span<const ListedColumn> columns; // the first is the key
+    QString deleteQuestion;
+    QString deleteStart; // the statement that deletes a row, up to the row's key
+};
+
+class GroupedRows
+{
+public:
+    GroupedRows(desktop::Form &window, ExplorerPanes &panes, GroupedTable table);
+
+    // The node added last.
+    desktop::ObjectRef<desktop::Node> CurrentNode;
+    // The ORDER BY tail of the list's query, with a leading blank.
+    QString SortClause;
+
+    void loadColumns();
+    // Adds the groups with their counts; the users under the groups for a level of 99 or more. Error 35602 when the
+    // tree holds a group already, error 6 beyond 32,767 rows.
+    void loadTree(qint16 userLevel);
+    void clearTree();
+
+    // Tells the selected group in the window's caption and in the headline of the list.
+    void announceGroup();
+    // Turns the sort to the clicked column, from 1, and tells it in the headline.
+    void sortBy(int column);
+    // Lists the selected group in the order of SortClause; a node without a group leaves the list as it is.
+    void loadList();
+
+    // Asks, and after a Yes deletes the selected rows and runs `reload`. A failure leaves the connection to its object.
+    void deleteSelected(const std::function<void()> &reload);
+
+private:
+    qint16 loadGroups();
+
+    desktop::Form &m_window;
+    ExplorerPanes &m_panes;
+    GroupedTable m_table;
+};

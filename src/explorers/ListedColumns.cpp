@@ -1,0 +1,25 @@
+#include "explorers/ListedColumns.h"
+
+#include "platform/runtime/Conversion.h"
+
+void setUpHeaders(desktop::ListView &list, std::span<const ListedColumn> columns)
+{
+    list.ColumnHeaders.Clear();
+    for (const ListedColumn &column : columns)
+        list.ColumnHeaders.Add(column.header.toString(), column.tag.toString());
+}
+
+void fillList(desktop::ListView &list, data::Recordset &rows, QStringView key, std::span<const ListedColumn> columns)
+{
+    list.ListItems.Clear();
+    desktop::ListFilling filling(list);
+    for (; !rows.Eof(); rows.MoveNext()) {
+        desktop::ListItem &item = filling.Add();
+        item.Tag = runtime::joinedText(rows[key].Value());
+        for (size_t at = 0; at < columns.size(); ++at) {
+            runtime::Value value = rows[columns[at].column].Value();
+            if (!value.isNull())
+                item.setSubItem(int(at), runtime::toText(std::move(value)));
+        }
+    }
+}
