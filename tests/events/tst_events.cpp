@@ -241,10 +241,12 @@ private Q_SLOTS:
             setTime(now);
             window.Show();
             QVERIFY(window.isVisible());
+            QCOMPARE(frame.focusWidget(), window.txtEventName);
             QCOMPARE(window.txtEventName->text() + window.lstEndTime->Text(), QString());
             window.txtEventName->setText(u"Picnic"_s);
             window.txtEventDescription->setText(u"x"_s);
             window.lstEndTime->setText(u"PM"_s);
+            window.cmdSave->setFocus();
             window.cmdSave->click();
             QVERIFY(!window.isVisible());
         }

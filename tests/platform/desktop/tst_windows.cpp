@@ -144,7 +144,6 @@ private Q_SLOTS:
             QCOMPARE(frame.area().activeSubWindow()->widget(), shared);
             QCOMPARE(shared->Width(), 4800.0);
             QCOMPARE(listed(), entries[0]);
-            QTest::keyClick(frame.area().activeSubWindow(), Qt::Key_F4, Qt::ControlModifier);
             shared->Unload();
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
             QVERIFY(shared && !shared->isVisible());
