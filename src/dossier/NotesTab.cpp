@@ -4,6 +4,7 @@
 #include "dossier/RowTexts.h"
 #include "events/frmMeeting.h"
 #include "platform/desktop/ErrorReport.h"
+#include "platform/desktop/Keys.h"
 #include "platform/desktop/MsgBox.h"
 #include "platform/runtime/DateDiff.h"
 #include "platform/runtime/Format.h"
@@ -63,6 +64,7 @@ NotesTab::NotesTab(QWidget *parent, Dossier &dossier)
     on(butAddPhoneNotes, &QPushButton::clicked, this, &NotesTab::butAddPhoneNotes_Click);
     on(Command1, &QPushButton::clicked, this, &NotesTab::Command1_Click);
     on(lstPhoneNotes, &desktop::ListView::DblClick, this, &NotesTab::lstPhoneNotes_DblClick);
+    on(lstPhoneNotes, &desktop::ListView::KeyUp, this, &NotesTab::lstPhoneNotes_KeyUp);
 }
 
 void NotesTab::setUpContent()
@@ -162,6 +164,13 @@ void NotesTab::lstPhoneNotes_DblClick()
         note.MemberId = m_dossier.member();
         note.setCaption(u"Tolmark View Event"_s);
     });
+}
+
+// Enter does for the keyboard what the double click does.
+void NotesTab::lstPhoneNotes_KeyUp(int keyCode)
+{
+    if (keyCode == desktop::vbKeyReturn && lstPhoneNotes->SelectedItem())
+        lstPhoneNotes_DblClick();
 }
 
 void NotesTab::Command1_Click()

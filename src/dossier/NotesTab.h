@@ -25,6 +25,7 @@ public:
     void butAddPhoneNotes_Click();
     void Command1_Click();
     void lstPhoneNotes_DblClick();
+    void lstPhoneNotes_KeyUp(int keyCode);
     void mnuEditNotes_Click();
     void mnuDeleteNote_Click();
 

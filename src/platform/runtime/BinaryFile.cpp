@@ -47,6 +47,8 @@ void refuseUnlessPlain(const QString &native, BinaryAccess access)
 
 BinaryFile::BinaryFile(const QString &path, BinaryAccess access) : m_file(nativePath(path))
 {
+    if (path.endsWith(u'\\') || path.endsWith(u'/')) // the native path of a missing folder has lost this
+        throw RuntimeError(folderExists(path) ? PathFileAccess : PathNotFound);
     refuseUnlessPlain(m_file.fileName(), access);
     const QIODevice::OpenMode mode = access == BinaryAccess::Read ? QIODevice::ReadOnly : QIODevice::ReadWrite;
     // Whole files go through here at once: a buffer in between would only be another copy.

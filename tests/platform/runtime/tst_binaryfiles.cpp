@@ -124,6 +124,7 @@ void BinaryFilesTest::opens_data()
         QTest::addRow("below a file, %s", way) << u"Letter.doc\\none"_s << access << u"error 76"_s;
         QTest::addRow("folder, %s", way) << u"folder"_s << access << u"error 75"_s;
         QTest::addRow("no name, %s", way) << u""_s << access << u"error 75"_s;
+        QTest::addRow("no name in a missing folder, %s", way) << u"none\\"_s << access << u"error 76"_s;
         QTest::addRow("pipe, %s", way) << u"pipe"_s << access << u"error 75"_s;
     }
     QTest::newRow("too long a name") << QString(256, u'x') << BinaryAccess::ReadWrite << u"error 75"_s;
