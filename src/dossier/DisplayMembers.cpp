@@ -6,6 +6,12 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+constexpr QSize roomForAllTabs(820, 590); // logical pixels
+
+} // namespace
+
 DisplayMembers::DisplayMembers()
     : Form(Place::InFrame, u"DisplayMembers"), SSTab1(new desktop::TabbedDialog(this, u"SSTab1")),
       CommonDialog1(new desktop::CommonDialog(this, u"CommonDialog1"))
@@ -15,6 +21,7 @@ DisplayMembers::DisplayMembers()
     setUpCloseButtons();
     auto *whole = new QVBoxLayout(this);
     whole->addWidget(SSTab1);
+    resize(roomForAllTabs);
 }
 
 void DisplayMembers::setUpTabs()

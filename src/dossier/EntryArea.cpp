@@ -29,7 +29,7 @@ void EntryArea::addRow(desktop::Label &label, QWidget &box, Lines lines)
     label.setSizePolicy(policy);
     label.setBuddy(&box);
     box.setAccessibleName(label.text());
-    const int row = m_grid->rowCount();
+    const int row = m_rows++;
     m_grid->addWidget(&label, row, 0, lines == Lines::Several ? Qt::AlignTop : Qt::Alignment());
     m_grid->addWidget(&box, row, 1);
     if (lines == Lines::Several)
@@ -42,19 +42,19 @@ void EntryArea::addRow(desktop::Label &label, QWidget &box, Lines lines)
 
 void EntryArea::addWidget(QWidget &widget)
 {
-    m_grid->addWidget(&widget, m_grid->rowCount(), 0, 1, 2);
+    m_grid->addWidget(&widget, m_rows++, 0, 1, 2);
 }
 
 QHBoxLayout *EntryArea::addLine()
 {
     auto *line = new QHBoxLayout;
-    m_grid->addLayout(line, m_grid->rowCount(), 0, 1, 2);
+    m_grid->addLayout(line, m_rows++, 0, 1, 2);
     return line;
 }
 
 void EntryArea::addUnderLastBox(QWidget &widget)
 {
-    m_grid->addWidget(&widget, m_grid->rowCount() - 1, 1);
+    m_grid->addWidget(&widget, m_rows - 1, 1);
     widget.setFocusPolicy(Qt::NoFocus);
     widget.lower();
     m_entering << &widget;

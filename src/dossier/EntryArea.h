@@ -41,6 +41,7 @@ private:
     void showLabels(bool shown);
 
     QGridLayout *m_grid;
+    int m_rows = 0;
     QList<QWidget *> m_labels;
     QList<QWidget *> m_entering;
     QList<QWidget *> m_browsing;

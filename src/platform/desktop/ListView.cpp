@@ -22,6 +22,12 @@ bool isText(int role)
     return role == Qt::DisplayRole || role == Qt::EditRole;
 }
 
+// A line of the list is one line high whatever its texts hold.
+QString onOneLine(QString text)
+{
+    return text.remove(u'\r').replace(u'\n', u' ');
+}
+
 } // namespace
 
 void ListItem::setSubItem(int index, QString text)
@@ -36,7 +42,10 @@ QVariant ListItem::data(int column, int role) const
 {
     if (!isText(role))
         return QTreeWidgetItem::data(column, role);
-    return column < m_texts.size() && !m_texts[column].isNull() ? QVariant(m_texts[column]) : QVariant();
+    if (column >= m_texts.size() || m_texts[column].isNull())
+        return {};
+    const QString &text = m_texts[column];
+    return role == Qt::DisplayRole && text.contains(u'\n') ? onOneLine(text) : text;
 }
 
 void ListItem::setData(int column, int role, const QVariant &value)
