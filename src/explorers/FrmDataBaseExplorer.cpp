@@ -1,5 +1,6 @@
 #include "explorers/FrmDataBaseExplorer.h"
 
+#include "dossier/DisplayMembers.h"
 #include "platform/desktop/Keys.h"
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/ErrorHandling.h"
@@ -132,13 +133,13 @@ void FrmDataBaseExplorer::deleteSelectedMembers()
 
 void FrmDataBaseExplorer::openDossier(const ListItem &item)
 {
-    DossierRequest request;
-    request.MemberId = runtime::toInteger(Value(item.Text()));
-    request.Caption =
-        u"Tolmark Member Information : "_s + item.SubItems(2) + u" "_s + item.SubItems(3) + u" "_s + item.SubItems(4);
-    request.MemberIdentification = item.Text();
-    request.Tag = item.SubItems(1);
-    Q_EMIT dossierRequested(request);
+    desktop::showNew<DisplayMembers>([&item](DisplayMembers &dossier) {
+        dossier.MemberId = runtime::toInteger(Value(item.Text()));
+        dossier.setCaption(u"Tolmark Member Information : "_s + item.SubItems(2) + u" "_s + item.SubItems(3) + u" "_s +
+                           item.SubItems(4));
+        dossier.setMemberIdentification(Value(item.Text()));
+        dossier.Tag = item.SubItems(1);
+    });
 }
 
 void FrmDataBaseExplorer::resizeEvent(QResizeEvent *event)

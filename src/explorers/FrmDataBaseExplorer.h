@@ -10,15 +10,6 @@
 
 #include <QAction>
 
-// What a dossier is told when it is opened for a line of the list, in the order in which it is told.
-struct DossierRequest
-{
-    qint16 MemberId = 0;
-    QString Caption;
-    QString MemberIdentification;
-    QString Tag;
-};
-
 class FrmDataBaseExplorer : public desktop::Form
 {
     Q_OBJECT
@@ -27,10 +18,6 @@ public:
 
     // 99 or more shows the users in the tree, as the administrator sees them.
     qint16 UserLevel = 0;
-
-Q_SIGNALS:
-    // A member is to be opened.
-    void dossierRequested(const DossierRequest &request);
 
 protected:
     void Form_Load() override;
@@ -45,7 +32,7 @@ private:
     void Toolbar1_ButtonClick(QAction *button);
 
     void deleteSelectedMembers();
-    void openDossier(const desktop::ListItem &item);
+    static void openDossier(const desktop::ListItem &item);
 
     ExplorerPanes m_panes;
     GroupedRows m_rows;

@@ -1,5 +1,7 @@
+#include "dossier/DisplayMembers.h"
 #include "explorers/FrmDataBaseExplorer.h"
 #include "explorers/OpenExplorer.h"
+#include "platform/desktop/MdiForm.h"
 #include "support/DataStoreFolder.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -168,25 +170,26 @@ private Q_SLOTS:
         QCOMPARE(m_folder->row("SELECT count(*) FROM MemberInformation"), u"7"_s);
     }
 
-    void dossiersAreAskedForByDoubleClickAndEnter()
+    void dossiersOpenByDoubleClickAndEnter()
     {
         CaughtErrors errors;
+        desktop::MdiForm frame(u"Frame");
+        frame.Show();
+        const auto dossiers = [&frame] { return frame.findChildren<DisplayMembers *>(); };
         Explorer explorer;
-        QList<DossierRequest> requests;
-        connect(&explorer.window(), &FrmDataBaseExplorer::dossierRequested, this,
-                [&requests](const DossierRequest &request) { requests << request; });
         explorer.clickGroup(u"A"_s);
         explorer.list().selectAll();
         QTest::keyClick(&explorer.list(), Qt::Key_Return);
-        QCOMPARE(requests.size(), 3);
-        QCOMPARE(requests[0].Caption, u"Tolmark Member Information : Ann  Abel"_s);
+        QCOMPARE(dossiers().size(), 3);
+        QCOMPARE(dossiers()[0]->Caption(), u"Tolmark Member Information : Ann  Abel"_s);
+        QCOMPARE(dossiers()[0]->Frame1->txtLastName->text(), u"Abel"_s);
         const QPoint second = explorer.list().visualItemRect(&explorer.list().ListItems(2)).center();
         QTest::mouseDClick(explorer.list().viewport(), Qt::LeftButton, {}, second);
-        QCOMPARE(requests.size(), 4);
-        QCOMPARE(requests[3].MemberId, qint16(3));
+        QCOMPARE(dossiers().size(), 4);
+        QCOMPARE(dossiers()[3]->MemberId, qint16(3));
         // The answer to a box is pressed there and released over the list: no dossier.
         QTest::keyRelease(&explorer.list(), Qt::Key_Return);
-        QCOMPARE(requests.size(), 4);
+        QCOMPARE(dossiers().size(), 4);
     }
 
     void aKeyBeyond16BitsOverflows()

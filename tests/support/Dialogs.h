@@ -4,10 +4,13 @@
 #include "platform/desktop/ErrorReport.h"
 
 #include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
 
+#include <functional>
 #include <optional>
 
 // A box as it stood on the screen.
@@ -36,6 +39,8 @@ public:
     }
 
     QList<SeenBox> seen;
+    // Called while a box stands, before it is answered.
+    std::function<void()> atBox;
 
 private:
     void look()
@@ -44,6 +49,8 @@ private:
         if (!box || !box->isVisible())
             return;
         seen << SeenBox{box->windowTitle(), box->text(), box->icon(), box->standardButtons()};
+        if (atBox)
+            atBox();
         if (m_plan.isEmpty()) {
             QTest::qFail(qPrintable(QStringLiteral("unexpected message box: ") + box->text()), __FILE__, __LINE__);
             box->done(QMessageBox::Cancel);
@@ -53,6 +60,52 @@ private:
     }
 
     QList<QMessageBox::StandardButton> m_plan;
+    QTimer m_timer;
+};
+
+// Types the planned paths into the file dialogs that come up, in their order; an empty path cancels. A dialog that
+// nobody planned, or a plan that no dialog used, fails the test.
+class FileAnswers : public QObject
+{
+public:
+    explicit FileAnswers(QStringList plan) : m_plan(std::move(plan))
+    {
+        m_timer.callOnTimeout(this, [this] { look(); });
+        m_timer.start(1);
+    }
+    ~FileAnswers() override
+    {
+        if (!m_plan.isEmpty())
+            QTest::qFail("a planned file dialog never came", __FILE__, __LINE__);
+    }
+
+    // Of the dialog seen last.
+    QString title;
+    QString name;
+    QStringList filters;
+
+private:
+    void look()
+    {
+        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        if (!dialog || !dialog->isVisible())
+            return;
+        auto *edit = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        title = dialog->windowTitle();
+        name = edit->text();
+        filters = dialog->nameFilters();
+        if (m_plan.isEmpty()) {
+            QTest::qFail("unexpected file dialog", __FILE__, __LINE__);
+            dialog->reject();
+        } else if (const QString path = m_plan.takeFirst(); path.isEmpty()) {
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        } else {
+            edit->setText(path);
+            QTest::keyClick(edit, Qt::Key_Return);
+        }
+    }
+
+    QStringList m_plan;
     QTimer m_timer;
 };
 

@@ -58,7 +58,7 @@ NumberedText providerAnswer(int extendedCode, const QString &message, const QStr
     case SQLITE_READONLY:
         return {Unspecified, u"Operation must use an updateable query."_s};
     case SQLITE_FULL:
-        return {61, runtime::errorText(61)};
+        return {runtime::DiskFull, runtime::errorText(runtime::DiskFull)};
     case SQLITE_NOMEM:
         return {runtime::OutOfMemory, runtime::errorText(runtime::OutOfMemory)};
     default:
@@ -193,6 +193,11 @@ void Database::create(const QString &path)
     if (QFileInfo::exists(path) || QFileInfo(path).isSymLink())
         throw providerError(-2147217897, u"Database already exists."_s);
     openWith(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_EXCLUSIVE);
+}
+
+void Database::createInMemory()
+{
+    openWith(u":memory:"_s, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
 }
 
 void Database::execute(const QByteArray &sql)

@@ -42,6 +42,8 @@ public:
     void open(const QString &path);
     // Makes a new file and opens it; refuses a path at which something stands.
     void create(const QString &path);
+    // Makes a file that lives in memory until it is closed.
+    void createInMemory();
     void close();
     bool isOpen() const { return m_handle != nullptr; }
     const QString &path() const { return m_path; }

@@ -15,6 +15,8 @@ struct ObjectErrorText
 };
 
 constexpr std::array objectErrorTexts{
+    ObjectErrorText{WrongArguments, "Arguments are of the wrong type, are out of acceptable range, or are in conflict "
+                                    "with one another."},
     ObjectErrorText{NoCurrentRecord, "Either BOF or EOF is True, or the current record has been deleted. Requested "
                                      "operation requires a current record."},
     ObjectErrorText{NotAllowedInContext, "Operation is not allowed in this context."},

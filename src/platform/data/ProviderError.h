@@ -18,6 +18,7 @@ inline constexpr int DataOverflow = -2147217833;     // 80040e57
 inline constexpr int MultipleStep = -2147217887;     // 80040e21: a value that a field refuses
 
 // The data objects' numbers.
+inline constexpr int WrongArguments = 3001;
 inline constexpr int NoCurrentRecord = 3021;
 inline constexpr int NotAllowedInContext = 3219;
 inline constexpr int NotUpdatable = 3251;

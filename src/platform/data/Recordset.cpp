@@ -6,6 +6,11 @@
 namespace data {
 
 Recordset::Recordset() = default;
+Recordset::Recordset(std::shared_ptr<Database> rows, const QString &source)
+    : m_ownRows(std::move(rows)),
+      m_cursor(std::make_unique<Cursor>(m_ownRows, sql::cachedTranslation(source), adLockOptimistic))
+{
+}
 Recordset::Recordset(Recordset &&) noexcept = default;
 Recordset &Recordset::operator=(Recordset &&) noexcept = default;
 Recordset::~Recordset() = default;
@@ -36,6 +41,7 @@ void Recordset::Close()
     if (cursor().editMode() != adEditNone)
         throw objectError(NotAllowedInContext, "ADODB.Recordset");
     m_cursor.reset();
+    m_ownRows.reset();
 }
 
 ObjectStateEnum Recordset::State() const

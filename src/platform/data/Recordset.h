@@ -1,9 +1,10 @@
 // The rows of a statement, read when they are first asked for and kept; through it rows are added, changed and deleted.
 //
 // Static: it shows the rows as they were when first read, and its own changes. A binary field is not touched until its
-// Value or a chunk is asked for, so opening a table in order to append costs the same whatever it holds. Errors: 3704
-// when it or its connection is closed, 3021 without a current record, 3251 on rows of several tables, of groups or with
-// computed columns, 3265 for an unknown field. A failing Update keeps what was pending.
+// Value or a chunk is asked for, so opening a table in order to append costs the same whatever it holds. One that a
+// DataFactory made keeps its rows itself. Errors: 3704 when it or its connection is closed, 3021 without a current
+// record, 3251 on rows of several tables, of groups or with computed columns, 3265 for an unknown field. A failing
+// Update keeps what was pending.
 #pragma once
 
 #include "platform/data/Connection.h"
@@ -16,6 +17,7 @@
 namespace data {
 
 class Cursor;
+class DataFactory;
 
 // A field of the recordset's current row. It stays valid while the recordset lives and follows its moves.
 class Field
@@ -78,7 +80,12 @@ public:
     Field operator[](QStringView name) { return Fields(name); }
 
 private:
+    friend class DataFactory;
+    Recordset(std::shared_ptr<Database> rows, const QString &source);
+
     Cursor &cursor();
+
+    std::shared_ptr<Database> m_ownRows; // of one without a connection; goes after the cursor over them
     std::unique_ptr<Cursor> m_cursor;
 };
 

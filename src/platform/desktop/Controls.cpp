@@ -95,6 +95,11 @@ CommandButton::CommandButton(QWidget *parent, QAnyStringView name, const QString
     setAutoDefault(false);
 }
 
+CheckBox::CheckBox(QWidget *parent, QAnyStringView name, const QString &caption) : ControlOf(parent, name)
+{
+    setText(caption);
+}
+
 Frame::Frame(QWidget *parent, QAnyStringView name, const QString &caption) : ControlOf(parent, name)
 {
     setTitle(caption);

@@ -3,6 +3,7 @@
 
 #include "platform/desktop/Control.h"
 
+#include <QCheckBox>
 #include <QFrame>
 #include <QGroupBox>
 #include <QLabel>
@@ -56,6 +57,14 @@ class CommandButton : public ControlOf<QPushButton>
 {
 public:
     CommandButton(QWidget *parent, QAnyStringView name, const QString &caption);
+};
+
+class CheckBox : public ControlOf<QCheckBox>
+{
+public:
+    CheckBox(QWidget *parent, QAnyStringView name, const QString &caption);
+    // 0 unchecked, 1 checked.
+    int Value() const { return isChecked() ? 1 : 0; }
 };
 
 class Frame : public ControlOf<QGroupBox>

@@ -25,11 +25,24 @@ int keyCode(const QKeyEvent &event)
     }
 }
 
+namespace {
+
+int sumOf(Qt::MouseButtons buttons)
+{
+    return (buttons & Qt::LeftButton ? vbLeftButton : 0) | (buttons & Qt::RightButton ? vbRightButton : 0) |
+           (buttons & Qt::MiddleButton ? vbMiddleButton : 0);
+}
+
+} // namespace
+
 int heldButtons(const QMouseEvent &event)
 {
-    const Qt::MouseButtons held = event.buttons();
-    return (held & Qt::LeftButton ? vbLeftButton : 0) | (held & Qt::RightButton ? vbRightButton : 0) |
-           (held & Qt::MiddleButton ? vbMiddleButton : 0);
+    return sumOf(event.buttons());
+}
+
+int changedButton(const QMouseEvent &event)
+{
+    return sumOf(event.button());
 }
 
 } // namespace desktop

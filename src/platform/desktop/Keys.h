@@ -12,7 +12,9 @@ enum MouseButton : int { vbLeftButton = 1, vbRightButton = 2, vbMiddleButton = 4
 
 // The code of the key, 0 for a key that no handler asks for.
 int keyCode(const QKeyEvent &event);
-// The sum of the buttons that are down (for a move) or of the one that changed.
+// The sum of the buttons that are down.
 int heldButtons(const QMouseEvent &event);
+// The button that was pressed or released.
+int changedButton(const QMouseEvent &event);
 
 } // namespace desktop

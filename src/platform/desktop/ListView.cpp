@@ -1,10 +1,15 @@
 #include "platform/desktop/ListView.h"
 
 #include "platform/desktop/Keys.h"
+#include "platform/desktop/Twips.h"
 
+#include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
+#include <QUrl>
 
 #include <utility>
 
@@ -78,6 +83,12 @@ void ColumnHeaders::Add(const QString &text, const QString &tag)
     m_list->setHeaderLabels(labels);
 }
 
+void ColumnHeaders::setWidth(int index, double width)
+{
+    (*this)(index); // refuses an index outside
+    m_list->header()->resizeSection(index - 1, pixels(width));
+}
+
 void ColumnHeaders::Clear()
 {
     m_headers.clear();
@@ -89,6 +100,24 @@ const ColumnHeader &ColumnHeaders::operator()(int index) const
     if (index < 1 || index > Count())
         throw runtime::RuntimeError(runtime::IndexOutOfBounds);
     return m_headers[size_t(index - 1)];
+}
+
+DataObject::DataObject(const QMimeData &data)
+{
+    QStringList files;
+    for (const QUrl &url : data.urls()) {
+        if (url.isLocalFile())
+            files << url.toLocalFile();
+    }
+    if (!files.isEmpty())
+        m_files = files;
+}
+
+const QStringList &DataObject::Files() const
+{
+    if (!m_files)
+        throw runtime::RuntimeError(runtime::WrongDataFormat);
+    return *m_files;
 }
 
 ListView::ListView(QWidget *parent, QAnyStringView name) : ControlOf(parent, name), ListItems(this), ColumnHeaders(this)
@@ -130,6 +159,52 @@ void ListView::mouseDoubleClickEvent(QMouseEvent *event)
     QTreeWidget::mouseDoubleClickEvent(event);
     if (event->button() == Qt::LeftButton)
         Q_EMIT DblClick();
+}
+
+void ListView::mouseReleaseEvent(QMouseEvent *event)
+{
+    QTreeWidget::mouseReleaseEvent(event);
+    Q_EMIT MouseUp(changedButton(*event), event->globalPosition().toPoint());
+}
+
+void ListView::contextMenuEvent(QContextMenuEvent *event)
+{
+    event->accept(); // by the mouse it is the release of the button that counts
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        Q_EMIT MouseUp(vbRightButton, viewport()->mapToGlobal(visualItemRect(currentItem()).bottomLeft()));
+}
+
+void ListView::setTakesDrops()
+{
+    m_takesDrops = true;
+    setAcceptDrops(true);
+    viewport()->setAcceptDrops(true);
+}
+
+void ListView::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!m_takesDrops)
+        return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+}
+
+void ListView::dragMoveEvent(QDragMoveEvent *event)
+{
+    if (!m_takesDrops)
+        return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+}
+
+void ListView::dropEvent(QDropEvent *event)
+{
+    if (!m_takesDrops)
+        return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    QMetaObject::invokeMethod(
+        this, [this, data = DataObject(*event->mimeData())] { Q_EMIT OLEDragDrop(data); }, Qt::QueuedConnection);
 }
 
 ListItem &ListFilling::Add()

@@ -4,9 +4,13 @@
 #include "platform/desktop/Control.h"
 #include "platform/desktop/ObjectRef.h"
 
+#include <QStringList>
 #include <QTreeWidget>
 
+#include <optional>
 #include <vector>
+
+class QMimeData;
 
 namespace desktop {
 
@@ -62,6 +66,8 @@ public:
     explicit ColumnHeaders(ListView *list) : m_list(list) {}
 
     void Add(const QString &text, const QString &tag = {});
+    // Twips. Error 35600 outside 1 to Count.
+    void setWidth(int index, double width);
     void Clear();
     int Count() const { return int(m_headers.size()); }
     // Error 35600 outside 1 to Count.
@@ -70,6 +76,18 @@ public:
 private:
     ListView *m_list;
     std::vector<ColumnHeader> m_headers;
+};
+
+// What was dropped on a list: the files of a file manager, or something else.
+class DataObject
+{
+public:
+    explicit DataObject(const QMimeData &data);
+    // The paths. Error 461 when what was dropped is no list of files.
+    const QStringList &Files() const;
+
+private:
+    std::optional<QStringList> m_files;
 };
 
 class ListView : public ControlOf<QTreeWidget>
@@ -82,6 +100,8 @@ public:
     desktop::ColumnHeaders ColumnHeaders;
     // The focused line; unset in an empty list.
     ObjectRef<ListItem> SelectedItem() const;
+    // Whatever is dropped on the list is reported by OLEDragDrop.
+    void setTakesDrops();
 
 Q_SIGNALS:
     // The header's place, from 1.
@@ -89,13 +109,24 @@ Q_SIGNALS:
     void DblClick();
     // The release of a key whose press came to this list too.
     void KeyUp(int keyCode);
+    // The release of a mouse button, with the pointer's place on the screen. The menu key counts as the right button
+    // over the selected line.
+    void MouseUp(int button, QPoint place);
+    // Reported once the drop has come to its end: whoever the data came from waits no longer.
+    void OLEDragDrop(const DataObject &data);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
+    bool m_takesDrops = false;
     int m_pressedKey = 0;
 };
 

@@ -3,11 +3,11 @@
 #include "platform/runtime/Application.h"
 #include "platform/runtime/RuntimeError.h"
 
-#include <QAbstractTextDocumentLayout>
+#include <QApplication>
 #include <QPainter>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QTextDocument>
+#include <QTextLayout>
 
 #include <memory>
 #include <utility>
@@ -15,8 +15,6 @@
 namespace desktop {
 
 namespace {
-
-constexpr double tabStopInches = 0.5;
 
 QString &printFile()
 {
@@ -39,16 +37,44 @@ std::unique_ptr<QPrinter> openPrinter()
     return printer;
 }
 
-void layOut(QTextDocument &document, const QString &text, QPrinter &printer)
+void orPrinterError(bool done)
 {
-    QTextOption option;
+    if (!done)
+        throw runtime::RuntimeError(runtime::PrinterError);
+}
+
+// Broken into lines where the printer's margins ask for it.
+void layOut(QTextLayout &paragraph, const QPrinter &printer)
+{
+    QTextOption option; // with tab stops at Qt's distance
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    option.setTabStopDistance(tabStopInches * printer.resolution());
-    document.setDefaultTextOption(option);
-    document.setDocumentMargin(0); // the printer has its own
-    document.documentLayout()->setPaintDevice(&printer);
-    document.setPageSize(printer.pageRect(QPrinter::DevicePixel).size());
-    document.setPlainText(text);
+    paragraph.setTextOption(option);
+    paragraph.beginLayout();
+    for (QTextLine line = paragraph.createLine(); line.isValid(); line = paragraph.createLine())
+        line.setLineWidth(printer.pageRect(QPrinter::DevicePixel).width());
+    paragraph.endLayout();
+}
+
+void printText(const QString &text, QPrinter &printer)
+{
+    QPainter painter;
+    orPrinterError(painter.begin(&printer));
+    const double bottom = printer.pageRect(QPrinter::DevicePixel).height();
+    double y = 0;
+    for (const QString &paragraphText : text.split(u'\n')) {
+        QTextLayout paragraph(paragraphText, QApplication::font(), &printer);
+        layOut(paragraph, printer);
+        for (int at = 0; at < paragraph.lineCount(); ++at) {
+            const QTextLine line = paragraph.lineAt(at);
+            if (y + line.height() > bottom) {
+                orPrinterError(printer.newPage());
+                y = 0;
+            }
+            line.draw(&painter, QPointF(0, y - line.y()));
+            y += line.height();
+        }
+    }
+    orPrinterError(painter.end());
 }
 
 } // namespace
@@ -60,8 +86,8 @@ void setPrintFile(const QString &file)
 
 void Printer::Print(const QString &text)
 {
-    if (m_text.isEmpty() && !isAtHand())
-        throw runtime::RuntimeError(runtime::PrinterError);
+    if (m_text.isEmpty())
+        orPrinterError(isAtHand());
     m_text += text + u'\n';
 }
 
@@ -70,29 +96,11 @@ void Printer::EndDoc()
     QString text = std::exchange(m_text, {});
     if (text.isEmpty())
         return;
-    if (!isAtHand()) // Qt would print into the void
-        throw runtime::RuntimeError(runtime::PrinterError);
-    text.chop(1); // the last line's end begins no further line
+    orPrinterError(isAtHand()); // Qt would print into the void
+    text.chop(1);               // the last line's end begins no further line
     const std::unique_ptr<QPrinter> printer = openPrinter();
     printer->setDocName(runtime::App::Title());
-    QTextDocument document;
-    layOut(document, text, *printer);
-    QPainter painter;
-    if (!painter.begin(printer.get()))
-        throw runtime::RuntimeError(runtime::PrinterError);
-    const QSizeF page = document.pageSize();
-    QAbstractTextDocumentLayout::PaintContext context;
-    context.palette.setColor(QPalette::Text, Qt::black); // paper is white, whatever the desktop's colours are
-    for (int number = 0; number < document.pageCount(); ++number) {
-        if (number > 0 && !printer->newPage())
-            throw runtime::RuntimeError(runtime::PrinterError);
-        context.clip = QRectF(QPointF(0, number * page.height()), page);
-        painter.resetTransform();
-        painter.translate(-context.clip.topLeft());
-        document.documentLayout()->draw(&painter, context);
-    }
-    if (!painter.end())
-        throw runtime::RuntimeError(runtime::PrinterError);
+    printText(text, *printer);
 }
 
 } // namespace desktop

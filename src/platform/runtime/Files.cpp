@@ -85,6 +85,28 @@ QString Dir()
     return nextName();
 }
 
+qint64 FileLen(const QString &path)
+{
+    const QFileInfo file(nativePath(path));
+    if (!file.isFile())
+        throw RuntimeError(FileNotFound);
+    return file.size();
+}
+
+bool folderExists(const QString &path)
+{
+    return QFileInfo(nativePath(path)).isDir();
+}
+
+void MkDir(const QString &path)
+{
+    const QFileInfo folder(nativePath(path));
+    if (!QFileInfo(folder.path()).isDir())
+        throw RuntimeError(PathNotFound);
+    if (!QDir().mkdir(folder.filePath()))
+        throw RuntimeError(PathFileAccess);
+}
+
 void Kill(const QString &path)
 {
     std::error_code error;

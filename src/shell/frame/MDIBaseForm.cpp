@@ -1,6 +1,8 @@
 #include "shell/frame/MDIBaseForm.h"
 
 #include "dossier/FrmAddEditMember.h"
+#include "events/FrmAddEvent.h"
+#include "events/frmMeeting.h"
 #include "explorers/FrmDataBaseExplorer.h"
 #include "explorers/FrmEventExplorer.h"
 #include "platform/desktop/MsgBox.h"
@@ -83,6 +85,7 @@ void MDIBaseForm::setUpToolbar()
     Toolbar1->addButton(u"Phone"_s, {}, u"Telephone Conference"_s, ImageList1->icon(u"Phone"_s));
     Toolbar1->addButton(u"Find"_s, {}, u"Find"_s, ImageList1->icon(u"Find"_s));
     addToolBar(Toolbar1);
+    desktop::on(Toolbar1, &desktop::Toolbar::ButtonClick, this, &MDIBaseForm::Toolbar1_ButtonClick);
 }
 
 void MDIBaseForm::setUpStatusBar()
@@ -132,6 +135,11 @@ void MDIBaseForm::MnuExplorer_Click()
     });
 }
 
+void MDIBaseForm::mnuNewEvent_Click()
+{
+    desktop::reportOutOfMemoryOnly([] { FrmAddEvent::shared().Show(); });
+}
+
 void MDIBaseForm::mnuEventExplorer_Click()
 {
     desktop::reportOutOfMemoryOnly([] { desktop::showNew<FrmEventExplorer>(); });
@@ -153,4 +161,10 @@ void MDIBaseForm::mnuExit_Click()
 void MDIBaseForm::mnuWhoAmI_Click()
 {
     desktop::MsgBox(UserId());
+}
+
+void MDIBaseForm::Toolbar1_ButtonClick(QAction *button)
+{
+    if (button->objectName() == u"Phone")
+        desktop::showNew<frmMeeting>([](frmMeeting &note) { note.AddView = true; });
 }

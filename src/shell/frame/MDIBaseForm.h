@@ -41,10 +41,12 @@ public:
 
     void MnuNewClient_Click();
     void MnuExplorer_Click();
+    void mnuNewEvent_Click();
     void mnuEventExplorer_Click();
     void mnuDifferentUser_Click();
     void mnuExit_Click();
     void mnuWhoAmI_Click();
+    void Toolbar1_ButtonClick(QAction *button);
 
 protected:
     void Form_Load() override;

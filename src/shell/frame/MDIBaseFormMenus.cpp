@@ -45,7 +45,7 @@ void MDIBaseForm::setUpFileMenu()
     addItem(file, "MnuNewClient", u"New Member"_s, &MDIBaseForm::MnuNewClient_Click);
     addItem(file, "MnuExplorer", u"Member Explorer"_s, &MDIBaseForm::MnuExplorer_Click);
     addSeparator(file, "mnuSep4");
-    addItem(file, "mnuNewEvent", u"New Event"_s);
+    addItem(file, "mnuNewEvent", u"New Event"_s, &MDIBaseForm::mnuNewEvent_Click);
     addItem(file, "mnuEventExplorer", u"Event Explorer"_s, &MDIBaseForm::mnuEventExplorer_Click);
     addSeparator(file, "mnuSep");
     addItem(file, "mnuDifferentUser", u"Login as Different User"_s, &MDIBaseForm::mnuDifferentUser_Click,

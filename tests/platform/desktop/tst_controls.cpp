@@ -1,3 +1,4 @@
+#include "platform/desktop/Calendar.h"
 #include "platform/desktop/ControlArray.h"
 #include "platform/desktop/Controls.h"
 #include "platform/desktop/KeyboardState.h"
@@ -6,8 +7,10 @@
 #include "platform/desktop/Toolbar.h"
 #include "platform/desktop/TreeView.h"
 #include "platform/runtime/Clock.h"
+#include "platform/runtime/Conversion.h"
 
 #include <QSignalSpy>
+#include <QTableView>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -125,6 +128,67 @@ private Q_SLOTS:
         QTest::keyClick(&list, Qt::Key_Up);
         QCOMPARE(list.Text(), u"Ohio"_s);
         QVERIFY(list.viewport()->rect().contains(list.visualItemRect(list.currentItem()).center()));
+    }
+
+    void aPlaceInAListBoxIsSelected()
+    {
+        desktop::ListBox list(nullptr, u"list", {u"one"_s, u"two"_s});
+        QCOMPARE(list.ListIndex(), -1);
+        for (const int outside : {-1, 2})
+            QCOMPARE(errorOf([&] { list.setSelected(outside); }), 380);
+        list.setSelected(1);
+        QCOMPARE(list.ListIndex(), 1);
+        list.show();
+        const QPoint place = list.visualItemRect(list.item(1)).center();
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, place);
+        QCOMPARE(list.Text(), u"two"_s); // a pick is not taken back
+        list.setSelected(1, false);
+        QCOMPARE(list.ListIndex(), -1);
+    }
+
+    // Month, day and year one after another: neither the day before nor a day that is missing on the way bends the
+    // date.
+    void aCalendarIsSetByItsParts_data()
+    {
+        QTest::addColumn<QDate>("before");
+        QTest::addColumn<QDate>("day");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("from the 31st") << QDate(2026, 1, 31) << QDate(2026, 2, 3) << u"2/3/2026"_s;
+        QTest::newRow("to the 31st") << QDate(2026, 2, 28) << QDate(2026, 3, 31) << u"3/31/2026"_s;
+        QTest::newRow("to a leap day") << QDate(2025, 12, 31) << QDate(2024, 2, 29) << u"2/29/2024"_s;
+    }
+    void aCalendarIsSetByItsParts()
+    {
+        QFETCH(QDate, before);
+        QFETCH(QDate, day);
+        QFETCH(QString, text);
+        desktop::Calendar calendar(nullptr, u"calendar");
+        calendar.setSelectedDate(before);
+        calendar.setMonth(day.month());
+        calendar.setDay(day.day());
+        calendar.setYear(day.year());
+        QCOMPARE(runtime::toText(calendar.Value()), text);
+        QCOMPARE(errorOf([&] { calendar.setMonth(13); }), 380);
+        QCOMPARE(errorOf([&] { calendar.setDay(32); }), 380);
+        QCOMPARE(runtime::toText(calendar.Value()), text);
+    }
+
+    void aDayIsChosenByMouseOrByEnter()
+    {
+        desktop::Calendar calendar(nullptr, u"calendar");
+        calendar.setSelectedDate(QDate(2026, 1, 14));
+        calendar.show();
+        auto *days = calendar.findChild<QTableView *>();
+        QSignalSpy clicks(&calendar, &desktop::Calendar::Click);
+        QTest::keyClick(days, Qt::Key_Right);
+        QCOMPARE(clicks.size(), 0); // passing by is no choice
+        QTest::keyClick(days, Qt::Key_Return);
+        QCOMPARE(clicks.size(), 1);
+        QCOMPARE(runtime::toText(calendar.Value()), u"1/15/2026"_s);
+        const QModelIndex below = days->currentIndex().siblingAtRow(days->currentIndex().row() + 1);
+        QTest::mouseClick(days->viewport(), Qt::LeftButton, {}, days->visualRect(below).center());
+        QCOMPARE(clicks.size(), 2);
+        QCOMPARE(runtime::toText(calendar.Value()), u"1/22/2026"_s);
     }
 
     void arrayElementsAreNamedByTheirIndex()

@@ -123,6 +123,43 @@ private Q_SLOTS:
         QTRY_VERIFY(frame.area().subWindowList().isEmpty());
     }
 
+    void aSharedChildComesBackIntoTheFrame()
+    {
+        Frame frame;
+        frame.resize(800, 600);
+        frame.Show();
+        QPointer<Window> shared = new Window(Window::Place::InFrame, true);
+        shared->setSize(4800, 3000);
+        const QStringList entries[] = {{u"&1 design"_s}, {u"No window is open"_s}};
+        const auto listed = [&frame] {
+            Q_EMIT frame.windows->aboutToShow();
+            QStringList texts;
+            for (const QAction *action : frame.windows->actions())
+                texts << action->text();
+            return texts;
+        };
+        for (int round = 0; round < 2; ++round) {
+            shared->Show();
+            QVERIFY(shared->isVisible());
+            QCOMPARE(frame.area().activeSubWindow()->widget(), shared);
+            QCOMPARE(shared->Width(), 4800.0);
+            QCOMPARE(listed(), entries[0]);
+            shared->Unload();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QVERIFY(shared && !shared->isVisible());
+            QCOMPARE(listed(), entries[1]);
+        }
+        shared->Show();
+        frame.area().activeSubWindow()->showMinimized();
+        shared->Show();
+        QVERIFY(shared->isVisible());
+        frame.area().activeSubWindow()->close(); // by its border
+        const QString times(u"load , unload, load , unload, load , unload"_s);
+        QCOMPARE(shared->log.join(u", "_s), times);
+        QVERIFY(frame.close());
+        QCOMPARE(shared->log.join(u", "_s), times);
+    }
+
     void messageBoxes_data()
     {
         QTest::addColumn<int>("style");

@@ -28,6 +28,10 @@ private Q_SLOTS:
     void kills_data();
     void kills();
     void doesNotKillWhereItMayNot();
+    void tellsLengths_data();
+    void tellsLengths();
+    void makesFolders_data();
+    void makesFolders();
 
 private:
     QString inFolder(const QString &path) const { return m_folder->path() + path; }
@@ -166,6 +170,50 @@ void FilesTest::doesNotKillWhereItMayNot()
     }
     QVERIFY(QFile::exists(inFolder(u"/Temp/notes"_s)));
     QVERIFY(QFile::setPermissions(inFolder(u"/Temp"_s), everybodyReads | QFile::WriteOwner));
+}
+
+void FilesTest::tellsLengths_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("outcome");
+
+    QTest::newRow("file in another case") << u"\\TEMP\\letter.doc"_s << u"6"_s;
+    QTest::newRow("empty file") << u"\\Temp\\notes"_s << u"0"_s;
+    QTest::newRow("no such file") << u"\\Temp\\none.doc"_s << u"error 53"_s;
+    QTest::newRow("folder") << u"\\Temp\\Search"_s << u"error 53"_s;
+}
+
+void FilesTest::tellsLengths()
+{
+    QFile letter(inFolder(u"/Temp/Letter.doc"_s));
+    QVERIFY(letter.open(QIODevice::WriteOnly) && letter.write("letter") == 6);
+    letter.close();
+    QFETCH(QString, path);
+    QTEST(outcomeOf([&] { return int(runtime::FileLen(inFolder(path))); }), "outcome");
+}
+
+void FilesTest::makesFolders_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("outcome");
+    QTest::addColumn<bool>("stands"); // afterwards
+
+    QTest::newRow("new") << u"\\temp\\New"_s << u"made"_s << true;
+    QTest::newRow("folder in another case") << u"\\temp\\SEARCH"_s << u"error 75"_s << true;
+    QTest::newRow("name of a file") << u"\\temp\\Notes"_s << u"error 75"_s << false;
+    QTest::newRow("in no folder") << u"\\none\\New"_s << u"error 76"_s << false;
+    QTest::newRow("in a file") << u"\\temp\\notes\\New"_s << u"error 76"_s << false;
+}
+
+void FilesTest::makesFolders()
+{
+    QFETCH(QString, path);
+    QTEST(outcomeOf([&] {
+              runtime::MkDir(inFolder(path));
+              return u"made"_s;
+          }),
+          "outcome");
+    QTEST(runtime::folderExists(inFolder(path)), "stands");
 }
 
 QTEST_APPLESS_MAIN(FilesTest)

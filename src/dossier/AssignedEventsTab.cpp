@@ -1,0 +1,174 @@
+#include "dossier/AssignedEventsTab.h"
+
+#include "dossier/RowDeletion.h"
+#include "dossier/RowTexts.h"
+#include "platform/desktop/ErrorReport.h"
+#include "platform/desktop/MsgBox.h"
+#include "shell/CLsDataBaseConnection.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+using desktop::CommandButton;
+using desktop::Label;
+using desktop::ListBox;
+using desktop::TextBox;
+
+AssignedEventsTab::AssignedEventsTab(QWidget *parent, Dossier &dossier)
+    : Frame(parent, u"Frame7", u"Member's Events"_s), lstEvent(new desktop::ListView(this, u"lstEvent")),
+      butAssignEvent(new CommandButton(this, u"butAssignEvent", u"Assign an Event"_s)),
+      lblEventSelect(new Label(this, u"lblEventSelect", u"Event"_s)),
+      lstEventSelect(new ListBox(this, u"lstEventSelect")), lstEventSelectId(new ListBox(this, u"lstEventSelectId")),
+      lblEventActualTimeStarted(new Label(this, u"lblEventActualTimeStarted", u"Actual Time Started"_s)),
+      txtEventActualTimeStarted(new TextBox(this, u"txtEventActualTimeStarted")),
+      lblEventActualTimeFinished(new Label(this, u"lblEventActualTimeFinished", u"Actual Time FInished"_s)),
+      txtEventActualTimeFinished(new TextBox(this, u"txtEventActualTimeFinished")),
+      LblEventActualDate(new Label(this, u"LblEventActualDate", u"Actual Date"_s)),
+      txtEventActualDate(new TextBox(this, u"txtEventActualDate")),
+      lblEventComments(new Label(this, u"lblEventComments", u"Comments"_s)),
+      txtEventComments(new TextBox(this, u"txtEventComments")),
+      CmdEventSave(new CommandButton(this, u"CmdEventSave", u"Save"_s)),
+      cmdEventCancel(new CommandButton(this, u"cmdEventCancel", u"Cancel"_s)),
+      butCloseEvent(new CommandButton(this, u"butCloseEvent", u"Close"_s)),
+      mnuEventsOptions(new desktop::PopupMenu(this, u"mnuEventsOptions", u"Event Options"_s)), m_dossier(dossier),
+      m_area(*this, *lstEvent)
+{
+    setUpContent();
+    setUpMenu();
+    using desktop::on;
+    on(butAssignEvent, &QPushButton::clicked, this, &AssignedEventsTab::butAssignEvent_Click);
+    on(CmdEventSave, &QPushButton::clicked, this, &AssignedEventsTab::CmdEventSave_Click);
+    on(cmdEventCancel, &QPushButton::clicked, this, &AssignedEventsTab::cmdEventCancel_Click);
+}
+
+void AssignedEventsTab::setUpContent()
+{
+    lstEvent->setAccessibleName(u"Assigned events"_s);
+    for (const QString &header : {u"Event Id"_s, u"Event Name"_s, u"Acutal Time Started"_s, u"Actual Time Finished"_s,
+                                  u"Actual Date"_s, u"Event Comment"_s})
+        lstEvent->ColumnHeaders.Add(header);
+    for (int column : {2, 3, 4})
+        lstEvent->ColumnHeaders.setWidth(column, 2100);
+    m_area.addButtonsBelowList({butAssignEvent});
+    m_area.addRow(*lblEventSelect, *lstEventSelect, EntryArea::Lines::Several);
+    m_area.addUnderLastBox(*lstEventSelectId);
+    m_area.addRow(*lblEventActualTimeStarted, *txtEventActualTimeStarted);
+    m_area.addRow(*lblEventActualTimeFinished, *txtEventActualTimeFinished);
+    m_area.addRow(*LblEventActualDate, *txtEventActualDate);
+    m_area.addRow(*lblEventComments, *txtEventComments);
+    m_area.addButtons({CmdEventSave, cmdEventCancel}, *butCloseEvent);
+    m_area.beginBrowsing();
+    lblEventActualTimeFinished->show(); // this one shows until the first entry has ended
+}
+
+void AssignedEventsTab::setUpMenu()
+{
+    QAction *edit = mnuEventsOptions->addItem(u"mnuEditEvent", u"Edit"_s);
+    mnuEventsOptions->addLine(u"mnu1");
+    QAction *remove = mnuEventsOptions->addItem(u"mnuDeleteEvent", u"Delete"_s);
+    desktop::on(edit, &QAction::triggered, this, &AssignedEventsTab::mnuEditEvent_Click);
+    desktop::on(remove, &QAction::triggered, this, &AssignedEventsTab::mnuDeleteEvent_Click);
+    mnuEventsOptions->popUpOver(*lstEvent);
+}
+
+void AssignedEventsTab::loadEventChoices()
+{
+    CLsDataBaseConnection store;
+    data::Recordset events = store.CreateRecordset(u"SELECT * FROM EventInformation"_s);
+    lstEventSelect->clear();
+    lstEventSelectId->clear();
+    for (; !events.Eof(); events.MoveNext()) {
+        lstEventSelect->addItem(runtime::toText(events[u"EventName"].Value()));
+        lstEventSelectId->addItem(runtime::toText(events[u"EventIdentification"].Value()));
+    }
+    events.Close();
+    store.DbClose();
+}
+
+void AssignedEventsTab::loadAssignedEvents()
+{
+    CLsDataBaseConnection store;
+    data::Recordset events =
+        store.CreateRecordset(u"SELECT * FROM EventMemberInfo WHERE(MemberId="_s + m_dossier.member() + u")"_s);
+    lstEvent->setEnabled(true);
+    lstEvent->ListItems.Clear();
+    addItems(*lstEvent, events, [](desktop::ListItem &item, data::Recordset &event) {
+        putSubItem(item, 0, event[u"EventMemberInfoId"]);
+        item.Tag = item.Text();
+        putSubItem(item, 1, event[u"EventName"]);
+        putSubItem(item, 2, event[u"EventActualStartTime"]);
+        putSubItem(item, 3, event[u"EventActualEndTime"]);
+        putSubItem(item, 4, event[u"EventActualDate"]);
+        putSubItem(item, 5, event[u"EventComments"]);
+    });
+    events.Close();
+    store.DbClose();
+}
+
+void AssignedEventsTab::butAssignEvent_Click()
+{
+    m_area.enter();
+}
+
+// Start and date change places on their way into the boxes; that is how the window is known. Who saves without changing
+// them back has them exchanged in the row.
+void AssignedEventsTab::mnuEditEvent_Click()
+{
+    const desktop::ListItem &item = *lstEvent->SelectedItem();
+    lstEventSelect->setText(item.SubItems(1));
+    txtEventActualDate->setText(item.SubItems(2));
+    txtEventActualTimeFinished->setText(item.SubItems(3));
+    txtEventActualTimeStarted->setText(item.SubItems(4));
+    txtEventComments->setText(item.SubItems(5));
+    m_area.enter();
+    CmdEventSave->Tag = item.Tag;
+}
+
+QString AssignedEventsTab::updateStatement(const QString &key) const
+{
+    return u"UPDATE EventMemberInfo SET EventName = '"_s + lstEventSelect->Text() + u"', EventActualStartTime = '"_s +
+           txtEventActualTimeStarted->text() + u"', EventActualEndTime = '"_s + txtEventActualTimeFinished->text() +
+           u"',"_s + u" EventActualDate = '"_s + txtEventActualDate->text() + u"', EventComments = '"_s +
+           txtEventComments->text() + u"' WHERE (EventMemberInfoId ="_s + key + u");"_s;
+}
+
+QString AssignedEventsTab::insertStatement() const
+{
+    return u"INSERT INTO EventMemberInfo (MemberId, EventName, "_s + u" EventActualStartTime, EventActualEndTime, "_s +
+           u" EventActualDate, EventComments) values ("_s + m_dossier.member() + u",'"_s + lstEventSelect->Text() +
+           u"','"_s + txtEventActualTimeStarted->text() + u"','"_s + txtEventActualTimeFinished->text() + u"','"_s +
+           txtEventActualDate->text() + u"','"_s + txtEventComments->text() + u"')"_s;
+}
+
+void AssignedEventsTab::CmdEventSave_Click()
+{
+    if (lstEventSelect->Text().isEmpty()) {
+        desktop::MsgBox(u"Invalid event name"_s, desktop::vbCritical, u"Tolmark"_s);
+        return;
+    }
+    const QString key = std::exchange(CmdEventSave->Tag, {});
+    m_dossier.run(key.isEmpty() ? insertStatement() : updateStatement(key));
+    browse();
+    loadAssignedEvents();
+}
+
+void AssignedEventsTab::cmdEventCancel_Click()
+{
+    browse();
+    CmdEventSave->Tag.clear();
+}
+
+void AssignedEventsTab::browse()
+{
+    for (TextBox *box : {txtEventActualTimeStarted, txtEventActualTimeFinished, txtEventActualDate, txtEventComments})
+        box->clear();
+    m_area.browse();
+}
+
+void AssignedEventsTab::mnuDeleteEvent_Click()
+{
+    deleteSelectedRow(m_dossier, *lstEvent,
+                      {u"Warning you are about to delete the selected event",
+                       u"DELETE EventMemberInfoId FROM EventMemberInfo WHERE (EventMemberInfoId =", u"Event deleted",
+                       RowDeletion::Order::MessageThenRefresh},
+                      [this] { loadAssignedEvents(); });
+}

@@ -1,0 +1,240 @@
+#include "dossier/AttachmentsTab.h"
+
+#include "dossier/RowDeletion.h"
+#include "dossier/RowTexts.h"
+#include "library/StoredFile.h"
+#include "platform/desktop/ErrorReport.h"
+#include "platform/desktop/Launch.h"
+#include "platform/desktop/MsgBox.h"
+#include "platform/runtime/Application.h"
+#include "platform/runtime/ErrorHandling.h"
+#include "platform/runtime/Files.h"
+#include "shell/CLsDataBaseConnection.h"
+#include "shell/DataStore.h"
+
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+using desktop::CommandButton;
+using runtime::Value;
+
+namespace {
+
+constexpr int columnWidth = 200; // logical pixels
+
+void openStore(data::Connection &connection)
+{
+    connection.Open(dataStoreConnectionString(), {}, {}, data::adOptionUnspecified);
+}
+
+data::Recordset rowsOf(data::Connection &connection, const QString &statement)
+{
+    data::Recordset rows;
+    rows.Open(statement, connection, data::adOpenStatic, data::adLockOptimistic);
+    return rows;
+}
+
+// The rows are those of one name, the newest version first. Error 6 behind version 32767.
+Value nextVersion(data::Recordset &versions)
+{
+    if (versions.Eof())
+        return Value(qint16(1));
+    const Value newest = versions[u"AttachmentVersion"].Value();
+    return newest.isNull() ? Value() : Value(runtime::toInteger(Value(runtime::toLong(newest) + 1)));
+}
+
+} // namespace
+
+AttachmentsTab::AttachmentsTab(QWidget *parent, Dossier &dossier, desktop::CommonDialog &dialog)
+    : Frame(parent, u"Frame4", u"Member's Attachments"_s),
+      lstAttachement(new desktop::ListView(this, u"lstAttachement")),
+      Check1(new desktop::CheckBox(this, u"Check1", u"Show current version only"_s)),
+      butAddAttachement(new CommandButton(this, u"butAddAttachement", u"Add Attachment"_s)),
+      butCLoseAttachment(new CommandButton(this, u"butCLoseAttachment", u"Close"_s)),
+      MnuViewOptions(new desktop::PopupMenu(this, u"MnuViewOptions", u"View Options"_s)), m_dossier(dossier),
+      CommonDialog1(dialog)
+{
+    setUpContent();
+    setUpMenu();
+    using desktop::on;
+    on(Check1, &QCheckBox::clicked, this, &AttachmentsTab::Check1_Click);
+    on(butAddAttachement, &QPushButton::clicked, this, &AttachmentsTab::butAddAttachement_Click);
+    on(lstAttachement, &desktop::ListView::OLEDragDrop, this, &AttachmentsTab::lstAttachement_OLEDragDrop);
+}
+
+void AttachmentsTab::setUpContent()
+{
+    lstAttachement->setAccessibleName(u"Attachments"_s);
+    lstAttachement->setTakesDrops();
+    lstAttachement->header()->setDefaultSectionSize(columnWidth);
+    Check1->setChecked(true);
+    auto *whole = new QVBoxLayout(this);
+    whole->addWidget(lstAttachement);
+    whole->addWidget(Check1);
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(butAddAttachement);
+    buttons->addStretch();
+    buttons->addWidget(butCLoseAttachment);
+    whole->addLayout(buttons);
+}
+
+void AttachmentsTab::setUpMenu()
+{
+    QAction *saveAs = MnuViewOptions->addItem(u"MnuSaveAs", u"Save As"_s);
+    MnuViewOptions->addLine(u"mnuSep2");
+    QAction *view = MnuViewOptions->addItem(u"MnuView", u"View"_s);
+    QAction *remove = MnuViewOptions->addItem(u"MnuDeleteAttachment", u"Delete Attachment"_s);
+    desktop::on(saveAs, &QAction::triggered, this, &AttachmentsTab::MnuSaveAs_Click);
+    desktop::on(view, &QAction::triggered, this, &AttachmentsTab::MnuView_Click);
+    desktop::on(remove, &QAction::triggered, this, &AttachmentsTab::MnuDeleteAttachment_Click);
+    MnuViewOptions->popUpOver(*lstAttachement);
+}
+
+QString AttachmentsTab::listStatement() const
+{
+    if (Check1->Value() == 0)
+        return u"select * from Attachments where MemberId="_s + m_dossier.member() +
+               u" ORDER BY Attachments.AttachmentsName, Attachments.AttachmentVersion DESC;"_s;
+    return u"SELECT Attachments.AttachmentsName, Max(Attachments.AttachmentsDate) AS AttachmentsDate, "
+           "Max([Attachments].[attachmentVersion]) AS AttachmentVersion, "
+           "Max(Attachments.AttachmentsId) AS AttachmentsId "
+           " From Attachments "
+           " where MemberId="_s +
+           m_dossier.member() +
+           u" GROUP BY Attachments.AttachmentsName "
+           " ORDER BY Attachments.AttachmentsName Desc"_s;
+}
+
+void AttachmentsTab::load()
+{
+    CLsDataBaseConnection store;
+    data::Recordset attachments = store.CreateRecordset(listStatement());
+    lstAttachement->setEnabled(true);
+    lstAttachement->ListItems.Clear();
+    lstAttachement->ColumnHeaders.Clear();
+    for (const QString &header : {u"Attachment Name"_s, u"Date Added"_s, u"Version Number"_s})
+        lstAttachement->ColumnHeaders.Add(header);
+    addItems(*lstAttachement, attachments, [](desktop::ListItem &item, data::Recordset &attachment) {
+        const Value name = attachment[u"AttachmentsName"].Value();
+        if (!name.isNull()) {
+            item.setText(runtime::toText(name));
+            item.Tag = runtime::joinedText(attachment[u"AttachmentsId"].Value());
+        }
+        putSubItem(item, 1, attachment[u"AttachmentsDate"]);
+        putSubItem(item, 2, attachment[u"AttachmentVersion"]);
+    });
+    attachments.Close();
+    store.DbClose();
+}
+
+void AttachmentsTab::Check1_Click()
+{
+    load();
+}
+
+void AttachmentsTab::butAddAttachement_Click()
+{
+    data::Connection connection;
+    openStore(connection);
+    data::Recordset attachments = rowsOf(connection, u"select * from Attachments"_s);
+    CommonDialog1.DialogTitle = u"OPEN FILE"_s;
+    CommonDialog1.Filter = u"All files (*.*)|*.*|DOC files (*.doc)|*.doc|PDF files (*.pdf)|*.pdf"_s;
+    if (!CommonDialog1.ShowOpen()) {
+        connection.Close();
+        return;
+    }
+    addFile(connection, attachments, CommonDialog1.FileName, CommonDialog1.FileTitle);
+    desktop::MsgBox(u"Attachment successfully uploaded"_s, desktop::vbInformation);
+    load();
+}
+
+void AttachmentsTab::addFile(data::Connection &connection, data::Recordset &attachments, const QString &path,
+                             const QString &name)
+{
+    attachments.AddNew();
+    data::Recordset versions = rowsOf(connection, u"select * from Attachments where AttachmentsName = '"_s + name +
+                                                      u"' ORDER BY AttachmentVersion desc"_s);
+    FileToStore file(path);
+    attachments[u"MemberId"].setValue(Value(m_dossier.MemberId));
+    attachments[u"AttachmentsName"].setValue(name);
+    attachments[u"Attachments"].AppendChunk(file.bytes());
+    attachments[u"AttachmentVersion"].setValue(nextVersion(versions));
+    attachments.Update();
+    file.close();
+}
+
+void AttachmentsTab::addDropped(const desktop::DataObject &dropped)
+{
+    data::Connection connection;
+    openStore(connection);
+    data::Recordset attachments = rowsOf(connection, u"select * from Attachments"_s);
+    for (const QString &path : dropped.Files())
+        addFile(connection, attachments, path, QFileInfo(path).fileName());
+    connection.Close();
+    load();
+}
+
+void AttachmentsTab::lstAttachement_OLEDragDrop(const desktop::DataObject &dropped)
+{
+    if (runtime::endSilently([this, &dropped] { addDropped(dropped); }))
+        return;
+    load();
+    desktop::MsgBox(u"Currently you can't drag and drop straight from that application\r\n"
+                    "Try dragging and dropping from the desktop then to Brenlow Premium."_s,
+                    desktop::vbInformation);
+}
+
+data::Recordset AttachmentsTab::selectedRow(data::Connection &connection) const
+{
+    openStore(connection);
+    const desktop::ListItem &item = *lstAttachement->SelectedItem();
+    return rowsOf(connection, u"select * from Attachments where AttachmentVersion = "_s + item.SubItems(2) +
+                                  u" and AttachmentsName = '"_s + item.Text() + u"' and MemberId ="_s +
+                                  m_dossier.member());
+}
+
+// The copy stays where it is until the main window closes; two versions of a name share its place.
+void AttachmentsTab::MnuView_Click()
+{
+    data::Connection connection;
+    data::Recordset attachment = selectedRow(connection);
+    const QString name = lstAttachement->SelectedItem()->Text();
+    if (!runtime::folderExists(runtime::App::Path() + u"\\temp"_s))
+        runtime::MkDir(runtime::App::Path() + u"\\Temp"_s);
+    const QString path = temporaryPath(name);
+    fetchInto(attachment[u"Attachments"], path);
+    connection.Close();
+    desktop::ShellExecute(path);
+}
+
+void AttachmentsTab::MnuSaveAs_Click()
+{
+    runtime::endSilently([this] { saveSelected(); });
+}
+
+void AttachmentsTab::saveSelected()
+{
+    data::Connection connection;
+    data::Recordset attachment = selectedRow(connection);
+    CommonDialog1.FileName = runtime::toText(attachment[u"AttachmentsName"].Value());
+    if (CommonDialog1.ShowSave())
+        fetchInto(attachment[u"Attachments"], CommonDialog1.FileName);
+    connection.Close();
+}
+
+void AttachmentsTab::MnuDeleteAttachment_Click()
+{
+    const bool succeeded = runtime::endSilently([this] {
+        deleteSelectedRow(m_dossier, *lstAttachement,
+                          {u"Warning you are about to delete the selected file",
+                           u"DELETE Attachments.AttachmentsId FROM Attachments WHERE (AttachmentsId =",
+                           u"Attachment deleted", RowDeletion::Order::MessageThenRefresh},
+                          [this] { load(); });
+    });
+    if (!succeeded)
+        desktop::MsgBox(u"Nothing selected"_s, desktop::vbInformation);
+}

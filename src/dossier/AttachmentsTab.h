@@ -1,0 +1,45 @@
+// The member's files, kept in the data store. Every upload is a row of its own with the next version of the file's
+// name; the numbering of a name is common to all members. An older version stays until it is deleted by itself.
+//
+// Adding, listing and viewing let a failure end the program; what fails in a drop gives a message, in saving nothing.
+#pragma once
+
+#include "dossier/Dossier.h"
+#include "platform/desktop/CommonDialog.h"
+#include "platform/desktop/Controls.h"
+#include "platform/desktop/PopupMenu.h"
+
+class AttachmentsTab : public desktop::Frame
+{
+    Q_OBJECT
+public:
+    AttachmentsTab(QWidget *parent, Dossier &dossier, desktop::CommonDialog &dialog);
+
+    desktop::ListView *lstAttachement;
+    desktop::CheckBox *Check1;
+    desktop::CommandButton *butAddAttachement;
+    desktop::CommandButton *butCLoseAttachment;
+    desktop::PopupMenu *MnuViewOptions;
+
+    // With Check1 one line for each name: the highest version, the latest day and the highest key, each by itself.
+    void load();
+    void Check1_Click();
+    void butAddAttachement_Click();
+    void lstAttachement_OLEDragDrop(const desktop::DataObject &dropped);
+    void MnuSaveAs_Click();
+    void MnuView_Click();
+    void MnuDeleteAttachment_Click();
+
+private:
+    void setUpContent();
+    void setUpMenu();
+    QString listStatement() const;
+    void addDropped(const desktop::DataObject &dropped);
+    void addFile(data::Connection &connection, data::Recordset &attachments, const QString &path, const QString &name);
+    // The row of the selected line, found by its version, name and member.
+    data::Recordset selectedRow(data::Connection &connection) const;
+    void saveSelected();
+
+    Dossier &m_dossier;
+    desktop::CommonDialog &CommonDialog1;
+};

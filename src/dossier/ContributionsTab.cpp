@@ -1,0 +1,116 @@
+#include "dossier/ContributionsTab.h"
+
+#include "dossier/RowDeletion.h"
+#include "dossier/RowTexts.h"
+#include "platform/desktop/ErrorReport.h"
+#include "platform/desktop/MsgBox.h"
+#include "platform/runtime/Format.h"
+#include "platform/runtime/NumberText.h"
+#include "shell/CLsDataBaseConnection.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+using desktop::CommandButton;
+using desktop::Label;
+using runtime::Value;
+
+ContributionsTab::ContributionsTab(QWidget *parent, Dossier &dossier)
+    : Frame(parent, u"Frame5", u"Member's Contribution"_s),
+      lstContributions(new desktop::ListView(this, u"lstContributions")),
+      butAddContributions(new CommandButton(this, u"butAddContributions", u"Add Contribution"_s)),
+      lblCOntribution(new Label(this, u"lblCOntribution", u"Contribution"_s)),
+      txtContribution(new desktop::TextBox(this, u"txtContribution")),
+      lblContributionNote(new Label(this, u"lblContributionNote", u"Note"_s)),
+      txtContributionNote(new desktop::MultilineTextBox(this, u"txtContributionNote")),
+      cmdSaveContribution(new CommandButton(this, u"cmdSaveContribution", u"Save"_s)),
+      CmdCancelContribution(new CommandButton(this, u"CmdCancelContribution", u"Cancel"_s)),
+      butCloseContributions(new CommandButton(this, u"butCloseContributions", u"Close"_s)),
+      mnuContributions(new desktop::PopupMenu(this, u"mnuContributions", u"Contributions Options"_s)),
+      m_dossier(dossier), m_area(*this, *lstContributions)
+{
+    setUpContent();
+    QAction *remove = mnuContributions->addItem(u"mnuDeleteContribution", u"Delete Contribution"_s);
+    mnuContributions->popUpOver(*lstContributions);
+    using desktop::on;
+    on(remove, &QAction::triggered, this, &ContributionsTab::mnuDeleteContribution_Click);
+    on(butAddContributions, &QPushButton::clicked, this, &ContributionsTab::butAddContributions_Click);
+    on(CmdCancelContribution, &QPushButton::clicked, this, &ContributionsTab::CmdCancelContribution_Click);
+    on(cmdSaveContribution, &QPushButton::clicked, this, &ContributionsTab::cmdSaveContribution_Click);
+}
+
+void ContributionsTab::setUpContent()
+{
+    lstContributions->setAccessibleName(u"Contributions"_s);
+    lstContributions->ColumnHeaders.Add(u"Contribution Date"_s);
+    lstContributions->ColumnHeaders.Add(u"Contribution Amount"_s);
+    lstContributions->ColumnHeaders.Add(u"Contribution Note"_s);
+    lstContributions->ColumnHeaders.setWidth(1, 2400);
+    lstContributions->ColumnHeaders.setWidth(2, 2400);
+    m_area.addButtonsBelowList({butAddContributions});
+    m_area.addRow(*lblCOntribution, *txtContribution);
+    m_area.addRow(*lblContributionNote, *txtContributionNote, EntryArea::Lines::Several);
+    m_area.addButtons({cmdSaveContribution, CmdCancelContribution}, *butCloseContributions);
+    m_area.beginBrowsing();
+}
+
+void ContributionsTab::load()
+{
+    CLsDataBaseConnection store;
+    data::Recordset contributions =
+        store.CreateRecordset(u"SELECT * FROM Contributions WHERE (MemberId ="_s + m_dossier.member() + u")"_s);
+    lstContributions->ListItems.Clear();
+    addItems(*lstContributions, contributions, [](desktop::ListItem &item, data::Recordset &contribution) {
+        const Value date = contribution[u"ContributionDate"].Value();
+        if (!date.isNull()) {
+            item.setText(runtime::toText(date));
+            item.Tag = runtime::joinedText(contribution[u"ContributionId"].Value());
+        }
+        const Value amount = contribution[u"ContributionAmount"].Value();
+        if (!amount.isNull())
+            item.setSubItem(1, runtime::FormatCurrency(amount));
+        putSubItem(item, 2, contribution[u"ContributionNotes"]);
+    });
+    contributions.Close();
+    store.DbClose();
+}
+
+void ContributionsTab::butAddContributions_Click()
+{
+    m_area.enter();
+}
+
+void ContributionsTab::CmdCancelContribution_Click()
+{
+    m_area.browse();
+}
+
+void ContributionsTab::cmdSaveContribution_Click()
+{
+    if (txtContribution->text().isEmpty()) {
+        desktop::MsgBox(u"Invalid contribution"_s, desktop::vbCritical, u"Tolmark"_s);
+        return;
+    }
+    if (!runtime::IsNumeric(Value(txtContribution->text()))) {
+        desktop::MsgBox(u"Invalid contribution amount"_s, desktop::vbCritical, u"Tolmark"_s);
+        return;
+    }
+    if (const QString key = std::exchange(cmdSaveContribution->Tag, {}); !key.isEmpty())
+        m_dossier.run(u"UPDATE Contributions SET Contributions.ContributionAmount = '"_s + txtContribution->text() +
+                      u"', Contributions.ContributionNotes = '"_s + txtContributionNote->text() +
+                      u"' WHERE (Contributions.ContributionId ="_s + key + u");"_s);
+    else
+        m_dossier.run(u"INSERT INTO Contributions (ContributionAmount, ContributionNotes, MemberId) values ('"_s +
+                      txtContribution->text() + u"','"_s + txtContributionNote->text() + u"',"_s + m_dossier.member() +
+                      u")"_s);
+    m_area.browse();
+    load();
+}
+
+void ContributionsTab::mnuDeleteContribution_Click()
+{
+    deleteSelectedRow(m_dossier, *lstContributions,
+                      {u"Warning you are about to delete the selected contribution",
+                       u"DELETE * FROM contributions WHERE (ContributionId =", u"Contribution deleted",
+                       RowDeletion::Order::RefreshThenMessage},
+                      [this] { load(); });
+}

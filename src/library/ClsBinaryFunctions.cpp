@@ -1,0 +1,188 @@
+#include "library/ClsBinaryFunctions.h"
+
+#include "library/StoredFile.h"
+#include "platform/data/Constants.h"
+#include "platform/data/DataFactory.h"
+#include "platform/desktop/ListView.h"
+#include "platform/runtime/BinaryFile.h"
+#include "platform/runtime/Conversion.h"
+#include "platform/runtime/ErrorHandling.h"
+#include "platform/runtime/Files.h"
+#include "shell/CLsDataBaseConnection.h"
+#include "shell/DataStore.h"
+
+using namespace Qt::Literals::StringLiterals;
+using runtime::Value;
+
+namespace {
+
+// UpLoadBinary looks for versions in a data file of its own, whatever the application folder is.
+qint16 nextVersionOf(const QString &fileName)
+{
+    data::Connection connection;
+    connection.Open(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=C:\\Documents and Settings\\Pell\\Desktop\\Norlund\\"
+                    u"BusinessPlan\\Tolmark.mdb;"_s,
+                    {}, {}, data::adOptionUnspecified);
+    data::Recordset versions;
+    versions.Open(u"select * from Attachments where AttachmentsName = '"_s + fileName +
+                      u"' ORDER BY AttachmentVersion desc"_s,
+                  connection, data::adOpenStatic, data::adLockOptimistic);
+    const qint16 version = runtime::toInteger(Value(versions.RecordCount() + 1));
+    versions.Close();
+    connection.Close();
+    return version;
+}
+
+QString withoutBlanks(QStringView text)
+{
+    while (text.startsWith(u' '))
+        text = text.sliced(1);
+    while (text.endsWith(u' '))
+        text.chop(1);
+    return text.toString();
+}
+
+QString selectedText(const desktop::ListView *list)
+{
+    if (!list)
+        throw runtime::RuntimeError(runtime::ObjectRequired);
+    return list->SelectedItem()->Text();
+}
+
+} // namespace
+
+bool ClsBinaryFunctions::UpLoadBinary(const QString &FileName, const QString &FileLocation, data::Recordset &rsUpLoad,
+                                      bool VersionControl, const QString &PersonalInformationId,
+                                      const QString &FileDescription)
+{
+    return runtime::endSilently([&] {
+        const qint16 version = VersionControl ? nextVersionOf(FileName) : qint16(0);
+        rsUpLoad.AddNew();
+        const FileToStore file(FileLocation);
+        rsUpLoad[u"PersonalInformationId"].setValue(PersonalInformationId);
+        rsUpLoad[u"AttachmentsName"].setValue(FileName);
+        rsUpLoad[u"Attachments"].AppendChunk(file.bytes());
+        rsUpLoad[u"AttachmentVersion"].setValue(Value(version));
+        rsUpLoad[u"AttachmentDescription"].setValue(FileDescription);
+        rsUpLoad.Update();
+        file.close();
+    });
+}
+
+bool ClsBinaryFunctions::DownLoadDoc(data::Recordset &rsDownLoad, const QString &FilePath)
+{
+    return runtime::endSilently([&] { fetchInto(rsDownLoad[u"Attachments"], FilePath); });
+}
+
+void ClsBinaryFunctions::ViewDocument(const QString &AttachmentsId)
+{
+    data::Connection connection;
+    connection.Open(dataStoreConnectionString(), {}, {}, data::adOptionUnspecified);
+    data::Recordset attachment;
+    attachment.Open(u"select * from Attachments where AttachmentsId = "_s + AttachmentsId, connection,
+                    data::adOpenStatic, data::adLockOptimistic);
+    const desktop::ListView *const list = nullptr; // the windows have one; this class never got any
+    ViewPath = temporaryPath(selectedText(list));
+    fetchInto(attachment[u"Attachments"], ViewPath);
+    connection.Close();
+}
+
+data::Recordset ClsBinaryFunctions::cmdOpendb(const QString &SearchString, const QString &SelectStatement)
+{
+    data::Recordset hits = data::DataFactory().CreateRecordset({{u"DocumentId"_s, data::adInteger, -1, false},
+                                                                {u"DocumentName"_s, data::adChar, 255, true},
+                                                                {u"Version"_s, data::adInteger, -1, true}});
+    CLsDataBaseConnection connection;
+    data::Recordset attachments = connection.CreateRecordset(SelectStatement);
+    Text2Text = SearchString;
+    Check1Value = 0;
+    m_hitNames.clear();
+    m_hitCount = 0;
+    for (; !attachments.Eof(); attachments.MoveNext()) {
+        const QString path = scanPath(runtime::joinedText(attachments[u"AttachmentsName"].Value()));
+        fetchInto(attachments[u"Attachments"], path);
+        sFile = path;
+        if (ScanFile())
+            addHit(hits, attachments);
+        runtime::CloseFile(FileHandle);
+        runtime::Kill(sFile);
+    }
+    return hits;
+}
+
+void ClsBinaryFunctions::addHit(data::Recordset &hits, data::Recordset &attachments)
+{
+    m_hitNames << runtime::toText(attachments[u"AttachmentsName"].Value());
+    m_hitCount = runtime::toInteger(Value(m_hitCount + 1));
+    hits.AddNew();
+    hits.Fields(0).setValue(attachments[u"AttachmentsId"].Value());
+    hits.Fields(1).setValue(attachments[u"AttachmentsName"].Value());
+    hits.Fields(2).setValue(attachments[u"AttachmentVersion"].Value());
+    hits.Update();
+}
+
+bool ClsBinaryFunctions::ScanFile()
+{
+    FileLength = qint32(runtime::FileLen(sFile));
+    MatchPosition = -1;
+    FileHandle = runtime::FreeFile();
+    runtime::OpenBinary(sFile, FileHandle, runtime::BinaryAccess::Read);
+    ReadPosition = 0;
+    PrepareSearchText();
+    if (Check1Value == 1)
+        ScanExactCase();
+    else
+        ScanAnyCase();
+    return Found == -1;
+}
+
+void ClsBinaryFunctions::PrepareSearchText()
+{
+    Pattern = withoutBlanks(Text2Text);
+    PatternLength = runtime::toInteger(Value(qint32(Pattern.size())));
+    if (Pattern.endsWith(u'"') && Pattern.startsWith(u'"') && PatternLength > 2) {
+        Pattern = Pattern.sliced(1).chopped(1);
+        PatternLength = qint16(PatternLength - 2);
+    }
+    if (Check1Value == 0)
+        Pattern = runtime::ansiUpperCase(Pattern);
+}
+
+void ClsBinaryFunctions::ScanExactCase()
+{
+    scan(runtime::ansiCharacters());
+}
+
+void ClsBinaryFunctions::ScanAnyCase()
+{
+    scan(runtime::ansiUpperCaseCharacters());
+}
+
+// An attempt begins with the byte behind the last one that was read: the one that ended a failed attempt is gone. None
+// begins where the pattern would take the file's last byte.
+void ClsBinaryFunctions::scan(const runtime::CodePage &characters)
+{
+    runtime::BinaryFile &file = runtime::openFile(FileHandle);
+    const QStringView pattern = Pattern;
+    char byte = 0;
+    Found = 0;
+    while (ReadPosition < FileLength - PatternLength) {
+        PatternCursor = 0;
+        PatternIndex = 1;
+        for (; PatternIndex <= PatternLength; ++PatternIndex) {
+            file.get(++ReadPosition, byte);
+            OneChar = characters[uchar(byte)];
+            ++PatternCursor;
+            // From PatternCursor on, the character is found first at PatternIndex exactly when it stands there.
+            if (pattern[PatternCursor - 1] != OneChar)
+                break;
+        }
+        if (PatternIndex > PatternLength) {
+            Found = -1;
+            ReadPosition -= PatternLength;
+            MatchPosition = ReadPosition;
+            return;
+        }
+    }
+    MatchPosition = -1;
+}

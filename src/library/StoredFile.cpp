@@ -1,0 +1,40 @@
+#include "library/StoredFile.h"
+
+#include "platform/runtime/Application.h"
+#include "platform/runtime/BinaryFile.h"
+#include "platform/runtime/RuntimeError.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+FileToStore::FileToStore(const QString &path) : m_handle(runtime::FreeFile())
+{
+    runtime::OpenBinary(path, m_handle, runtime::BinaryAccess::Read);
+    m_bytes = QByteArray(runtime::LOF(m_handle) + 1, '\0');
+    runtime::Get(m_handle, 1, m_bytes);
+}
+
+void FileToStore::close() const
+{
+    runtime::CloseFile(m_handle);
+}
+
+void fetchInto(data::Field field, const QString &path)
+{
+    const qint16 handle = runtime::FreeFile();
+    runtime::OpenBinary(path, handle, runtime::BinaryAccess::ReadWrite);
+    const runtime::Value chunk = field.GetChunk(field.ActualSize());
+    if (chunk.isNull())
+        throw runtime::RuntimeError(runtime::InvalidUseOfNull);
+    runtime::Put(handle, 1, chunk.get<QByteArray>());
+    runtime::CloseFile(handle);
+}
+
+QString temporaryPath(const QString &storedName)
+{
+    return runtime::App::Path() + u"\\temp\\"_s + storedName;
+}
+
+QString scanPath(const QString &storedName)
+{
+    return runtime::App::Path() + u"\\temp\\Search\\"_s + storedName;
+}

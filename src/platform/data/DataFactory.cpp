@@ -1,0 +1,41 @@
+#include "platform/data/DataFactory.h"
+
+#include "platform/data/Cursor.h"
+#include "platform/data/ProviderError.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace data {
+
+namespace {
+
+QString declarationOf(const ColumnDefinition &column)
+{
+    switch (column.type) {
+    case adInteger:
+        return u"INTEGER"_s;
+    case adChar:
+        return u"TEXT(%1)"_s.arg(column.size);
+    }
+    throw objectError(WrongArguments, "RDSServer.DataFactory");
+}
+
+} // namespace
+
+Recordset DataFactory::CreateRecordset(const std::vector<ColumnDefinition> &columns) const
+{
+    QStringList declarations;
+    for (const ColumnDefinition &column : columns)
+        declarations << u'[' + column.name + u"] "_s + declarationOf(column) +
+                            (column.nullable ? QString() : u" NOT NULL"_s);
+    auto rows = std::make_shared<Database>();
+    rows->createInMemory();
+    try {
+        rows->execute("CREATE TABLE Contents (" + declarations.join(u", "_s).toUtf8() + ')');
+    } catch (const StoreError &) { // no columns, or two of one name
+        throw objectError(WrongArguments, "RDSServer.DataFactory");
+    }
+    return Recordset(std::move(rows), u"select * from Contents"_s);
+}
+
+} // namespace data

@@ -1,0 +1,140 @@
+#include "platform/runtime/BinaryFile.h"
+
+#include "platform/runtime/Files.h"
+#include "platform/runtime/RuntimeError.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <array>
+#include <memory>
+
+namespace runtime {
+
+namespace {
+
+constexpr size_t lastNumber = 511;
+
+// By number; the first place stays empty.
+std::array<std::unique_ptr<BinaryFile>, lastNumber + 1> &openFiles()
+{
+    static std::array<std::unique_ptr<BinaryFile>, lastNumber + 1> files;
+    return files;
+}
+
+std::unique_ptr<BinaryFile> &placeOf(qint16 handle)
+{
+    if (handle < 1 || size_t(handle) > lastNumber)
+        throw RuntimeError(BadFileNumber);
+    return openFiles()[size_t(handle)];
+}
+
+// Nothing but a plain file is opened: a pipe would hold the program up.
+void refuseUnlessPlain(const QString &native, BinaryAccess access)
+{
+    const QFileInfo file(native);
+    if (file.exists()) {
+        if (!file.isFile())
+            throw RuntimeError(PathFileAccess);
+    } else if (!QFileInfo(file.path()).isDir()) {
+        throw RuntimeError(PathNotFound);
+    } else if (access == BinaryAccess::Read) {
+        throw RuntimeError(FileNotFound);
+    }
+}
+
+} // namespace
+
+BinaryFile::BinaryFile(const QString &path, BinaryAccess access) : m_file(nativePath(path))
+{
+    if (path.endsWith(u'\\') || path.endsWith(u'/')) // the native path of a missing folder has lost this
+        throw RuntimeError(folderExists(path) ? PathFileAccess : PathNotFound);
+    refuseUnlessPlain(m_file.fileName(), access);
+    const QIODevice::OpenMode mode = access == BinaryAccess::Read ? QIODevice::ReadOnly : QIODevice::ReadWrite;
+    // Whole files go through here at once: a buffer in between would only be another copy.
+    if (!m_file.open(mode | QIODevice::Unbuffered))
+        throw RuntimeError(m_file.error() == QFile::ResourceError ? TooManyFiles : PathFileAccess);
+}
+
+void BinaryFile::seek(qint64 position)
+{
+    if (position < 1)
+        throw RuntimeError(BadRecordNumber);
+    if (!m_file.seek(position - 1))
+        throw RuntimeError(DeviceError);
+}
+
+void BinaryFile::get(qint64 position, QByteArray &buffer)
+{
+    seek(position);
+    if (m_file.read(buffer.data(), buffer.size()) < 0)
+        throw RuntimeError(DeviceError);
+}
+
+void BinaryFile::map()
+{
+    if (m_mapped)
+        m_file.unmap(reinterpret_cast<uchar *>(const_cast<char *>(m_mapped)));
+    m_mappedSize = m_file.size();
+    m_mapped = reinterpret_cast<const char *>(m_file.map(0, m_mappedSize));
+    if (!m_mapped) // an empty file, or a file system that cannot
+        m_mappedSize = 0;
+}
+
+void BinaryFile::getUnmapped(qint64 position, char &byte)
+{
+    if (m_file.size() != m_mappedSize)
+        map();
+    if (position > 0 && position <= m_mappedSize) {
+        byte = m_mapped[position - 1];
+        return;
+    }
+    seek(position);
+    if (m_file.read(&byte, 1) < 0)
+        throw RuntimeError(DeviceError);
+}
+
+void BinaryFile::put(qint64 position, const QByteArray &bytes)
+{
+    if (!m_file.isWritable())
+        throw RuntimeError(BadFileMode);
+    seek(position);
+    const qint64 written = m_file.write(bytes);
+    if (written == bytes.size())
+        return;
+    // What a plain file takes in part found no room for the rest.
+    throw RuntimeError(written > 0 || m_file.error() == QFile::ResourceError ? DiskFull : DeviceError);
+}
+
+qint16 FreeFile()
+{
+    const auto &files = openFiles();
+    const auto free = std::find(files.cbegin() + 1, files.cend(), nullptr);
+    if (free == files.cend())
+        throw RuntimeError(TooManyFiles);
+    return qint16(free - files.cbegin());
+}
+
+void OpenBinary(const QString &path, qint16 handle, BinaryAccess access)
+{
+    std::unique_ptr<BinaryFile> &place = placeOf(handle);
+    if (place)
+        throw RuntimeError(FileAlreadyOpen);
+    place = std::make_unique<BinaryFile>(path, access);
+}
+
+BinaryFile &openFile(qint16 handle)
+{
+    const std::unique_ptr<BinaryFile> &place = placeOf(handle);
+    if (!place)
+        throw RuntimeError(BadFileNumber);
+    return *place;
+}
+
+void CloseFile(qint16 handle)
+{
+    openFile(handle); // there has to be one
+    placeOf(handle).reset();
+}
+
+} // namespace runtime

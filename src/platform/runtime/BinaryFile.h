@@ -1,0 +1,72 @@
+// Binary files by their numbers, as the run-time has them: a handler takes the next free number, opens a file under it,
+// reads or writes at positions that count bytes from 1, and closes the number.
+//
+// The table of open files belongs to the process. A number stays taken until CloseFile: a handler that fails on its way
+// there leaves its file open. Error 52 for a number under which nothing is open, 63 for a position before the first
+// byte. Trap: a file that was read bytewise is mapped into memory, and no other program may shorten it while it is
+// open.
+#pragma once
+
+#include <QByteArray>
+#include <QFile>
+#include <QString>
+
+namespace runtime {
+
+enum class BinaryAccess { Read, ReadWrite };
+
+// What is open under a number.
+class BinaryFile
+{
+public:
+    // As OpenBinary.
+    BinaryFile(const QString &path, BinaryAccess access);
+
+    // In bytes.
+    qint64 size() const { return m_file.size(); }
+    // Fills the buffer from the position on. What would lie behind the end of the file stays as it was.
+    void get(qint64 position, QByteArray &buffer);
+    // The same for a single byte; made to be asked for every byte of a large file, one after another.
+    void get(qint64 position, char &byte)
+    {
+        if (position > 0 && position <= m_mappedSize)
+            byte = m_mapped[position - 1];
+        else
+            getUnmapped(position, byte);
+    }
+    // Error 54 on a file that is open for reading, 61 when the disk is full, 57 when it fails otherwise.
+    void put(qint64 position, const QByteArray &bytes);
+
+private:
+    void getUnmapped(qint64 position, char &byte);
+    void map();
+    void seek(qint64 position);
+
+    QFile m_file;
+    const char *m_mapped = nullptr; // the file's bytes in memory, once it is read bytewise
+    qint64 m_mappedSize = 0;
+};
+
+// The lowest number from 1 to 511 that is not taken; error 67 when all are. It is not taken before a file is opened.
+qint16 FreeFile();
+// For reading and writing a missing file is made, and one that stands there keeps what it holds. Error 52 for a number
+// outside 1 to 511, 55 for one that is taken, 53 for reading a missing file, 76 in a missing folder, 75 where the
+// system refuses and for what is no plain file.
+void OpenBinary(const QString &path, qint16 handle, BinaryAccess access);
+BinaryFile &openFile(qint16 handle);
+void CloseFile(qint16 handle);
+
+inline qint64 LOF(qint16 handle)
+{
+    return openFile(handle).size();
+}
+inline void Get(qint16 handle, qint64 position, QByteArray &buffer)
+{
+    openFile(handle).get(position, buffer);
+}
+inline void Put(qint16 handle, qint64 position, const QByteArray &bytes)
+{
+    openFile(handle).put(position, bytes);
+}
+
+} // namespace runtime

@@ -1,0 +1,55 @@
+// A dossier opened as the explorer opens it, and what its tests do again and again.
+#pragma once
+
+#include "dossier/DisplayMembers.h"
+#include "support/DataStoreFolder.h"
+#include "support/Dialogs.h"
+
+class OpenDossier
+{
+public:
+    explicit OpenDossier(qint16 member = 1)
+    {
+        m_window.MemberId = member;
+        m_window.setCaption(QStringLiteral("Tolmark Member Information : Ann B Cole"));
+        m_window.setMemberIdentification(runtime::Value(member));
+        m_window.resize(900, 700);
+        m_window.Show();
+    }
+
+    DisplayMembers *operator->() { return &m_window; }
+    DisplayMembers &operator*() { return m_window; }
+
+    void turnTo(QWidget *tab) { m_window.SSTab1->setCurrentWidget(tab->parentWidget()); }
+
+private:
+    DisplayMembers m_window;
+};
+
+// The texts of a line, as many as there are columns, joined by "|".
+inline QString line(const desktop::ListView &list, int index)
+{
+    QStringList texts;
+    for (int column = 0; column < list.ColumnHeaders.Count(); ++column)
+        texts << list.ListItems(index).SubItems(column);
+    return texts.join(QLatin1Char('|'));
+}
+
+inline QStringList lines(const desktop::ListView &list)
+{
+    QStringList all;
+    for (int index = 1; index <= list.ListItems.Count(); ++index)
+        all << line(list, index);
+    return all;
+}
+
+inline void select(desktop::ListView &list, int index)
+{
+    list.setCurrentItem(&list.ListItems(index));
+}
+
+// Chooses an item of a pop-up, as a click on it does.
+inline void choose(const desktop::PopupMenu &menu, const char *item)
+{
+    child<QAction>(menu, item)->trigger();
+}

@@ -1,0 +1,300 @@
+#include "dossier/OpenDossier.h"
+
+#include <QDesktopServices>
+#include <QDropEvent>
+#include <QMimeData>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Takes the place of whatever would open a file.
+class Launches : public QObject
+{
+    Q_OBJECT
+public:
+    Launches() { QDesktopServices::setUrlHandler(u"file"_s, this, "open"); }
+    ~Launches() override { QDesktopServices::unsetUrlHandler(u"file"_s); }
+
+    QStringList paths;
+
+public Q_SLOTS:
+    void open(const QUrl &url) { paths << url.toLocalFile(); }
+};
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
+}
+
+} // namespace
+
+class tst_Attachments : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        m_folder.emplace(DataStoreFolder::Content::Empty);
+        m_folder->execute("INSERT INTO MemberInformation (MemberId, LastName) VALUES (1, 'Cole'), (2, 'Dean')");
+    }
+
+    void versionsCountByNameOverAllMembers()
+    {
+        m_folder->execute("INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion) VALUES"
+                          " (2, 'A.TXT', 4), (2, 'a.txt', 5), (2, 'b.txt', 9)");
+        const QString path = file(u"a.txt"_s, "one");
+        CaughtErrors errors;
+        OpenDossier dossier;
+        FileAnswers files({path, path});
+        BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok});
+        AttachmentsTab &tab = *dossier->Frame4;
+        tab.butAddAttachement->click();
+        QCOMPARE(files.title, u"OPEN FILE"_s);
+        QCOMPARE(files.filters, (QStringList{u"All files (*)"_s, u"DOC files (*.doc)"_s, u"PDF files (*.pdf)"_s}));
+        QCOMPARE(boxes.seen[0].text, u"Attachment successfully uploaded"_s);
+        QCOMPARE(boxes.seen[0].icon, QMessageBox::Information);
+        tab.butAddAttachement->click();
+        QCOMPARE(versions(tab), QStringList(u"a.txt 7"_s)); // the current one alone
+        tab.Check1->click();
+        QCOMPARE(versions(tab), (QStringList{u"a.txt 7"_s, u"a.txt 6"_s}));
+        QCOMPARE(m_folder->rows("SELECT MemberId, AttachmentsName, AttachmentVersion, hex(Attachments), "
+                                "AttachmentsDate IS NULL FROM Attachments WHERE AttachmentsId > 3"),
+                 (QStringList{u"1|a.txt|6|6F6E6500|0"_s, u"1|a.txt|7|6F6E6500|0"_s}));
+    }
+
+    void namesStandInDescendingOrderWhileOnlyCurrentVersionsShow()
+    {
+        m_folder->execute("INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion, AttachmentsDate) "
+                          "VALUES (1, 'b', 2, '2026-01-01 00:00:00'), (1, 'c', 1, NULL), (1, 'b', 1, '2026-02-01 "
+                          "10:00:00'), (1, NULL, 1, NULL)");
+        CaughtErrors errors;
+        OpenDossier dossier;
+        const desktop::ListView &list = *dossier->Frame4->lstAttachement;
+        QCOMPARE(lines(list), (QStringList{u"c||1"_s, u"b|2/1/2026 10:00:00 AM|2"_s, u"||1"_s}));
+        QCOMPARE(list.ListItems(2).Tag, u"3"_s); // version, day and key are the highest each by itself
+        QVERIFY(list.ListItems(3).Tag.isEmpty());
+    }
+
+    void cancellingChangesNothing()
+    {
+        CaughtErrors errors;
+        OpenDossier dossier;
+        FileAnswers files({QString()});
+        dossier->Frame4->butAddAttachement->click();
+        QCOMPARE(m_folder->row("SELECT count(*) FROM Attachments"), u"0"_s);
+    }
+
+    void whatCannotBeAddedEndsInTheReport_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("error");
+        QTest::newRow("apostrophe") << u"it's.txt"_s << -2147217900;
+        QTest::newRow("version 32767 is the last") << u"full.txt"_s << 6;
+    }
+    void whatCannotBeAddedEndsInTheReport()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, error);
+        m_folder->execute("INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion) VALUES"
+                          " (2, 'full.txt', 32767)");
+        CaughtErrors errors;
+        OpenDossier dossier;
+        FileAnswers files({file(name, "x")});
+        dossier->Frame4->butAddAttachement->click();
+        QCOMPARE(errors.takeNumber(), error);
+        QCOMPARE(m_folder->row("SELECT count(*) FROM Attachments"), u"1"_s);
+        QCOMPARE(m_folder->row("PRAGMA integrity_check"), u"ok"_s);
+    }
+
+    void unusualFilesComeBackWithOneByteMore_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("empty") << u"empty.bin"_s << QByteArray();
+        QTest::newRow("zeros inside") << u"zeros.bin"_s << QByteArray("\0a\0\0", 4);
+        QTest::newRow("outside ASCII") << u"Grüße 日本.txt"_s << QByteArray("x");
+        QTest::newRow("255 characters") << QString(251, u'n') + u".txt"_s << QByteArray("long");
+    }
+    void unusualFilesComeBackWithOneByteMore()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, content);
+        CaughtErrors errors;
+        OpenDossier dossier;
+        AttachmentsTab &tab = *dossier->Frame4;
+        drop({QUrl::fromLocalFile(file(name, content))}, tab);
+        QTRY_COMPARE(tab.lstAttachement->ListItems.Count(), 1);
+        select(*tab.lstAttachement, 1);
+        Launches launches;
+        choose(*tab.MnuViewOptions, "MnuView");
+        QCOMPARE(launches.paths, QStringList(m_folder->path(u"temp/"_s + name)));
+        QCOMPARE(contentOf(launches.paths[0]), content + '\0');
+        const QString saved = m_folder->path(u"saved"_s);
+        FileAnswers files({saved});
+        choose(*tab.MnuViewOptions, "MnuSaveAs");
+        QCOMPARE(files.name, name);
+        QCOMPARE(contentOf(saved), content + '\0');
+    }
+
+    void aLongerFileKeepsItsTailAndTheTempFolderIsMade()
+    {
+        m_folder->execute("INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion, Attachments) VALUES"
+                          " (1, 'a.txt', 1, x'6C6F6E67657200'), (1, 'a.txt', 2, x'78797A00')");
+        QVERIFY(QDir(m_folder->path(u"temp"_s)).removeRecursively());
+        CaughtErrors errors;
+        Launches launches;
+        OpenDossier dossier;
+        AttachmentsTab &tab = *dossier->Frame4;
+        tab.Check1->click();
+        for (int line : {2, 1}) {
+            select(*tab.lstAttachement, line);
+            choose(*tab.MnuViewOptions, "MnuView");
+        }
+        QCOMPARE(contentOf(m_folder->path(u"Temp/a.txt"_s)), QByteArray("xyz\0er\0", 7));
+    }
+
+    void savingEndsSilently()
+    {
+        m_folder->execute("INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion, Attachments) VALUES"
+                          " (1, 'a.txt', 1, x'00'), (1, 'it''s', 1, x'00'), (1, 'null', 1, NULL)");
+        CaughtErrors errors;
+        BoxAnswers boxes;
+        OpenDossier dossier;
+        AttachmentsTab &tab = *dossier->Frame4;
+        tab.lstAttachement->setCurrentItem(nullptr);
+        choose(*tab.MnuViewOptions, "MnuSaveAs"); // nothing is selected
+        select(*tab.lstAttachement, 2);
+        QCOMPARE(tab.lstAttachement->ListItems(2).Text(), u"it's"_s);
+        choose(*tab.MnuViewOptions, "MnuSaveAs"); // a broken statement
+        select(*tab.lstAttachement, 3);
+        FileAnswers files({QString()});
+        choose(*tab.MnuViewOptions, "MnuSaveAs"); // cancelled
+        QVERIFY(!QFile::exists(m_folder->path(u"a.txt"_s)));
+    }
+
+    void viewingWhatIsNotThereEndsInTheReport()
+    {
+        m_folder->execute("INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion, Attachments) VALUES"
+                          " (1, 'a.txt', 1, x'00'), (1, 'it''s', 1, x'00')");
+        CaughtErrors errors;
+        OpenDossier dossier;
+        AttachmentsTab &tab = *dossier->Frame4;
+        tab.lstAttachement->setCurrentItem(nullptr);
+        choose(*tab.MnuViewOptions, "MnuView");
+        QCOMPARE(errors.takeNumber(), 91);
+        select(*tab.lstAttachement, 1);
+        choose(*tab.MnuViewOptions, "MnuView");
+        QCOMPARE(errors.takeNumber(), -2147217900); // an apostrophe in the name
+        m_folder->execute("DELETE FROM Attachments");
+        select(*tab.lstAttachement, 2);
+        choose(*tab.MnuViewOptions, "MnuView");
+        QCOMPARE(errors.takeNumber(), 3021); // the row is gone
+    }
+
+    void aCopyThatCannotBeWrittenEndsTheViewInTheReport()
+    {
+        m_folder->execute("INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion, Attachments) VALUES"
+                          " (1, 'a.txt', 1, x'00')");
+        QDir(m_folder->folder()).mkpath(u"temp/a.txt"_s);
+        CaughtErrors errors;
+        OpenDossier dossier;
+        select(*dossier->Frame4->lstAttachement, 1);
+        choose(*dossier->Frame4->MnuViewOptions, "MnuView");
+        QCOMPARE(errors.takeNumber(), 75);
+    }
+
+    void severalDroppedFilesAreAddedWithoutAMessage()
+    {
+        CaughtErrors errors;
+        BoxAnswers boxes;
+        OpenDossier dossier;
+        AttachmentsTab &tab = *dossier->Frame4;
+        drop({QUrl::fromLocalFile(file(u"a.txt"_s, "a")), QUrl::fromLocalFile(file(u"b.txt"_s, "b"))}, tab);
+        QTRY_COMPARE(versions(tab), (QStringList{u"b.txt 1"_s, u"a.txt 1"_s}));
+    }
+
+    void whatCannotBeTakenInADropGivesTheMessage_data()
+    {
+        QTest::addColumn<QString>("second"); // what follows a good file; a text when it is no path
+        QTest::addColumn<QString>("left");
+        QTest::newRow("no file list") << u"just a text"_s << u"0"_s;
+        QTest::newRow("folder") << u"folder"_s << u"1"_s;
+        QTest::newRow("missing file") << u"missing.txt"_s << u"1"_s;
+        QTest::newRow("apostrophe") << u"it's.txt"_s << u"1"_s;
+    }
+    void whatCannotBeTakenInADropGivesTheMessage()
+    {
+        QFETCH(QString, second);
+        QFETCH(QString, left);
+        file(u"it's.txt"_s, "x");
+        QDir(m_folder->folder()).mkdir(u"folder"_s);
+        CaughtErrors errors;
+        BoxAnswers boxes({QMessageBox::Ok});
+        OpenDossier dossier;
+        AttachmentsTab &tab = *dossier->Frame4;
+        if (second == u"just a text")
+            drop({}, tab, second);
+        else
+            drop({QUrl::fromLocalFile(file(u"a.txt"_s, "a")), QUrl::fromLocalFile(m_folder->path(second))}, tab);
+        QTRY_COMPARE(boxes.seen.size(), 1);
+        QCOMPARE(boxes.seen[0].text, u"Currently you can't drag and drop straight from that application\r\n"
+                                     "Try dragging and dropping from the desktop then to Brenlow Premium."_s);
+        QCOMPARE(boxes.seen[0].icon, QMessageBox::Information);
+        QCOMPARE(QString::number(tab.lstAttachement->ListItems.Count()), left); // the list was loaded again
+        QCOMPARE(m_folder->row("SELECT count(*) FROM Attachments"), left);
+    }
+
+    void deletingTheCurrentVersionBringsUpTheOlderOne()
+    {
+        m_folder->execute("INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion) VALUES"
+                          " (1, 'a', 1), (1, 'a', 2), (1, 'a', 3)");
+        CaughtErrors errors;
+        BoxAnswers boxes({QMessageBox::Yes, QMessageBox::Ok});
+        OpenDossier dossier;
+        select(*dossier->Frame4->lstAttachement, 1);
+        choose(*dossier->Frame4->MnuViewOptions, "MnuDeleteAttachment");
+        QCOMPARE(versions(*dossier->Frame4), QStringList(u"a 2"_s));
+    }
+
+private:
+    QString file(const QString &name, const QByteArray &content)
+    {
+        QFile file(m_folder->path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            qFatal("cannot write %s", qPrintable(name));
+        return file.fileName();
+    }
+
+    static QStringList versions(const AttachmentsTab &tab)
+    {
+        QStringList all;
+        for (int index = 1; index <= tab.lstAttachement->ListItems.Count(); ++index)
+            all << tab.lstAttachement->ListItems(index).Text() + u' ' +
+                       tab.lstAttachement->ListItems(index).SubItems(2);
+        return all;
+    }
+
+    // A drag that enters the list and is dropped on it.
+    static void drop(const QList<QUrl> &urls, AttachmentsTab &tab, const QString &text = {})
+    {
+        QMimeData data;
+        if (!urls.isEmpty())
+            data.setUrls(urls);
+        if (!text.isEmpty())
+            data.setText(text);
+        QDragEnterEvent enter({5, 5}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(tab.lstAttachement->viewport(), &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent event({5, 5}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(tab.lstAttachement->viewport(), &event);
+        QVERIFY(event.isAccepted());
+        QCOMPARE(event.dropAction(), Qt::CopyAction); // what is dropped stays where it came from
+    }
+
+    std::optional<DataStoreFolder> m_folder;
+};
+
+QTEST_MAIN(tst_Attachments)
+#include "tst_attachments.moc"

@@ -1,0 +1,267 @@
+#include "events/FrmEventCalendar.h"
+#include "platform/desktop/MdiForm.h"
+#include "platform/runtime/Clock.h"
+#include "support/DataStoreFolder.h"
+#include "support/Dialogs.h"
+
+#include <QPointer>
+#include <QTableView>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+class MainWindow : public desktop::MdiForm
+{
+public:
+    MainWindow() : MdiForm(u"MainWindow") { resize(1000, 760); }
+};
+
+void setTime(const QString &moment)
+{
+    runtime::setClock([moment] { return QDateTime::fromString(moment, Qt::ISODate); });
+}
+
+template <class Window> QList<Window *> openWindows()
+{
+    QList<Window *> windows;
+    for (QWidget *widget : QApplication::allWidgets()) {
+        if (auto *window = qobject_cast<Window *>(widget); window && window->isVisible())
+            windows << window;
+    }
+    return windows;
+}
+
+// Opens the calendar by the button and gives it.
+QPointer<FrmEventCalendar> calendarOf(desktop::CommandButton *button)
+{
+    const QList<FrmEventCalendar *> before = openWindows<FrmEventCalendar>();
+    button->click();
+    for (FrmEventCalendar *window : openWindows<FrmEventCalendar>()) {
+        if (!before.contains(window))
+            return window;
+    }
+    qFatal("no calendar came up");
+}
+
+void clickDay(FrmEventCalendar &window, int day)
+{
+    auto *days = window.Calendar1->findChild<QTableView *>();
+    for (int row = 1; row < days->model()->rowCount(); ++row) {
+        for (int column = 0; column < days->model()->columnCount(); ++column) {
+            const QModelIndex index = days->model()->index(row, column);
+            if (index.data().toInt() == day)
+                return QTest::mouseClick(days->viewport(), Qt::LeftButton, {}, days->visualRect(index).center());
+        }
+    }
+    qFatal("no such day");
+}
+
+} // namespace
+
+class tst_Events : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        m_folder.emplace(DataStoreFolder::Content::Empty);
+        setTime(u"2026-01-31T09:05:00"_s);
+    }
+    void cleanup() { runtime::setClock({}); }
+
+    void theLoadTakesTheClock_data()
+    {
+        QTest::addColumn<QString>("now");
+        QTest::addColumn<QStringList>("boxes"); // start date and time, end date and time
+        QTest::newRow("no leading zeros")
+            << u"2026-01-31T09:05:59"_s << QStringList{u"1/31/2026"_s, u"9:5"_s, u"1/31/2026"_s, u"10:5"_s};
+        QTest::newRow("past midnight") << u"2026-12-31T23:30:00"_s
+                                       << QStringList{u"12/31/2026"_s, u"23:30"_s, u"12/31/2026"_s, u"0:30"_s};
+    }
+    void theLoadTakesTheClock()
+    {
+        QFETCH(QString, now);
+        QFETCH(QStringList, boxes);
+        setTime(now);
+        FrmAddEvent window;
+        window.Show();
+        QCOMPARE((QStringList{window.txtEventStartDate->text(), window.txtEventStartTime->text(),
+                              window.txtEventEndDate->text(), window.txtEventEndTime->text()}),
+                 boxes);
+        QCOMPARE(window.lstStartTime->Text() + window.lstEndTime->Text(), QString());
+    }
+
+    void anEventTypedByKeyboardIsStored()
+    {
+        CaughtErrors errors;
+        QPointer<FrmAddEvent> window = desktop::showNew<FrmAddEvent>();
+        QApplication::setActiveWindow(window);
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        const auto type = [](const QString &text) {
+            QTest::keyClicks(QApplication::focusWidget(), text);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        };
+        for (const QString &text : {u"Picnic"_s, u"In the park"_s, QString(), QString(), u"8 sharp"_s, u"P"_s,
+                                    u"tomorrow"_s, QString(), QString()})
+            type(text);
+        QCOMPARE(QApplication::focusWidget(), window->lstEndTime);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QTRY_VERIFY(!window);
+        QCOMPARE(m_folder->rows(everyEvent),
+                 QStringList{u"1|Picnic|In the park|1/31/2026|8 sharp|PM|tomorrow|10:5||-1"_s});
+        QCOMPARE(m_folder->row("SELECT count(EventDate) FROM EventInformation"), u"1"_s);
+    }
+
+    void anEventIsChanged()
+    {
+        CaughtErrors errors;
+        m_folder->execute(
+            "INSERT INTO EventInformation (EventName, EventDescription, EventStartTimeAmPm, Active) VALUES "
+            "('Before', 'x', 'AM', 0), ('Other', 'y', 'AM', 0)");
+        QPointer<FrmAddEvent> window = desktop::showNew<FrmAddEvent>([](FrmAddEvent &event) {
+            event.setCaption(u"Tolmark Event Information : Before"_s);
+            event.EventId = u"1"_s;
+            event.txtEventName->setText(u"After"_s);
+            event.txtEventDescription->setText(u"z"_s);
+            event.txtEventStartDate->setText(u"2/1/2026"_s);
+            event.txtEventStartTime->setText(u"7"_s);
+            event.lstStartTime->setText(u"pm"_s);
+            event.txtEventEndDate->setText(u"2/2/2026"_s);
+            event.txtEventEndTime->setText({});
+            event.lstEndTime->setText(u"none"_s);
+        });
+        window->cmdSave->click();
+        QTRY_VERIFY(!window);
+        QCOMPARE(m_folder->rows(everyEvent), (QStringList{u"1|After|z|2/1/2026|7|PM|2/2/2026|||0"_s,
+                                                          u"2|Other|y|NULL|NULL|AM|NULL|NULL|NULL|0"_s}));
+    }
+
+    void anApostropheEndsInTheReport_data()
+    {
+        QTest::addColumn<QString>("eventId");
+        QTest::addColumn<QString>("box");
+        QTest::newRow("add") << QString() << u"txtEventName"_s;
+        QTest::newRow("add, last box") << QString() << u"txtEventEndTime"_s;
+        QTest::newRow("change") << u"1"_s << u"txtEventDescription"_s;
+    }
+    void anApostropheEndsInTheReport()
+    {
+        QFETCH(QString, eventId);
+        QFETCH(QString, box);
+        CaughtErrors errors;
+        m_folder->execute("INSERT INTO EventInformation (EventName, EventDescription) VALUES ('Kept', 'x')");
+        const QStringList before = m_folder->rows(everyEvent);
+        FrmAddEvent window;
+        window.Show();
+        window.EventId = eventId;
+        window.txtEventName->setText(u"Name"_s);
+        window.txtEventDescription->setText(u"Text"_s);
+        child<QLineEdit>(window, box.toLatin1().constData())->setText(u"O'Brien"_s);
+        window.cmdSave->click();
+        QCOMPARE(errors.takeNumber(), -2147217900);
+        QCOMPARE(m_folder->rows(everyEvent), before);
+        QCOMPARE(m_folder->row("PRAGMA integrity_check"), u"ok"_s);
+    }
+
+    void nothingIsSavedWithoutNameOrDescription()
+    {
+        CaughtErrors errors;
+        BoxAnswers boxes; // and nothing is said
+        for (const bool named : {true, false}) {
+            FrmAddEvent window;
+            window.Show();
+            (named ? window.txtEventName : window.txtEventDescription)->setText(u"x"_s);
+            window.cmdSave->click();
+            QVERIFY(window.isVisible());
+            window.CmdClose->click();
+            QVERIFY(!window.isVisible());
+        }
+        QCOMPARE(m_folder->rows(everyEvent), QStringList());
+    }
+
+    // Whatever the box holds, the calendar stands at today; the last click wins, however many are open.
+    void theCalendarFillsItsBox()
+    {
+        CaughtErrors errors;
+        MainWindow frame;
+        frame.Show();
+        auto *event = desktop::showNew<FrmAddEvent>();
+        event->txtEventStartDate->setText(u"12/25/2020"_s);
+        const QPointer<FrmEventCalendar> start = calendarOf(event->cmdStartDate);
+        const QPointer<FrmEventCalendar> again = calendarOf(event->cmdStartDate);
+        const QPointer<FrmEventCalendar> end = calendarOf(event->cmdEndDate);
+        QCOMPARE(start->Caption(), u"Event Calendar : Start Date"_s);
+        QCOMPARE(end->Caption(), u"Event Calendar : End Date"_s);
+        QCOMPARE(start->Calendar1->selectedDate(), QDate(2026, 1, 31));
+        clickDay(*again, 20);
+        QTRY_VERIFY(!again);
+        clickDay(*start, 14);
+        QTRY_VERIFY(!start);
+        QCOMPARE(event->txtEventStartDate->text(), u"1/14/2026"_s);
+        QCOMPARE(event->txtEventEndDate->text(), u"1/31/2026"_s);
+        end->ControlName = u"txteventstartdate"_s; // not exactly the name: the end
+        QTest::keyClick(end->Calendar1->findChild<QTableView *>(), Qt::Key_Left);
+        QTest::keyClick(end->Calendar1->findChild<QTableView *>(), Qt::Key_Return);
+        QTRY_VERIFY(!end);
+        QCOMPARE(event->txtEventEndDate->text(), u"1/30/2026"_s);
+        QCOMPARE(event->txtEventStartDate->text(), u"1/14/2026"_s);
+        const QPointer<FrmEventCalendar> dropped = calendarOf(event->cmdEndDate);
+        QTest::keyClick(dropped->Calendar1->findChild<QTableView *>(), Qt::Key_Escape);
+        QTRY_VERIFY(!dropped);
+        QCOMPARE(event->txtEventEndDate->text(), u"1/30/2026"_s);
+    }
+
+    void theCalendarOutlivesTheEventWindow()
+    {
+        CaughtErrors errors;
+        MainWindow frame;
+        frame.Show();
+        QPointer<FrmAddEvent> event = desktop::showNew<FrmAddEvent>();
+        const QPointer<FrmEventCalendar> calendar = calendarOf(event->cmdStartDate);
+        event->CmdClose->click();
+        QTRY_VERIFY(!event);
+        event = calendar->frmEvent();
+        QVERIFY(event && !event->isVisible());
+        QCOMPARE(calendar->frmEvent(), event);
+        clickDay(*calendar, 14);
+        QCOMPARE(event->txtEventStartDate->text(), u"1/14/2026"_s);
+        QTRY_VERIFY(!calendar);
+        QVERIFY(!event); // nobody ever saw it
+    }
+
+    void theSharedWindowIsFreshEachTime()
+    {
+        CaughtErrors errors;
+        MainWindow frame;
+        frame.Show();
+        FrmAddEvent &window = FrmAddEvent::shared();
+        for (const QString &now : {u"2026-01-31T09:05:00"_s, u"2026-02-01T10:06:00"_s}) {
+            setTime(now);
+            window.Show();
+            QVERIFY(window.isVisible());
+            QCOMPARE(frame.focusWidget(), window.txtEventName);
+            QCOMPARE(window.txtEventName->text() + window.lstEndTime->Text(), QString());
+            window.txtEventName->setText(u"Picnic"_s);
+            window.txtEventDescription->setText(u"x"_s);
+            window.lstEndTime->setText(u"PM"_s);
+            window.cmdSave->setFocus();
+            window.cmdSave->click();
+            QVERIFY(!window.isVisible());
+        }
+        QCOMPARE(m_folder->rows("SELECT EventStartDate || ' ' || EventStartTime FROM EventInformation"),
+                 (QStringList{u"1/31/2026 9:5"_s, u"2/1/2026 10:6"_s}));
+        QCOMPARE(&FrmAddEvent::shared(), &window);
+    }
+
+private:
+    static constexpr auto everyEvent =
+        "SELECT EventIdentification, EventName, EventDescription, EventStartDate, EventStartTime, EventStartTimeAmPm, "
+        "EventEndDate, EventEndTime, EventEndTimeAmPm, Active FROM EventInformation";
+
+    std::optional<DataStoreFolder> m_folder;
+};
+
+QTEST_MAIN(tst_Events)
+#include "tst_events.moc"

@@ -1,0 +1,126 @@
+#include "platform/data/DataFactory.h"
+#include "support/DataFolder.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+using data::ColumnDefinition;
+using data::Recordset;
+using runtime::Value;
+
+class DataFactoryTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void beginsEmpty();
+    void takesRows();
+    void keepsItsRowsForItself();
+    void refusesValues();
+    void refusesDefinitions_data();
+    void refusesDefinitions();
+};
+
+namespace {
+
+const std::vector<ColumnDefinition> hits{{u"DocumentId"_s, data::adInteger, -1, false},
+                                         {u"DocumentName"_s, data::adChar, 255, true},
+                                         {u"Version"_s, data::adInteger, -1, true}};
+
+Recordset made(const std::vector<ColumnDefinition> &columns = hits)
+{
+    return data::DataFactory().CreateRecordset(columns);
+}
+
+void add(Recordset &rows, qint32 id, const QString &name)
+{
+    rows.AddNew();
+    rows.Fields(0).setValue(Value(id));
+    rows.Fields(1).setValue(name);
+    rows.Update();
+}
+
+} // namespace
+
+void DataFactoryTest::beginsEmpty()
+{
+    Recordset rows = made();
+    QCOMPARE(rows.State(), data::adStateOpen);
+    QVERIFY(rows.Eof());
+    QCOMPARE(rows.RecordCount(), 0);
+    QCOMPARE(rows.Fields(1).Name(), u"DocumentName"_s);
+    QVERIFY(errorOf([&] { rows.MoveFirst(); }).startsWith(u"3021 "));
+    QVERIFY(errorOf([&] { rows.Fields(3); }).startsWith(u"3265 "));
+}
+
+void DataFactoryTest::takesRows()
+{
+    Recordset rows = made();
+    add(rows, 70'000, u"it's a.doc"_s);
+    add(rows, 2, QString());
+    add(rows, 70'000, u" b "_s); // nothing is unique, nothing is padded
+    QVERIFY(!rows.Eof());
+    QCOMPARE(rows[u"documentname"].Value(), Value(u" b "_s)); // the last one added is current
+    QCOMPARE(rows.RecordCount(), 3);
+    rows.MoveFirst();
+    QCOMPARE(rows[u"DocumentId"].Value(), Value(qint32(70'000)));
+    QVERIFY(rows[u"Version"].Value().isNull());
+    QCOMPARE(textsOf(rows, u"DocumentName"), (QStringList{u"it's a.doc"_s, u""_s, u" b "_s}));
+    QVERIFY(rows.Eof());
+    add(rows, 3, u"after they were read"_s);
+    QCOMPARE(rows.RecordCount(), 4);
+}
+
+void DataFactoryTest::keepsItsRowsForItself()
+{
+    Recordset rows = made();
+    add(rows, 1, u"a"_s);
+    Recordset other = made();
+    QCOMPARE(other.RecordCount(), 0);
+    other = std::move(rows); // the rows go along
+    QCOMPARE(other.RecordCount(), 1);
+    other.Close();
+    QVERIFY(errorOf([&] { other.Eof(); }).startsWith(u"3704 "));
+
+    const DataFolder folder(DataFolder::Content::Empty);
+    data::Connection connection;
+    folder.open(connection);
+    other.Open(u"select * from Attachments"_s, connection); // as any other that is closed
+    QVERIFY(other.Eof());
+}
+
+void DataFactoryTest::refusesValues()
+{
+    Recordset rows = made();
+    rows.AddNew();
+    QVERIFY(errorOf([&] { rows.Fields(0).setValue(u"x"_s); }).startsWith(u"-2147217887 "));
+    QCOMPARE(errorOf([&] { rows.Update(); }),
+             u"-2147217887 The field 'Contents.DocumentId' cannot contain a Null value because the Required property "
+             u"for this field is set to True.  Enter a value in this field."_s);
+    rows.Fields(0).setValue(Value(qint32(1))); // what was pending is kept
+    rows.Update();
+    QCOMPARE(rows.RecordCount(), 1);
+}
+
+void DataFactoryTest::refusesDefinitions_data()
+{
+    QTest::addColumn<std::vector<ColumnDefinition>>("columns");
+    QTest::addColumn<bool>("refused");
+
+    const ColumnDefinition id = hits.front();
+    QTest::newRow("one column") << std::vector{id} << false;
+    QTest::newRow("blanks in a name") << std::vector<ColumnDefinition>{{u"a b"_s, data::adChar, 1, true}} << false;
+    QTest::newRow("none") << std::vector<ColumnDefinition>{} << true;
+    QTest::newRow("two of one name") << std::vector{id, id} << true;
+    QTest::newRow("another type") << std::vector<ColumnDefinition>{{u"a"_s, data::DataTypeEnum(9), 0, true}} << true;
+}
+
+void DataFactoryTest::refusesDefinitions()
+{
+    QFETCH(std::vector<ColumnDefinition>, columns);
+    QFETCH(bool, refused);
+    QCOMPARE(errorOf([&] { made(columns); }).startsWith(u"3001 Arguments are of the wrong type, "), refused);
+}
+
+QTEST_GUILESS_MAIN(DataFactoryTest)
+#include "tst_datafactory.moc"
