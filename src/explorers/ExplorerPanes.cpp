@@ -59,7 +59,11 @@ ExplorerPanes::ExplorerPanes(desktop::Form &window, const ExplorerTexts &texts)
     LstStudenInformation->setSelectionMode(QAbstractItemView::ExtendedSelection);
     setUpBars(texts);
     setUpPlaces();
-    desktop::setTabOrder({LblMemberListing, TreClassView, LstStudenInformation});
+    // The keyboard reaches the button too, and starts below it.
+    QWidget *button = Toolbar1->widgetForAction(Toolbar1->actions().constFirst());
+    button->setFocusPolicy(Qt::TabFocus);
+    desktop::setTabOrder({button, LblMemberListing, TreClassView, LstStudenInformation});
+    LblMemberListing->setFocus();
 }
 
 void ExplorerPanes::setUpBars(const ExplorerTexts &texts)

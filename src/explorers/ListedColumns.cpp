@@ -2,11 +2,16 @@
 
 #include "platform/runtime/Conversion.h"
 
+#include <QHeaderView>
+
 void setUpHeaders(desktop::ListView &list, std::span<const ListedColumn> columns)
 {
     list.ColumnHeaders.Clear();
     for (const ListedColumn &column : columns)
         list.ColumnHeaders.Add(column.header.toString(), column.tag.toString());
+    QHeaderView &header = *list.header();
+    for (int section = 0; section < header.count(); ++section) // no header is cut off
+        header.resizeSection(section, qMax(header.defaultSectionSize(), header.sectionSizeHint(section)));
 }
 
 void fillList(desktop::ListView &list, data::Recordset &rows, QStringView key, std::span<const ListedColumn> columns)
