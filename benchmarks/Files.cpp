@@ -2,6 +2,7 @@
 
 #include "datafile/Generator.h"
 #include "datafile/Schema.h"
+#include "platform/data/Database.h"
 #include "platform/data/sql/Translation.h"
 
 #include <QDir>
@@ -26,6 +27,30 @@ QString made(const QString &name, const std::function<void(const QString &)> &ma
 
 // The members of the large group who are inactive are listed nowhere.
 constexpr int crowdFor2000Listed = 2054;
+
+constexpr const char *fiveHundred =
+    "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 500) INSERT INTO ";
+
+void fillDossier(const QString &path)
+{
+    data::Database file;
+    file.open(path);
+    file.execute("DELETE FROM MemberInterest WHERE MemberId = 1; DELETE FROM EventMemberInfo WHERE MemberId = 1;"
+                 "DELETE FROM Contributions WHERE MemberId = 1; DELETE FROM MeetingInfo WHERE MemberId = 1;"
+                 "DELETE FROM Attachments WHERE MemberId = 1;");
+    for (const char *rows :
+         {"MemberInterest (MemberId, Interest, InterestDescription) SELECT 1, 'Interest ' || i, 'What it is' FROM n",
+          "EventMemberInfo (MemberId, EventName, EventActualStartTime, EventActualEndTime, EventActualDate, "
+          "EventComments) SELECT 1, 'Event ' || i, '9:00', '10:00', '5/1/2026', 'A comment' FROM n",
+          "Contributions (MemberId, ContributionAmount, ContributionNotes) SELECT 1, i + 0.25, 'A note' FROM n",
+          "MeetingInfo (MemberId, MeetingDate, MeetingType, MeetingCatagory, MeetingSubject, MeetingStartTime, "
+          "MeetingEndTime, MeetingNotes) SELECT 1, '2026-05-01 00:00:00', 'Phone Conversation', 'Training', 'Subject', "
+          "'1899-12-30 09:00:00', '1899-12-30 10:00:00', 'What was said' FROM n",
+          "Attachments (MemberId, AttachmentsName, AttachmentVersion, Attachments) SELECT 1, 'File ' || i || '.doc', "
+          "1, "
+          "randomblob(100000) FROM n"})
+        file.execute(QByteArray(fiveHundred) + rows);
+}
 
 } // namespace
 
@@ -59,6 +84,19 @@ QString fewAttachments()
         options.attachments = 10;
         options.attachmentBytes = attachmentBytes;
         datafile::createGeneratedFile(path, options);
+    });
+}
+
+QString largeDossier()
+{
+    QDir(folder()).mkpath(u"dossier"_s);
+    return made(u"dossier/Tolmark.mdb"_s, [](const QString &path) {
+        datafile::GeneratorOptions options;
+        options.members = 32'767;
+        options.attachments = 10'000;
+        options.attachmentBytes = 100'000;
+        datafile::createGeneratedFile(path, options);
+        fillDossier(path);
     });
 }
 

@@ -16,6 +16,9 @@ QString folder();
 QString organisation();
 // The same tables with ten attachments.
 QString fewAttachments();
+// The largest organisation with 1 GB of attachments; its first member has 500 rows of each kind, the attachments of 500
+// names. In a folder of its own.
+QString largeDossier();
 // An empty organisation in a file of its own for each name.
 QString empty(const QString &name);
 

@@ -1,6 +1,8 @@
-// By how many bytes the process grows at most while it moves a value of 100 MB, the caller's own buffer counted in.
-// The argument says which way: append-ours, append-floor, get-ours or get-floor. Prints megabytes.
+// By how many bytes the process grows at most while it moves a value of 100 MB, the caller's own buffer counted in, or
+// a whole file of 200 MB. The argument says which way: append, get, store or fetch, "-ours" or "-floor". Prints
+// megabytes. The files of the last two are those that benchmark_transfer leaves.
 #include "benchmarks/LargeValue.h"
+#include "benchmarks/StoredLargeFile.h"
 
 #include <QFile>
 
@@ -24,11 +26,13 @@ qint64 processFigure(const QByteArray &name)
     std::exit(1);
 }
 
-template <class Work> void measure(Work &&work)
+// Returns the program's exit code.
+template <class Work> int measure(Work &&work)
 {
     const qint64 before = processFigure("VmRSS");
     work();
     std::printf("%.1f\n", double(processFigure("VmHWM") - before) / 1e6);
+    return 0;
 }
 
 } // namespace
@@ -36,6 +40,14 @@ template <class Work> void measure(Work &&work)
 int main(int argc, char **argv)
 {
     const std::string_view way = argc == 2 ? argv[1] : "";
+    if (way == "store-ours")
+        return measure([store = files::empty(u"stored.mdb"_s)] { largefile::storeOurs(store); });
+    if (way == "store-floor")
+        return measure([store = files::empty(u"stored.mdb"_s)] { largefile::storeFloor(store); });
+    if (way == "fetch-ours")
+        return measure([store = largefile::storeWithFile()] { largefile::fetchOurs(store); });
+    if (way == "fetch-floor")
+        return measure([store = largefile::storeWithFile()] { largefile::fetchFloor(store); });
     const bool appends = way.starts_with("append");
     // A file that stands already: making it would be the largest that this process ever was.
     const QString path = files::empty(appends ? u"memory.mdb"_s : u"value.mdb"_s);
@@ -43,14 +55,12 @@ int main(int argc, char **argv)
     data::Connection connection;
     connection.Open(files::connectionString(path));
     if (way == "append-ours")
-        measure([&] { largevalue::appendOurs(connection, largevalue::content()); });
-    else if (way == "append-floor")
-        measure([&] { largevalue::appendFloor(file, largevalue::content()); });
-    else if (way == "get-ours")
-        measure([&] { return largevalue::readOurs(connection).size(); });
-    else if (way == "get-floor")
-        measure([&] { return largevalue::readFloor(file).size(); });
-    else
-        return 2;
-    return 0;
+        return measure([&] { largevalue::appendOurs(connection, largevalue::content()); });
+    if (way == "append-floor")
+        return measure([&] { largevalue::appendFloor(file, largevalue::content()); });
+    if (way == "get-ours")
+        return measure([&] { return largevalue::readOurs(connection).size(); });
+    if (way == "get-floor")
+        return measure([&] { return largevalue::readFloor(file).size(); });
+    return 2;
 }

@@ -15,7 +15,7 @@ void setEnabled(const QList<QWidget *> &widgets, bool enabled)
 } // namespace
 
 EntryArea::EntryArea(desktop::Frame &frame, desktop::ListView &list)
-    : m_grid(new QGridLayout(&frame)), m_browsing({&list}), m_begunAt(&list)
+    : m_frame(frame), m_grid(new QGridLayout(&frame)), m_browsing({&list}), m_begunAt(&list)
 {
     addWidget(list);
     m_grid->setRowStretch(0, 3);
@@ -97,7 +97,7 @@ void EntryArea::beginBrowsing()
 
 void EntryArea::enter()
 {
-    if (QWidget *begunAt = QApplication::focusWidget(); m_browsing.contains(begunAt))
+    if (QWidget *begunAt = QApplication::focusWidget(); begunAt && m_frame.isAncestorOf(begunAt))
         m_begunAt = begunAt;
     showLabels(true);
     setEnabled(m_entering, true);

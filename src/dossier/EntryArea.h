@@ -30,6 +30,9 @@ public:
     // The buttons that end the entry, and the one that closes the window, in use while browsing.
     void addButtons(std::initializer_list<desktop::CommandButton *> ending, desktop::CommandButton &close);
 
+    // What else is in use only then.
+    void useWhileEntering(QWidget &widget) { m_entering << &widget; }
+
     // At start, before anyone has the focus.
     void beginBrowsing();
     // The keyboard goes on in the first box, and afterwards where the entry was begun.
@@ -40,6 +43,7 @@ private:
     QHBoxLayout *addLine();
     void showLabels(bool shown);
 
+    desktop::Frame &m_frame;
     QGridLayout *m_grid;
     int m_rows = 0;
     QList<QWidget *> m_labels;

@@ -4,7 +4,6 @@
 #include "platform/desktop/MsgBox.h"
 #include "platform/desktop/Twips.h"
 
-#include <QGridLayout>
 #include <QHeaderView>
 
 using namespace Qt::Literals::StringLiterals;
@@ -21,14 +20,6 @@ constexpr double addLeftAfterwards = 4640;
 constexpr double cancelLeft = 6300;
 constexpr double buttonTop = 0;
 
-void keepPlaceWhenHidden(QWidget &widget)
-{
-    QSizePolicy policy = widget.sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget.setSizePolicy(policy);
-    widget.hide();
-}
-
 } // namespace
 
 InterestEntry::InterestEntry(QWidget *parent)
@@ -38,7 +29,7 @@ InterestEntry::InterestEntry(QWidget *parent)
       lblInterestDescription(new Label(this, u"lblInterestDescription", u"Interest Description"_s)),
       txtInterestDescription(new desktop::MultilineTextBox(this, u"txtInterestDescription")),
       cmdAddInterest(new CommandButton(this, u"cmdAddInterest", u"Add Interest"_s)),
-      CMdInterestCancel(new CommandButton(this, u"CMdInterestCancel", u"Cancel"_s))
+      CMdInterestCancel(new CommandButton(this, u"CMdInterestCancel", u"Cancel"_s)), m_area(*this, *lstInterest)
 {
     setUpContent();
     desktop::on(cmdAddInterest, &QPushButton::clicked, this, &InterestEntry::cmdAddInterest_Click);
@@ -51,25 +42,11 @@ void InterestEntry::setUpContent()
     lstInterest->ColumnHeaders.Add(u"Description"_s);
     lstInterest->header()->resizeSection(0, 180);
     lstInterest->setAccessibleName(u"Interests"_s);
-    lblInterest->setBuddy(txtInterest);
-    lblInterestDescription->setBuddy(txtInterestDescription);
-    txtInterest->setAccessibleName(lblInterest->text());
-    txtInterestDescription->setAccessibleName(lblInterestDescription->text());
-    for (QWidget *box : {static_cast<QWidget *>(txtInterest), static_cast<QWidget *>(txtInterestDescription)})
-        box->setEnabled(false);
-    CMdInterestCancel->setEnabled(false);
-    keepPlaceWhenHidden(*lblInterest);
-    keepPlaceWhenHidden(*lblInterestDescription);
-
-    auto *grid = new QGridLayout(this);
-    grid->addWidget(lstInterest, 0, 0, 1, 2);
-    grid->addWidget(lblInterest, 1, 0);
-    grid->addWidget(txtInterest, 1, 1);
-    grid->addWidget(lblInterestDescription, 2, 0, Qt::AlignTop);
-    grid->addWidget(txtInterestDescription, 2, 1);
-    grid->addWidget(setUpButtons(), 3, 0, 1, 2);
-    grid->setRowStretch(0, 3);
-    grid->setRowStretch(2, 2);
+    m_area.addRow(*lblInterest, *txtInterest);
+    m_area.addRow(*lblInterestDescription, *txtInterestDescription, EntryArea::Lines::Several);
+    m_area.addWidget(*setUpButtons());
+    m_area.useWhileEntering(*CMdInterestCancel);
+    m_area.beginBrowsing();
     desktop::setTabOrder({lstInterest, txtInterest, txtInterestDescription, cmdAddInterest, CMdInterestCancel});
 }
 
@@ -111,28 +88,16 @@ void InterestEntry::CMdInterestCancel_Click()
 
 void InterestEntry::beginEntry()
 {
-    txtInterest->setEnabled(true);
-    txtInterestDescription->setEnabled(true);
     cmdAddInterest->setText(u"Save"_s);
-    lstInterest->setEnabled(false);
     cmdAddInterest->setLeft(addLeftWhileEntering);
-    CMdInterestCancel->setEnabled(true);
-    lblInterest->show();
-    lblInterestDescription->show();
-    txtInterest->setFocus(); // typing goes on where it is wanted
+    m_area.enter();
 }
 
 void InterestEntry::endEntry()
 {
-    cmdAddInterest->setFocus(); // before the boxes go out of use
-    txtInterest->setEnabled(false);
-    txtInterestDescription->setEnabled(false);
+    m_area.browse();
     cmdAddInterest->setText(u"Add Interest"_s);
     txtInterest->clear();
     txtInterestDescription->clear();
-    lstInterest->setEnabled(true);
-    CMdInterestCancel->setEnabled(false);
     cmdAddInterest->setLeft(addLeftAfterwards);
-    lblInterest->hide();
-    lblInterestDescription->hide();
 }

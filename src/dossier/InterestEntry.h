@@ -2,8 +2,7 @@
 // once added can be neither changed nor removed here.
 #pragma once
 
-#include "platform/desktop/Controls.h"
-#include "platform/desktop/ListView.h"
+#include "dossier/EntryArea.h"
 
 class InterestEntry : public desktop::Frame
 {
@@ -27,4 +26,6 @@ private:
     QWidget *setUpButtons();
     void beginEntry();
     void endEntry();
+
+    EntryArea m_area;
 };

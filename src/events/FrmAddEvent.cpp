@@ -14,6 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int minutesToTheEnd = 60;
+constexpr int comfortableWidth = 440; // logical pixels
 
 QString plainTimeText(QTime time)
 {
@@ -63,6 +64,7 @@ void FrmAddEvent::setUpContent()
     grid.addButtons({cmdSave, CmdClose});
     auto *whole = new QVBoxLayout(this);
     whole->addWidget(Frame1);
+    resize(sizeHint().expandedTo({comfortableWidth, 0}));
 }
 
 void FrmAddEvent::Form_Load()

@@ -15,6 +15,7 @@ using desktop::CommandButton;
 
 namespace {
 
+constexpr int comfortableWidth = 520; // logical pixels
 constexpr int linesOfAList = 5;
 
 QString today()
@@ -75,6 +76,7 @@ void frmMeeting::setUpContent()
     cmdCancel = new CommandButton(this, u"cmdCancel", u"Cancel"_s);
     cmdPrint = new CommandButton(this, u"cmdPrint", u"Print"_s);
     grid.addButtons({cmdSave, cmdClear, cmdCancel, cmdPrint});
+    resize(sizeHint().expandedTo({comfortableWidth, 0}));
 }
 
 void frmMeeting::Form_Load()

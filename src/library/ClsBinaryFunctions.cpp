@@ -158,31 +158,34 @@ void ClsBinaryFunctions::ScanAnyCase()
     scan(runtime::ansiUpperCaseCharacters());
 }
 
-// An attempt begins with the byte behind the last one that was read: the one that ended a failed attempt is gone. None
-// begins where the pattern would take the file's last byte.
+// An attempt begins with the byte behind the last one that was taken: the one that ended a failed attempt is gone. None
+// begins where the pattern would reach the file's last byte. While it runs the places stand in locals: to write them
+// down for every byte would cost more than to read it.
 void ClsBinaryFunctions::scan(const runtime::CodePage &characters)
 {
-    runtime::BinaryFile &file = runtime::openFile(FileHandle);
-    const QStringView pattern = Pattern;
-    char byte = 0;
+    const QByteArrayView file = runtime::openFile(FileHandle).bytes();
+    const auto *const pattern = Pattern.utf16();
+    const qint64 length = PatternLength;
+    const qint64 end = qMin<qint64>(FileLength, file.size()) - length;
+    const char16_t first = pattern[0]; // a zero where the pattern is empty
+    qint64 position = ReadPosition;
+    qint64 index = 0;
+    const auto nextCharacter = [&] { return OneChar = characters[uchar(file[position++])]; };
     Found = 0;
-    while (ReadPosition < FileLength - PatternLength) {
-        PatternCursor = 0;
-        PatternIndex = 1;
-        for (; PatternIndex <= PatternLength; ++PatternIndex) {
-            file.get(++ReadPosition, byte);
-            OneChar = characters[uchar(byte)];
-            ++PatternCursor;
-            // From PatternCursor on, the character is found first at PatternIndex exactly when it stands there.
-            if (pattern[PatternCursor - 1] != OneChar)
-                break;
+    while (Found == 0 && position < end) {
+        index = 1;
+        if (length > 0) {
+            if (nextCharacter() != first) // where most attempts end
+                continue;
+            // From its place on, a character is found first at that place exactly when it stands there.
+            while (++index <= length && nextCharacter() == pattern[index - 1]) {
+            }
         }
-        if (PatternIndex > PatternLength) {
+        if (index > length)
             Found = -1;
-            ReadPosition -= PatternLength;
-            MatchPosition = ReadPosition;
-            return;
-        }
     }
-    MatchPosition = -1;
+    PatternIndex = qint32(index);
+    PatternCursor = qint16(qMin(index, length));
+    ReadPosition = qint32(Found == -1 ? position - length : position);
+    MatchPosition = Found == -1 ? ReadPosition : -1;
 }

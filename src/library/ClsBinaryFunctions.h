@@ -1,9 +1,9 @@
 // Files in and out of the table of attachments, and the search through what they hold.
 //
 // One instance is made for a search and dropped after it. Only cmdOpendb is used by a window; the others stand for
-// themselves. UpLoadBinary and DownLoadDoc answer any failure with False and leave the file open and the recordset as
-// it was; the other two raise what fails. A scan takes each byte of its file once and never goes back, so it can pass
-// over a text that is there.
+// themselves. UpLoadBinary and DownLoadDoc answer any failure with False and leave the file open and the recordset
+// where it was, a new row pending; the other two raise what fails. A scan takes each byte of its file once and never
+// goes back, so it can pass over a text that is there.
 #pragma once
 
 #include "platform/data/Recordset.h"
@@ -23,7 +23,7 @@ public:
     bool DownLoadDoc(data::Recordset &rsDownLoad, const QString &FilePath);
     // The rows of the statement whose attachment holds the text, in any case: DocumentId, DocumentName, Version. It
     // stands on its last row. Every attachment is copied into the folder of scans, which has to be there, and deleted
-    // again. Error 6 for a text of more than 32,767 characters and for as many hits.
+    // again. Error 6 for a text of more than 32,767 characters, and for more hits than that.
     data::Recordset cmdOpendb(const QString &SearchString, const QString &SelectStatement);
     // Always fails, with error 424 at best: it asks a list for the name, and there is none.
     void ViewDocument(const QString &AttachmentsId);

@@ -77,6 +77,27 @@ private Q_SLOTS:
         QVERIFY(list.ListItems(3).Tag.isEmpty());
     }
 
+    // What the process reads while a dossier with 20 MB of attachments opens, and while one more is added.
+    void openingAndAddingReadNoContent()
+    {
+        m_folder->execute("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 20) INSERT INTO "
+                          "Attachments (MemberId, AttachmentsName, AttachmentVersion, Attachments) SELECT 1, 'a.txt', "
+                          "i, randomblob(1000000) FROM n");
+        const QString path = file(u"a.txt"_s, "one");
+        CaughtErrors errors;
+        FileAnswers files({path});
+        BoxAnswers boxes({QMessageBox::Ok});
+        const qint64 before = bytesRead();
+        QVERIFY(before > 0);
+        OpenDossier dossier;
+        dossier->Frame4->Check1->click();
+        QCOMPARE(dossier->Frame4->lstAttachement->ListItems.Count(), 20);
+        dossier->Frame4->butAddAttachement->click();
+        QCOMPARE(dossier->Frame4->lstAttachement->ListItems(1).SubItems(2), u"21"_s);
+        const qint64 read = bytesRead() - before;
+        QVERIFY2(read < 5'000'000, qPrintable(QString::number(read)));
+    }
+
     void cancellingChangesNothing()
     {
         CaughtErrors errors;
@@ -259,6 +280,13 @@ private Q_SLOTS:
     }
 
 private:
+    // By system calls, since the process began.
+    static qint64 bytesRead()
+    {
+        const QByteArray counts = contentOf(u"/proc/self/io"_s);
+        return counts.startsWith("rchar: ") ? counts.mid(7, counts.indexOf('\n') - 7).toLongLong() : 0;
+    }
+
     QString file(const QString &name, const QByteArray &content)
     {
         QFile file(m_folder->path(name));

@@ -124,35 +124,28 @@ void BinaryFunctionsTest::scans_data()
     QTest::addColumn<qint32>("exactPlace");
 
     QTest::newRow("in the middle") << QByteArray("a Word here") << u"word"_s << 2 << -1;
-    QTest::newRow("capitals in the text") << QByteArray("a word here") << u"WORD"_s << 2 << -1;
-    QTest::newRow("as it stands") << QByteArray("a Word here") << u"Word"_s << 2 << 2;
     QTest::newRow("behind zero bytes") << QByteArray("\0\0x\0word\0", 9) << u"word"_s << 4 << 4;
     QTest::newRow("no second look at a byte") << QByteArray("aaab....") << u"aab"_s << -1 << -1;
     QTest::newRow("a second attempt behind it") << QByteArray("aaabaab.") << u"aab"_s << 4 << 4;
     QTest::newRow("ends with the file") << QByteArray("a word") << u"word"_s << -1 << -1;
     QTest::newRow("ends before the zero byte") << QByteArray("a word\0", 7) << u"word"_s << 2 << 2;
-    QTest::newRow("the file itself") << QByteArray("word") << u"word"_s << -1 << -1;
     QTest::newRow("longer than the file") << QByteArray("wor") << u"word"_s << -1 << -1;
     QTest::newRow("nothing") << QByteArray("x") << u""_s << 0 << 0;
-    QTest::newRow("blanks alone") << QByteArray("x") << u"   "_s << 0 << 0;
     QTest::newRow("nothing in an empty file") << QByteArray() << u""_s << -1 << -1;
     QTest::newRow("blanks round it") << QByteArray("xword.") << u"  word "_s << 1 << 1;
-    QTest::newRow("blanks within") << QByteArray("my  word.") << u"y  w"_s << 1 << 1;
     QTest::newRow("a tab is no blank") << QByteArray("word.") << u"word\t"_s << -1 << -1;
     QTest::newRow("in quotes") << QByteArray("a word.") << u"\" word\""_s << 1 << 1;
     QTest::newRow("quotes alone") << QByteArray("a \"\" b") << u"\"\""_s << 2 << 2;
     QTest::newRow("three quotes") << QByteArray("a\"b") << u"\"\"\""_s << 1 << 1;
-    QTest::newRow("one quote in front") << QByteArray("a \"b.") << u"\"b"_s << 2 << 2;
     QTest::newRow("one quote, and nothing else") << QByteArray("a\"b") << u"\""_s << 1 << 1;
-    // Of the code page: é É, œ Œ, ÿ Ÿ have both cases; ß and µ have no capital in it, ( and Ω none at all.
+    // The code page has both cases of é, œ and ÿ, no capital of ß and µ, and no Ω, ſ and ı, whose capitals it may have.
     QTest::newRow("letters with accents") << QByteArray("caf\xe9.") << u"CAFÉ"_s << 0 << -1;
-    QTest::newRow("capital in the file") << QByteArray("\x8c\x9fx.") << u"œÿx"_s << 0 << -1;
+    QTest::newRow("capitals in the file") << QByteArray("\x8c\x9fx.") << u"œÿx"_s << 0 << -1;
     QTest::newRow("sharp s") << QByteArray("stra\xdf"
                                            "e.")
                              << u"STRAßE"_s << 0 << -1;
     QTest::newRow("sharp s is not two") << QByteArray("strasse.") << u"straße"_s << -1 << -1;
     QTest::newRow("micro") << QByteArray("5 \xb5g.") << u"µg"_s << 2 << 2;
-    QTest::newRow("euro") << QByteArray("5 \x80.") << u"€"_s << 2 << 2;
     QTest::newRow("divided by, times") << QByteArray("\xf7\xd7.") << u"××"_s << -1 << -1;
     QTest::newRow("not of the code page") << QByteArray("?\xea.") << u"Ω"_s << -1 << -1;
     QTest::newRow("capital of the code page alone") << QByteArray("SI.") << u"ſı"_s << -1 << -1;
@@ -215,7 +208,6 @@ void BinaryFunctionsTest::findsAttachmentsByTheirContent_data()
     QTest::newRow("at the end of a file") << u"2001"_s << all << QStringList{u"3 Überblick 7"_s};
     QTest::newRow("statement with a condition")
         << u"budget"_s << u" WHERE AttachmentVersion = 7"_s << QStringList{u"3 Überblick 7"_s};
-    QTest::newRow("nothing there") << u"none of it"_s << all << QStringList{};
     QTest::newRow("every file, the empty one too")
         << u" "_s << all << QStringList{u"1 it's.doc 1"_s, u"2 a.txt NULL"_s, u"3 Überblick 7"_s};
     QTest::newRow("no rows") << u""_s << u" WHERE AttachmentsId = 9"_s << QStringList{};
@@ -224,9 +216,8 @@ void BinaryFunctionsTest::findsAttachmentsByTheirContent_data()
 void BinaryFunctionsTest::findsAttachmentsByTheirContent()
 {
     m_folder->execute("INSERT INTO Attachments (AttachmentsName, AttachmentVersion, Attachments) VALUES "
-                      "('it''s.doc', 1, CAST('the Budget of 1999.' AS BLOB) || x'00'), ('a.txt', NULL, x'00'), "
-                      "('Überblick', 7, CAST('budget 2001' AS BLOB) || x'00')");
-    m_folder->execute("UPDATE Attachments SET Attachments = CAST(Attachments AS BLOB)");
+                      "('it''s.doc', 1, CAST('the Budget of 1999.' || char(0) AS BLOB)), ('a.txt', NULL, x'00'), "
+                      "('Überblick', 7, CAST('budget 2001' || char(0) AS BLOB))");
     QFETCH(QString, text);
     QFETCH(QString, condition);
     QFETCH(QStringList, hits);

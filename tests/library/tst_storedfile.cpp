@@ -23,7 +23,6 @@ private Q_SLOTS:
     void fetchesFieldsOfAnyState_data();
     void fetchesFieldsOfAnyState();
     void refusesWhatItCannotOpen();
-    void namesPathsByTheStoredName();
 
 private:
     QByteArray contentOf(const QString &path) const
@@ -74,7 +73,6 @@ void StoredFileTest::goesInAndOut_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("empty") << QByteArray();
-    QTest::newRow("one byte") << QByteArray("x");
     QTest::newRow("zero bytes at the end") << QByteArray("x\0\0", 3);
     QTest::newRow("a large one") << QByteArray(3'000'000, 'x');
 }
@@ -138,12 +136,6 @@ void StoredFileTest::refusesWhatItCannotOpen()
     Recordset rows = attachments();
     QCOMPARE(errorOf([&] { fetchInto(rows[u"Attachments"], m_folder->path(u"none/a"_s)); }), u"76 Path not found"_s);
     QCOMPARE(runtime::FreeFile(), qint16(1));
-}
-
-void StoredFileTest::namesPathsByTheStoredName()
-{
-    QCOMPARE(temporaryPath(u"it's.doc"_s), m_folder->folder() + u"\\temp\\it's.doc"_s);
-    QCOMPARE(scanPath(u"it's.doc"_s), m_folder->folder() + u"\\temp\\Search\\it's.doc"_s);
 }
 
 QTEST_GUILESS_MAIN(StoredFileTest)

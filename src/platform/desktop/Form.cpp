@@ -93,6 +93,9 @@ void Form::closeEvent(QCloseEvent *event)
     if (std::exchange(m_state, State::Unloaded) != State::Unloaded)
         guarded([this] { Form_Unload(); });
     QWidget::closeEvent(event);
+    MdiForm *frame = m_shared && outer() != this ? MdiForm::frame() : nullptr;
+    if (frame) // after the close, which is still under way
+        QMetaObject::invokeMethod(frame, &MdiForm::childHidden, Qt::QueuedConnection);
 }
 
 } // namespace desktop

@@ -163,6 +163,15 @@ void ListView::keyReleaseEvent(QKeyEvent *event)
     Q_EMIT KeyUp(keyCode(*event));
 }
 
+// Whoever comes by the keyboard finds a line selected, so that a list of one line can be used too.
+void ListView::focusInEvent(QFocusEvent *event)
+{
+    QTreeWidget::focusInEvent(event);
+    const bool byKeyboard = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    if (byKeyboard && currentItem() && selectedItems().isEmpty())
+        currentItem()->setSelected(true);
+}
+
 void ListView::mouseDoubleClickEvent(QMouseEvent *event)
 {
     QTreeWidget::mouseDoubleClickEvent(event);

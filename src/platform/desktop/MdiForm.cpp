@@ -65,6 +65,7 @@ MdiForm::MdiForm(QAnyStringView className) : m_area(new Area(this))
     setObjectName(className.toString());
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_area->setActivationOrder(QMdiArea::ActivationHistoryOrder); // who opened a window comes back when it closes
     setCentralWidget(m_area);
     theFrame() = this;
 }
@@ -135,9 +136,17 @@ void MdiForm::showChild(Form &form)
     m_area->setActiveSubWindow(host);
 }
 
-QList<QMdiSubWindow *> MdiForm::openChildren() const
+// The area itself sees to this only when a window is deleted.
+void MdiForm::childHidden()
 {
-    QList<QMdiSubWindow *> windows = m_area->subWindowList();
+    const QList<QMdiSubWindow *> others = openChildren(QMdiArea::ActivationHistoryOrder);
+    if (!others.isEmpty())
+        m_area->setActiveSubWindow(others.constLast());
+}
+
+QList<QMdiSubWindow *> MdiForm::openChildren(QMdiArea::WindowOrder order) const
+{
+    QList<QMdiSubWindow *> windows = m_area->subWindowList(order);
     windows.removeIf([](const QMdiSubWindow *window) { return window->isHidden(); });
     return windows;
 }
@@ -156,7 +165,7 @@ void MdiForm::listWindows(QMenu *menu)
 {
     menu->clear();
     auto *group = new QActionGroup(menu);
-    const QList<QMdiSubWindow *> windows = openChildren();
+    const QList<QMdiSubWindow *> windows = openChildren(QMdiArea::CreationOrder);
     for (qsizetype at = 0; at < windows.size(); ++at) {
         QMdiSubWindow *window = windows[at];
         QString title = window->windowTitle();
@@ -179,7 +188,7 @@ void MdiForm::resizeEvent(QResizeEvent *event)
 void MdiForm::closeEvent(QCloseEvent *event)
 {
     m_area->closeAllSubWindows();
-    if (!openChildren().isEmpty()) {
+    if (!openChildren(QMdiArea::CreationOrder).isEmpty()) {
         event->ignore();
         return;
     }

@@ -6,8 +6,8 @@
 
 #include <QList>
 #include <QMainWindow>
+#include <QMdiArea>
 
-class QMdiArea;
 class QMdiSubWindow;
 class QMenu;
 
@@ -39,6 +39,8 @@ public:
     double Height() const;
 
     void showChild(Form &form);
+    // A shared window has closed: the one that was active before it comes back.
+    void childHidden();
     QMdiArea &area();
 
 protected:
@@ -57,7 +59,7 @@ protected:
 
 private:
     // A shared window that is closed stays in the area, hidden.
-    QList<QMdiSubWindow *> openChildren() const;
+    QList<QMdiSubWindow *> openChildren(QMdiArea::WindowOrder order) const;
     void listWindows(QMenu *menu);
 
     class Area;

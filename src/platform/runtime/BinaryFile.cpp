@@ -71,27 +71,16 @@ void BinaryFile::get(qint64 position, QByteArray &buffer)
         throw RuntimeError(DeviceError);
 }
 
-void BinaryFile::map()
+QByteArrayView BinaryFile::bytes()
 {
     if (m_mapped)
-        m_file.unmap(reinterpret_cast<uchar *>(const_cast<char *>(m_mapped)));
-    m_mappedSize = m_file.size();
-    m_mapped = reinterpret_cast<const char *>(m_file.map(0, m_mappedSize));
-    if (!m_mapped) // an empty file, or a file system that cannot
-        m_mappedSize = 0;
-}
-
-void BinaryFile::getUnmapped(qint64 position, char &byte)
-{
-    if (m_file.size() != m_mappedSize)
-        map();
-    if (position > 0 && position <= m_mappedSize) {
-        byte = m_mapped[position - 1];
-        return;
-    }
-    seek(position);
-    if (m_file.read(&byte, 1) < 0)
-        throw RuntimeError(DeviceError);
+        m_file.unmap(m_mapped);
+    m_mapped = m_file.map(0, size());
+    if (m_mapped)
+        return {m_mapped, size()};
+    m_content.resize(size());
+    get(1, m_content);
+    return m_content;
 }
 
 void BinaryFile::put(qint64 position, const QByteArray &bytes)

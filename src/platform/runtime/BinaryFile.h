@@ -8,6 +8,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QFile>
 #include <QString>
 
@@ -26,25 +27,18 @@ public:
     qint64 size() const { return m_file.size(); }
     // Fills the buffer from the position on. What would lie behind the end of the file stays as it was.
     void get(qint64 position, QByteArray &buffer);
-    // The same for a single byte; made to be asked for every byte of a large file, one after another.
-    void get(qint64 position, char &byte)
-    {
-        if (position > 0 && position <= m_mappedSize)
-            byte = m_mapped[position - 1];
-        else
-            getUnmapped(position, byte);
-    }
+    // The file as it stands, for who takes it byte by byte; mapped into memory, so that a byte costs one access to it.
+    // It goes when the file is closed or its bytes are asked for anew.
+    QByteArrayView bytes();
     // Error 54 on a file that is open for reading, 61 when the disk is full, 57 when it fails otherwise.
     void put(qint64 position, const QByteArray &bytes);
 
 private:
-    void getUnmapped(qint64 position, char &byte);
-    void map();
     void seek(qint64 position);
 
     QFile m_file;
-    const char *m_mapped = nullptr; // the file's bytes in memory, once it is read bytewise
-    qint64 m_mappedSize = 0;
+    uchar *m_mapped = nullptr;
+    QByteArray m_content; // where the file system does not map
 };
 
 // The lowest number from 1 to 511 that is not taken; error 67 when all are. It is not taken before a file is opened.

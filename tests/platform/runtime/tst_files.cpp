@@ -178,7 +178,6 @@ void FilesTest::tellsLengths_data()
     QTest::addColumn<QString>("outcome");
 
     QTest::newRow("file in another case") << u"\\TEMP\\letter.doc"_s << u"6"_s;
-    QTest::newRow("empty file") << u"\\Temp\\notes"_s << u"0"_s;
     QTest::newRow("no such file") << u"\\Temp\\none.doc"_s << u"error 53"_s;
     QTest::newRow("folder") << u"\\Temp\\Search"_s << u"error 53"_s;
 }
@@ -202,7 +201,6 @@ void FilesTest::makesFolders_data()
     QTest::newRow("folder in another case") << u"\\temp\\SEARCH"_s << u"error 75"_s << true;
     QTest::newRow("name of a file") << u"\\temp\\Notes"_s << u"error 75"_s << false;
     QTest::newRow("in no folder") << u"\\none\\New"_s << u"error 76"_s << false;
-    QTest::newRow("in a file") << u"\\temp\\notes\\New"_s << u"error 76"_s << false;
 }
 
 void FilesTest::makesFolders()
