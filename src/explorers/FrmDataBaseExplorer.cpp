@@ -9,6 +9,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+using desktop::ListedColumn;
 using desktop::ListItem;
 using runtime::Value;
 

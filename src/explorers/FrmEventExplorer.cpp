@@ -6,10 +6,10 @@
 #include "shell/Session.h"
 
 #include <array>
-#include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
 
+using desktop::ListedColumn;
 using desktop::ListItem;
 
 namespace {
@@ -43,11 +43,6 @@ GroupedTable events()
         .deleteStart = u"delete * from EventInformation where EventIdentification = "_s,
     };
 }
-
-// What the panes leave free of the window, in twips.
-constexpr double aboveAndBelowPanes = 1720;
-constexpr double splitterBesideHeadline = 425;
-constexpr double rightOfList = 200;
 
 // The caption comes first: setting it loads the window, and what the window presets is then written over.
 void openEvent(const ListItem &item)
@@ -149,27 +144,9 @@ void FrmEventExplorer::Toolbar1_ButtonClick(QAction *button)
     });
 }
 
-// In a window smaller than what the panes leave free, they grow again as it shrinks.
 void FrmEventExplorer::Form_Resize()
 {
-    ExplorerPanes &panes = m_panes;
-    runtime::everyStep([&] { panes.TreClassView->setHeight(std::abs(Height() - aboveAndBelowPanes)); },
-                       [&] { panes.Picture1->setHeight(panes.TreClassView->Height() + splitterBesideHeadline); },
-                       [&] {
-                           const double left = panes.LstStudenInformation->Left();
-                           panes.LblMemberInformation->setLeft(left);
-                           panes.LblMemberInformation->setWidth(std::abs(Width() - (left + rightOfList)));
-                       },
-                       [&] { panes.LblMemberListing->setWidth(panes.TreClassView->Width()); },
-                       [&] {
-                           panes.LstStudenInformation->setHeight(std::abs(Height() - aboveAndBelowPanes));
-                           panes.LstStudenInformation->setWidth(panes.LblMemberInformation->Width());
-                       },
-                       [&] {
-                           for (desktop::Panel *panel : panes.StatusBar1->Panels())
-                               panel->setPanelWidth(Width() / double(panes.StatusBar1->Panels().size()));
-                       },
-                       [&] { Session::current().ResizeReady = true; });
+    runtime::everyStep([this] { m_panes.followWindow(); }, [] { Session::current().ResizeReady = true; });
 }
 
 void FrmEventExplorer::resizeEvent(QResizeEvent *event)

@@ -1,6 +1,6 @@
 #include "explorers/UserTree.h"
 
-#include "explorers/ListedColumns.h"
+#include "platform/desktop/ListedColumns.h"
 #include "platform/runtime/Conversion.h"
 #include "shell/CLsDataBaseConnection.h"
 
@@ -8,6 +8,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+using desktop::ListedColumn;
 using desktop::Node;
 using runtime::joinedText;
 

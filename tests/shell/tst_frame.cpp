@@ -1,6 +1,7 @@
 #include "dossier/FrmAddEditMember.h"
 #include "explorers/FrmDataBaseExplorer.h"
 #include "explorers/FrmEventExplorer.h"
+#include "library/frmDocumentExp.h"
 #include "platform/runtime/Clock.h"
 #include "shell/frame/DesignTime.h"
 #include "shell/frame/MDIBaseForm.h"
@@ -110,6 +111,19 @@ private Q_SLOTS:
         QCOMPARE(qobject_cast<FrmEventExplorer *>(windows[3]->widget())->UserLevel, qint16(0));
         windows[1]->close();
         QTRY_COMPARE(frame.area().subWindowList().size(), 3);
+    }
+
+    void theLibraryOpensAsItsManager()
+    {
+        CaughtErrors errors;
+        MDIBaseForm &frame = MDIBaseForm::frame();
+        frame.Show();
+        item("mnuDoc").trigger();
+        const auto *library = qobject_cast<frmDocumentExp *>(frame.area().subWindowList().last()->widget());
+        QVERIFY(library && library->adminFunction && library->isVisible());
+        m_folder->execute("DROP TABLE ObjectTbl");
+        item("mnuDoc").trigger(); // fails without a word
+        QCOMPARE(frame.area().subWindowList().size(), 2);
     }
 
     // The guard of the menu swallows what fails while a window loads, and no half window stays.

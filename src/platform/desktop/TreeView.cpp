@@ -3,12 +3,56 @@
 #include "platform/desktop/Keys.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPalette>
+#include <QStyledItemDelegate>
+
+#include <utility>
 
 namespace desktop {
+
+namespace {
+
+bool standsUnder(const QTreeWidgetItem *node, const QTreeWidgetItem *ancestor)
+{
+    while (node && node != ancestor)
+        node = node->parent();
+    return node;
+}
+
+} // namespace
+
+// Tells the tree of the edits that begin, and of the keys that go to an editor.
+class TreeView::LabelDelegate : public QStyledItemDelegate
+{
+public:
+    explicit LabelDelegate(TreeView *tree) : QStyledItemDelegate(tree), m_tree(tree) {}
+
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        m_tree->m_edited = static_cast<Node *>(m_tree->itemFromIndex(index));
+        Q_EMIT m_tree->BeforeLabelEdit();
+        QWidget *editor = QStyledItemDelegate::createEditor(parent, option, index);
+        editor->setObjectName(m_tree->objectName() + QLatin1String(".LabelEdit"));
+        editor->setAccessibleName(m_tree->m_edited->Text());
+        return editor;
+    }
+
+protected:
+    bool eventFilter(QObject *editor, QEvent *event) override
+    {
+        if (event->type() == QEvent::KeyPress)
+            m_tree->m_pressedKey = static_cast<QKeyEvent *>(event)->key();
+        return QStyledItemDelegate::eventFilter(editor, event);
+    }
+
+private:
+    TreeView *m_tree;
+};
 
 void Node::setBold(bool bold)
 {
@@ -33,6 +77,7 @@ Node &Nodes::Add(Node *parent, const QString &key, const QString &text)
     if (!key.isEmpty() && m_byKey.contains(key))
         throw runtime::RuntimeError(runtime::KeyNotUnique);
     auto *node = new Node();
+    node->setFlags(node->flags() | Qt::ItemIsEditable);
     node->Key = key;
     node->setText(text);
     if (parent)
@@ -40,9 +85,26 @@ Node &Nodes::Add(Node *parent, const QString &key, const QString &text)
     else
         m_tree->addTopLevelItem(node);
     m_nodes.push_back(node);
+    node->m_index = Count();
     if (!key.isEmpty())
         m_byKey.insert(key, node);
     return *node;
+}
+
+void Nodes::Remove(int index)
+{
+    Node *removed = &(*this)(index);
+    if (standsUnder(m_tree->SelectedItem().get(), removed)) // from here the selection goes on to what is left
+        m_tree->setCurrentItem(removed);
+    std::erase_if(m_nodes, [this, removed](const Node *node) {
+        const bool goes = standsUnder(node, removed);
+        if (goes)
+            m_byKey.remove(node->Key);
+        return goes;
+    });
+    for (int place = 1; place <= Count(); ++place)
+        m_nodes[size_t(place - 1)]->m_index = place;
+    delete removed;
 }
 
 void Nodes::Clear()
@@ -63,13 +125,60 @@ TreeView::TreeView(QWidget *parent, QAnyStringView name) : ControlOf(parent, nam
 {
     setColumnCount(1);
     header()->hide();
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     setUniformRowHeights(true);
+    setItemDelegate(new LabelDelegate(this));
+    setLabelEdit(tvwManual);
 }
 
 ObjectRef<Node> TreeView::SelectedItem() const
 {
     const QList<QTreeWidgetItem *> selected = selectedItems();
     return selected.isEmpty() ? nullptr : static_cast<Node *>(selected.constFirst());
+}
+
+void TreeView::setLabelEdit(LabelEditConstants begin)
+{
+    setEditTriggers(begin == tvwAutomatic ? SelectedClicked : NoEditTriggers);
+}
+
+void TreeView::StartLabelEdit()
+{
+    if (const auto node = SelectedItem(); node && state() != EditingState)
+        editItem(node.get());
+}
+
+void TreeView::commitData(QWidget *editor)
+{
+    m_newLabel = qobject_cast<QLineEdit *>(editor)->text();
+}
+
+// No key leads from one label's editor to the next one's, whatever the hint says.
+void TreeView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint)
+{
+    QTreeWidget::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    const std::optional<QString> newLabel = std::exchange(m_newLabel, std::nullopt);
+    if (!newLabel)
+        return;
+    bool cancel = false;
+    Q_EMIT AfterLabelEdit(cancel, *newLabel);
+    if (!cancel)
+        m_edited->setText(*newLabel);
+}
+
+void TreeView::mousePressEvent(QMouseEvent *event)
+{
+    Q_EMIT MouseDown(changedButton(*event), event->globalPosition().toPoint());
+    if (event->button() != Qt::RightButton)
+        QTreeWidget::mousePressEvent(event);
+}
+
+void TreeView::contextMenuEvent(QContextMenuEvent *event)
+{
+    event->accept(); // by the mouse it is the press of the button that counts
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        Q_EMIT MouseDown(vbRightButton, viewport()->mapToGlobal(visualItemRect(currentItem()).bottomLeft()));
 }
 
 void TreeView::mouseReleaseEvent(QMouseEvent *event)
@@ -90,12 +199,30 @@ QItemSelectionModel::SelectionFlags TreeView::selectionCommand(const QModelIndex
 
 void TreeView::keyPressEvent(QKeyEvent *event)
 {
+    m_pressedKey = event->key();
     const QTreeWidgetItem *before = SelectedItem().get();
     QTreeWidget::keyPressEvent(event);
     const QTreeWidgetItem *after = SelectedItem().get();
     const bool confirmed = keyCode(*event) == vbKeyReturn || event->key() == Qt::Key_Space;
     if (after && (after != before || confirmed))
         Q_EMIT Click();
+}
+
+// A key that answers a message box is pressed there and released here: it is not meant for the tree.
+void TreeView::keyReleaseEvent(QKeyEvent *event)
+{
+    QTreeWidget::keyReleaseEvent(event);
+    if (event->isAutoRepeat() || event->key() != m_pressedKey)
+        return;
+    m_pressedKey = 0;
+    Q_EMIT KeyUp(keyCode(*event));
+}
+
+// A long label is scrolled to instead of being cut off; shorter ones leave no part of their row that is beside it.
+void TreeView::resizeEvent(QResizeEvent *event)
+{
+    QTreeWidget::resizeEvent(event);
+    header()->setMinimumSectionSize(viewport()->width());
 }
 
 // The first focus selects the first node, so that the keyboard has a place to start from.

@@ -5,6 +5,7 @@
 #include "events/frmMeeting.h"
 #include "explorers/FrmDataBaseExplorer.h"
 #include "explorers/FrmEventExplorer.h"
+#include "library/frmDocumentExp.h"
 #include "platform/desktop/MsgBox.h"
 #include "platform/runtime/Application.h"
 #include "platform/runtime/Conversion.h"
@@ -151,6 +152,12 @@ void MDIBaseForm::mnuDifferentUser_Click()
         frmLogin::shared().ReLogin = true;
         frmLogin::shared().Show();
     });
+}
+
+void MDIBaseForm::mnuDoc_Click()
+{
+    desktop::reportOutOfMemoryOnly(
+        [] { desktop::showNew<frmDocumentExp>([](frmDocumentExp &library) { library.adminFunction = true; }); });
 }
 
 void MDIBaseForm::mnuExit_Click()

@@ -44,6 +44,7 @@ public:
     void mnuNewEvent_Click();
     void mnuEventExplorer_Click();
     void mnuDifferentUser_Click();
+    void mnuDoc_Click();
     void mnuExit_Click();
     void mnuWhoAmI_Click();
     void Toolbar1_ButtonClick(QAction *button);

@@ -56,7 +56,7 @@ void MDIBaseForm::setUpFileMenu()
 void MDIBaseForm::setUpToolsMenu()
 {
     QMenu *tools = addMenu("mnuAdministrator", u"Tools"_s, DesignTime::mnuAdministratorVisible);
-    addItem(tools, "mnuDoc", u"Document Library"_s, nullptr, DesignTime::mnuDocVisible);
+    addItem(tools, "mnuDoc", u"Document Library"_s, &MDIBaseForm::mnuDoc_Click, DesignTime::mnuDocVisible);
     addSeparator(tools, "sepMenu");
     addItem(tools, "mnuDatabaseEditor", u"Database/Form Editor"_s);
     addSeparator(tools, "mnusep1");

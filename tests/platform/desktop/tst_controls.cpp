@@ -3,6 +3,7 @@
 #include "platform/desktop/Controls.h"
 #include "platform/desktop/KeyboardState.h"
 #include "platform/desktop/ListView.h"
+#include "platform/desktop/MenuBar.h"
 #include "platform/desktop/StatusBar.h"
 #include "platform/desktop/Toolbar.h"
 #include "platform/desktop/TreeView.h"
@@ -72,6 +73,55 @@ private Q_SLOTS:
         QCOMPARE(errorOf([&tree] { tree.SelectedItem()->Text(); }), 91);
         tree.Nodes.Clear();
         QCOMPARE(errorOf([&tree] { tree.Nodes.Add(nullptr, u"Key A"_s, u"A"_s); }), 0);
+    }
+
+    void aRemovedNodeTakesItsChildrenAndFreesTheirKeys()
+    {
+        desktop::TreeView tree(nullptr, u"tree");
+        desktop::Node &a = tree.Nodes.Add(nullptr, u"a"_s, u"a"_s);
+        desktop::Node &b = tree.Nodes.Add(nullptr, u"b"_s, u"b"_s);
+        desktop::Node &underA = tree.Nodes.Add(&a, u"underA"_s, u"underA"_s);
+        tree.Nodes.Add(&underA, u"deep"_s, u"deep"_s);
+        desktop::Node &c = tree.Nodes.Add(&b, {}, u"c"_s);
+        tree.setCurrentItem(&underA);
+        tree.Nodes.Remove(a.Index());
+        QCOMPARE(tree.Nodes.Count(), 2);
+        QCOMPARE(b.Index(), 1);
+        QCOMPARE(c.Index(), 2);
+        QCOMPARE(c.Parent().get(), &b);
+        QCOMPARE(b.Parent().get(), nullptr);
+        QCOMPARE(tree.SelectedItem().get(), &b); // there is always one
+        QCOMPARE(errorOf([&tree] { tree.Nodes.Add(nullptr, u"deep"_s, {}); }), 0);
+        QCOMPARE(errorOf([&tree] { tree.Nodes.Add(nullptr, u"b"_s, {}); }), 35602);
+        QCOMPARE(errorOf([&tree] { tree.Nodes.Remove(4); }), 35600);
+    }
+
+    void f10GoesToTheMenuBarBesideTheKeyboardAndAltToNone()
+    {
+        QWidget window;
+        QWidget left(&window);
+        QWidget right(&window);
+        desktop::TextBox leftBox(&left, u"left");
+        desktop::TextBox rightBox(&right, u"right");
+        desktop::MenuBar leftBar(&left, u"leftBar");
+        desktop::MenuBar rightBar(&right, u"rightBar");
+        leftBar.add(u"one"_s, u"One"_s);
+        rightBar.add(u"two"_s, u"Two"_s);
+        window.show();
+        window.activateWindow();
+        for (const auto &[box, bar] : {std::pair(&leftBox, &leftBar), std::pair(&rightBox, &rightBar)}) {
+            box->setFocus();
+            QTRY_VERIFY(box->hasFocus());
+            QTest::keyClick(box, Qt::Key_Alt, Qt::AltModifier);
+            QVERIFY(box->hasFocus());
+            QTest::keyClick(box, Qt::Key_F10);
+            QMenu *menu = bar->findChild<QMenu *>();
+            QTRY_VERIFY(menu->isVisible());
+            QTest::keyClick(menu, Qt::Key_Escape);
+            QTRY_VERIFY(bar->hasFocus());
+            QTest::keyClick(bar, Qt::Key_Escape);
+            QTRY_VERIFY(box->hasFocus());
+        }
     }
 
     void listItemsCountFromOne()

@@ -6,6 +6,8 @@
 
 #include <span>
 
+namespace desktop {
+
 struct ListedColumn
 {
     QStringView header;
@@ -13,7 +15,9 @@ struct ListedColumn
     QStringView column; // of the query
 };
 
-void setUpHeaders(desktop::ListView &list, std::span<const ListedColumn> columns);
+void setUpHeaders(ListView &list, std::span<const ListedColumn> columns);
 
 // Puts all rows in the place of the list's lines. A line's Tag is the row's key; a Null leaves its place empty.
-void fillList(desktop::ListView &list, data::Recordset &rows, QStringView key, std::span<const ListedColumn> columns);
+void fillList(ListView &list, data::Recordset &rows, QStringView key, std::span<const ListedColumn> columns);
+
+} // namespace desktop

@@ -1,10 +1,12 @@
-#include "explorers/ListedColumns.h"
+#include "platform/desktop/ListedColumns.h"
 
 #include "platform/runtime/Conversion.h"
 
 #include <QHeaderView>
 
-void setUpHeaders(desktop::ListView &list, std::span<const ListedColumn> columns)
+namespace desktop {
+
+void setUpHeaders(ListView &list, std::span<const ListedColumn> columns)
 {
     list.ColumnHeaders.Clear();
     for (const ListedColumn &column : columns)
@@ -14,12 +16,12 @@ void setUpHeaders(desktop::ListView &list, std::span<const ListedColumn> columns
         header.resizeSection(section, qMax(header.defaultSectionSize(), header.sectionSizeHint(section)));
 }
 
-void fillList(desktop::ListView &list, data::Recordset &rows, QStringView key, std::span<const ListedColumn> columns)
+void fillList(ListView &list, data::Recordset &rows, QStringView key, std::span<const ListedColumn> columns)
 {
     list.ListItems.Clear();
-    desktop::ListFilling filling(list);
+    ListFilling filling(list);
     for (; !rows.Eof(); rows.MoveNext()) {
-        desktop::ListItem &item = filling.Add();
+        ListItem &item = filling.Add();
         item.Tag = runtime::joinedText(rows[key].Value());
         for (size_t at = 0; at < columns.size(); ++at) {
             runtime::Value value = rows[columns[at].column].Value();
@@ -28,3 +30,5 @@ void fillList(desktop::ListView &list, data::Recordset &rows, QStringView key, s
         }
     }
 }
+
+} // namespace desktop

@@ -1,0 +1,96 @@
+#include "library/LibraryDocuments.h"
+
+#include "library/StoredFile.h"
+#include "platform/desktop/ListedColumns.h"
+#include "platform/runtime/Conversion.h"
+#include "shell/CLsDataBaseConnection.h"
+
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+using desktop::ListedColumn;
+using runtime::Value;
+
+namespace {
+
+constexpr std::array documentColumns{
+    ListedColumn{u"Document ID", {}, u"DocumentId"},
+    ListedColumn{u"Document Date", {}, u"DocumentDate"},
+    ListedColumn{u"Document Name", {}, u"DocumentName"},
+    ListedColumn{u"Document Version", {}, u"DocuemntVersion"},
+};
+
+// Twips.
+constexpr double dateWidth = 2700;
+constexpr double nameWidth = 4500;
+
+// The rows are those of one name in one node, the newest version first. Behind the last number that the column holds
+// comes one that it refuses.
+Value nextVersion(data::Recordset &versions)
+{
+    if (versions.Eof())
+        return Value(qint32(1));
+    const Value newest = versions[u"DocuemntVersion"].Value();
+    return newest.isNull() ? Value() : Value(runtime::toDouble(newest) + 1);
+}
+
+} // namespace
+
+LibraryDocuments::LibraryDocuments(const desktop::TreeView &tree, desktop::ListView &list,
+                                   desktop::CommonDialog &dialog)
+    : m_tree(tree), m_list(list), CommonDialog1(dialog)
+{
+    setUpHeaders(list, documentColumns);
+    list.ColumnHeaders.setWidth(2, dateWidth);
+    list.ColumnHeaders.setWidth(3, nameWidth);
+}
+
+QString LibraryDocuments::selectedIndex() const
+{
+    return QString::number(m_tree.SelectedItem()->Index());
+}
+
+void LibraryDocuments::ListDocuments()
+{
+    CLsDataBaseConnection store;
+    data::Recordset documents =
+        store.CreateRecordset(u"select * from [Resources] Where ObjectIndex = "_s + selectedIndex());
+    fillList(m_list, documents, u"DocumentId", documentColumns);
+    documents.Close();
+    store.DbClose();
+}
+
+void LibraryDocuments::upload()
+{
+    CLsDataBaseConnection store;
+    data::Recordset documents = store.CreateRecordset(u"select * from Resources"_s);
+    CommonDialog1.DialogTitle = u"OPEN FILE"_s;
+    CommonDialog1.Filter = u"All files (*.*)|*.*|EXE files (*.exe)|*.exe|COM files (*.com)|*.com|"
+                           "BIN files (*.bin)|*.bin |SYS files (*.sys)|*.sys|DLL files (*.dll)|*.dll"_s;
+    if (!CommonDialog1.ShowOpen())
+        throw runtime::RuntimeError(runtime::ObjectRequired); // what would be closed now has never been there
+    documents.AddNew();
+    CLsDataBaseConnection lookup;
+    data::Recordset versions =
+        lookup.CreateRecordset(u"select * from Resources where DocumentName = '"_s + CommonDialog1.FileTitle +
+                               u"'  and ObjectIndex = "_s + selectedIndex() + u" ORDER BY DocuemntVersion desc"_s);
+    const FileToStore file(CommonDialog1.FileName);
+    documents[u"ObjectIndex"].setValue(Value(qint32(m_tree.SelectedItem()->Index())));
+    documents[u"DocumentName"].setValue(CommonDialog1.FileTitle);
+    documents[u"Document"].AppendChunk(file.bytes());
+    documents[u"DocuemntVersion"].setValue(nextVersion(versions));
+    documents.Update();
+    file.close();
+    documents.Update();
+}
+
+void LibraryDocuments::linkTo(const QString &person) const
+{
+    CLsDataBaseConnection store;
+    data::Recordset links = store.CreateRecordset(u"Select * from ReferenceInfo"_s);
+    links.AddNew();
+    links[u"DocumentId"].setValue(m_list.SelectedItem()->Text());
+    links[u"PersonalInformationId"].setValue(person);
+    links.UpdateBatch();
+}

@@ -1,0 +1,143 @@
+// The documents of the library: their list, the upload with its versions, and the links to persons.
+#include "library/OpenLibrary.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+using Mode = OpenLibrary::Mode;
+
+class tst_LibraryDocuments : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        m_folder.emplace(DataStoreFolder::Content::Empty);
+        m_folder->execute("INSERT INTO ObjectTbl (ObjectIndex, ObjectParentIndex, ObjectText, ObjectType) VALUES"
+                          " (2, 1, 'Office', 'Library'), (3, 2, 'Bylaws', 'Catagory')");
+        m_errors.emplace();
+    }
+    void cleanup()
+    {
+        m_errors.reset();
+        m_folder.reset();
+    }
+
+    void allVersionsOfANodeAreListed()
+    {
+        m_folder->execute("INSERT INTO Resources (ObjectIndex, DocumentName, DocumentDate, DocuemntVersion) VALUES"
+                          " (2, 'a.txt', '2003-01-06 00:00:00', 1), (3, 'b.txt', NULL, 1), (2, 'a.txt', NULL, 2),"
+                          " (2, NULL, NULL, NULL)");
+        for (const Mode mode : {Mode::Manager, Mode::Browser}) {
+            OpenLibrary library(mode);
+            QCOMPARE(library.documents(), QStringList()); // until a node is clicked
+            library.press(2);
+            QCOMPARE(library.documents(), (QStringList{u"1|1/6/2003|a.txt|1"_s, u"3||a.txt|2"_s, u"4|||"_s}));
+            library.press(1);
+            QCOMPARE(library.documents(), QStringList());
+            QTest::keyClick(&library.tree(), Qt::Key_Down);
+            QCOMPARE(library.documents().size(), 3);
+        }
+        QCOMPARE(m_errors->takeNumber(), 0);
+    }
+
+    void versionsCountByNameWithinANode()
+    {
+        m_folder->execute("INSERT INTO Resources (ObjectIndex, DocumentName, DocuemntVersion) VALUES"
+                          " (2, 'A.TXT', 4), (2, 'a.txt', 2), (2, 'b.txt', 9)");
+        const QString path = file(u"a.txt"_s, "one");
+        OpenLibrary library;
+        library.press(2);
+        FileAnswers files({path, path, path});
+        library.choose("mnuUpLoadDocument");
+        QCOMPARE(files.title, u"OPEN FILE"_s);
+        QCOMPARE(files.filters, (QStringList{u"All files (*)"_s, u"EXE files (*.exe)"_s, u"COM files (*.com)"_s,
+                                             u"BIN files (*.bin )"_s, u"SYS files (*.sys)"_s, u"DLL files (*.dll)"_s}));
+        QCOMPARE(library.documents().size(), 3); // the new line shows when the node is clicked again
+        library.choose("mnuUpLoadDocument");
+        library.press(3);
+        library.choose("mnuUpLoadDocument");
+        QCOMPARE(m_folder->rows("SELECT ObjectIndex, DocumentName, DocuemntVersion, typeof(DocuemntVersion), "
+                                "hex(Document), DocumentDate IS NULL FROM Resources WHERE DocumentId > 3"),
+                 (QStringList{u"2|a.txt|5|integer|6F6E6500|0"_s, u"2|a.txt|6|integer|6F6E6500|0"_s,
+                              u"3|a.txt|1|integer|6F6E6500|0"_s}));
+        library.press(2);
+        QCOMPARE(library.documents().size(), 5);
+    }
+
+    void aVersionWhoseRowIsGoneIsGivenAgain()
+    {
+        m_folder->execute("INSERT INTO Resources (ObjectIndex, DocumentName, DocuemntVersion) VALUES"
+                          " (2, 'a.txt', 1), (2, 'a.txt', 2); DELETE FROM Resources WHERE DocuemntVersion = 2");
+        OpenLibrary library;
+        library.press(2);
+        FileAnswers files({file(u"a.txt"_s, "")});
+        library.choose("mnuUpLoadDocument");
+        QCOMPARE(m_folder->row("SELECT DocuemntVersion, hex(Document) FROM Resources WHERE DocumentId = 3"),
+                 u"2|00"_s); // an empty file is one zero byte
+    }
+
+    void whatCannotBeUploadedEndsTheProgram_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("error");
+        QTest::newRow("cancelled") << QString() << 424;
+        QTest::newRow("apostrophe") << u"it's.txt"_s << -2147217900;
+        QTest::newRow("behind the last version") << u"full.txt"_s << -2147217887;
+        QTest::newRow("behind an unknown version") << u"null.txt"_s << 0;
+    }
+    void whatCannotBeUploadedEndsTheProgram()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, error);
+        m_folder->execute("INSERT INTO Resources (ObjectIndex, DocumentName, DocuemntVersion) VALUES"
+                          " (1, 'full.txt', 2147483647), (1, 'null.txt', NULL)");
+        OpenLibrary library;
+        FileAnswers files({name.isEmpty() ? QString() : file(name, "x")});
+        library.choose("mnuUpLoadDocument");
+        QCOMPARE(m_errors->takeNumber(), error);
+        QCOMPARE(m_folder->row("SELECT count(*), count(DocuemntVersion) FROM Resources"),
+                 error == 0 ? u"3|1"_s : u"2|1"_s);
+        QCOMPARE(m_folder->row("PRAGMA integrity_check"), u"ok"_s);
+    }
+
+    void aDoubleClickLinksInTheBrowser_data()
+    {
+        QTest::addColumn<Mode>("mode");
+        QTest::addColumn<QString>("person");
+        QTest::addColumn<QStringList>("links");
+        QTest::newRow("browser") << Mode::Browser << u"7"_s << QStringList{u"2|7"_s, u"2|7"_s};
+        QTest::newRow("manager") << Mode::Manager << u"7"_s << QStringList();
+        QTest::newRow("no person") << Mode::Browser << QString() << QStringList();
+        QTest::newRow("no number") << Mode::Browser << u"Cole"_s << QStringList();
+    }
+    void aDoubleClickLinksInTheBrowser()
+    {
+        QFETCH(Mode, mode);
+        QFETCH(QString, person);
+        QFETCH(QStringList, links);
+        m_folder->execute("INSERT INTO Resources (ObjectIndex, DocumentName) VALUES (2, 'a.txt'), (2, 'b.txt')");
+        OpenLibrary library(mode, person);
+        library.window().PersonalInformationId = person;
+        QTest::mouseDClick(library.list().viewport(), Qt::LeftButton, {}, QPoint(10, 10)); // an empty list
+        library.press(2);
+        BoxAnswers boxes; // nothing is told
+        library.doubleClickDocument(2);
+        QTest::keyClick(&library.list(), Qt::Key_Return);
+        QCOMPARE(m_folder->rows("SELECT DocumentId, PersonalInformationId FROM ReferenceInfo"), links);
+    }
+
+private:
+    QString file(const QString &name, const QByteArray &content)
+    {
+        QFile file(m_folder->path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            qFatal("cannot write %s", qPrintable(name));
+        return file.fileName();
+    }
+
+    std::optional<DataStoreFolder> m_folder;
+    std::optional<CaughtErrors> m_errors;
+};
+
+QTEST_MAIN(tst_LibraryDocuments)
+#include "tst_librarydocuments.moc"
