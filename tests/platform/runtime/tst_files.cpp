@@ -1,4 +1,5 @@
 #include "platform/runtime/Files.h"
+#include "platform/runtime/TextFile.h"
 #include "support/OrdinaryUser.h"
 #include "support/Outcome.h"
 
@@ -32,6 +33,10 @@ private Q_SLOTS:
     void tellsLengths();
     void makesFolders_data();
     void makesFolders();
+    void readsLines_data();
+    void readsLines();
+    void readsNoLinesWhereThereIsNoFile_data();
+    void readsNoLinesWhereThereIsNoFile();
 
 private:
     QString inFolder(const QString &path) const { return m_folder->path() + path; }
@@ -214,6 +219,47 @@ void FilesTest::makesFolders()
           }),
           "outcome");
     QTEST(runtime::folderExists(inFolder(path)), "stands");
+}
+
+void FilesTest::readsLines_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QStringList>("lines");
+
+    QTest::newRow("empty file") << QByteArray("") << QStringList();
+    QTest::newRow("one line without end") << QByteArray("one") << QStringList{u"one"_s};
+    QTest::newRow("one line with its end") << QByteArray("one\r\n") << QStringList{u"one"_s};
+    QTest::newRow("all three ends and an empty line")
+        << QByteArray("a\r\nb\nc\r\r\nd") << QStringList{u"a"_s, u"b"_s, u"c"_s, QString(), u"d"_s};
+    QTest::newRow("an empty line is a line") << QByteArray("\n") << QStringList{QString()};
+    QTest::newRow("UTF-8 with a mark") << QByteArray("\xef\xbb\xbfM\xc3\xbcller") << QStringList{u"Müller"_s};
+    QTest::newRow("code page") << QByteArray("M\xfcller \x80") << QStringList{u"Müller €"_s};
+    QTest::newRow("code page, cut like UTF-8") << QByteArray("caf\xc3") << QStringList{u"cafÃ"_s};
+}
+
+void FilesTest::readsLines()
+{
+    QFETCH(QByteArray, bytes);
+    QFile file(inFolder(u"/Temp/notes"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    file.close();
+    QTEST(runtime::textLines(inFolder(u"\\temp\\NOTES"_s)), "lines");
+}
+
+void FilesTest::readsNoLinesWhereThereIsNoFile_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("outcome");
+
+    QTest::newRow("no such file") << u"\\Temp\\none"_s << u"error 53"_s;
+    QTest::newRow("no such folder") << u"\\none\\notes"_s << u"error 76"_s;
+    QTest::newRow("folder") << u"\\Temp\\Search"_s << u"error 75"_s;
+}
+
+void FilesTest::readsNoLinesWhereThereIsNoFile()
+{
+    QFETCH(QString, path);
+    QTEST(outcomeOf([&] { return runtime::textLines(inFolder(path)).join(u'|'); }), "outcome");
 }
 
 QTEST_APPLESS_MAIN(FilesTest)
