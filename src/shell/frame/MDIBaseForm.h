@@ -39,12 +39,15 @@ public:
     desktop::StatusBar *StatusBar1;
     desktop::ImageList *ImageList1;
 
+    void mnuNewUser_Click();
     void MnuNewClient_Click();
     void MnuExplorer_Click();
     void mnuNewEvent_Click();
     void mnuEventExplorer_Click();
     void mnuDifferentUser_Click();
     void mnuExit_Click();
+    void MnuOptions_Click();
+    void mnuAddNewUser_Click();
     void mnuWhoAmI_Click();
     void Toolbar1_ButtonClick(QAction *button);
 
