@@ -29,6 +29,7 @@ frmOptions::frmOptions()
       picOptions(u"picOptions"_s)
 {
     setDesignCaption(u"Tolmark Options"_s);
+    tbsOptions->setAccessibleName(u"Options"_s);
     tbsOptions->add(u"PasswordGroup"_s, u"Password"_s, u"Set Options for Group 1"_s);
     setUpPages();
     setUpPassword();
