@@ -3,6 +3,7 @@
 #include "platform/desktop/ListedColumns.h"
 #include "platform/runtime/Conversion.h"
 #include "shell/CLsDataBaseConnection.h"
+#include "shell/users/frmNewUser.h"
 
 #include <array>
 
@@ -57,8 +58,10 @@ void loadUserTree(ExplorerPanes &panes, desktop::ObjectRef<Node> &current)
 void loadUserList(ExplorerPanes &panes)
 {
     const auto node = panes.TreClassView->SelectedItem();
-    if (!node->Tag.isEmpty())
+    if (!node->Tag.isEmpty()) {
+        desktop::showNew<frmNewUser>([&node](frmNewUser &window) { window.SecurityId = node->Tag; });
         return;
+    }
     desktop::ListView &list = *panes.LstStudenInformation;
     setUpHeaders(list, userColumns);
     CLsDataBaseConnection store;

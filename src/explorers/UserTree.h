@@ -8,6 +8,6 @@
 // each node as it is added.
 void loadUserTree(ExplorerPanes &panes, desktop::ObjectRef<desktop::Node> &current);
 
-// Lists the users of the selected group. No click leads here: it is kept for an administrator's list, in which the node
-// of a user would open that user's window.
+// Opens the window of the selected user, or lists the users of the selected group. No click leads here: it is kept for
+// an administrator's list.
 void loadUserList(ExplorerPanes &panes);

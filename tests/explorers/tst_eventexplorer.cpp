@@ -5,7 +5,10 @@
 #include "explorers/UserTree.h"
 #include "platform/desktop/Twips.h"
 #include "shell/Session.h"
+#include "shell/users/frmNewUser.h"
 #include "support/DataStoreFolder.h"
+
+#include <QPointer>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -286,7 +289,7 @@ private Q_SLOTS:
         QCOMPARE(child<Label>(explorer.window(), "LblMemberListing")->Width(), 3000.0);
     }
 
-    void theListOfUsers()
+    void theListOfUsersAndTheWindowOfOne()
     {
         m_folder->execute(
             "DELETE FROM Security; INSERT INTO Security (SecurityId, UserFirstName, UserLastName, UserName,"
@@ -304,6 +307,19 @@ private Q_SLOTS:
             line << list.ColumnHeaders(column).Text << list.ListItems(1).SubItems(column - 1);
         QCOMPARE(line, (QStringList{u"First Name"_s, u"Ann"_s, u"Middle Name"_s, QString(), u"Last Name"_s, u"Bell"_s,
                                     u"User Name"_s, u"abell"_s, u"User Level"_s, u"99"_s}));
+
+        panes.TreClassView->setCurrentItem(&panes.TreClassView->Nodes(3));
+        loadUserList(panes);
+        QCOMPARE(list.ListItems.Count(), 1);
+        QPointer<frmNewUser> user;
+        for (QWidget *widget : QApplication::topLevelWidgets()) {
+            if (auto *found = qobject_cast<frmNewUser *>(widget))
+                user = found;
+        }
+        QVERIFY(user && user->isVisible());
+        QCOMPARE(user->Caption(), u"User Information for Ann  Bell"_s);
+        user->Unload();
+        QTRY_VERIFY(!user);
     }
 
 private:

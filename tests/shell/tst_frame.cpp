@@ -7,6 +7,8 @@
 #include "shell/frame/MDIBaseForm.h"
 #include "shell/frame/frmLogin.h"
 #include "shell/frame/frmSplash.h"
+#include "shell/users/frmNewUser.h"
+#include "shell/users/frmOptions.h"
 #include "support/DataStoreFolder.h"
 #include "support/Dialogs.h"
 
@@ -124,6 +126,26 @@ private Q_SLOTS:
         m_folder->execute("DROP TABLE ObjectTbl");
         item("mnuDoc").trigger(); // fails without a word
         QCOMPARE(frame.area().subWindowList().size(), 2);
+    }
+
+    void theMenuOpensTheWindowsOfUsers()
+    {
+        CaughtErrors errors;
+        MDIBaseForm &frame = MDIBaseForm::frame();
+        frame.setUserId(runtime::Value(u"5"_s));
+        frame.Show();
+        for (const char *name : {"mnuNewUser", "mnuAddNewUser", "MnuOptions"})
+            item(name).trigger();
+        const auto windows = frame.area().subWindowList();
+        QCOMPARE(windows.size(), 4);
+        for (int user : {1, 2}) {
+            const auto *window = qobject_cast<frmNewUser *>(windows[user]->widget());
+            QVERIFY(window && window->isVisible());
+            QCOMPARE(window->SecurityId, QString());
+        }
+        const auto *options = qobject_cast<frmOptions *>(windows[3]->widget());
+        QVERIFY(options && options->isVisible());
+        QCOMPARE(options->SecId(), u"5"_s);
     }
 
     // The guard of the menu swallows what fails while a window loads, and no half window stays.

@@ -6,7 +6,7 @@ namespace desktop {
 
 namespace {
 
-enum Column : int { LabelColumn, BoxColumn, BehindColumn, ColumnCount };
+enum Column : int { LabelColumn, BoxColumn, ColumnCount };
 
 constexpr int rowBelowAll = 100;
 constexpr int charactersBehind = 8; // the width of what stands behind a box
@@ -21,11 +21,11 @@ FieldGrid::FieldGrid(QWidget *parent) : m_parent(parent), m_layout(new QGridLayo
 
 void FieldGrid::addRow(const QString &label, QWidget *box, Qt::Alignment labelAlignment)
 {
-    auto *caption = new QLabel(label, m_parent);
-    caption->setBuddy(box);
+    m_lastLabel = new Label(m_parent, {}, label);
+    m_lastLabel->setBuddy(box);
     box->setAccessibleName(label);
-    m_layout->addWidget(caption, m_rows, LabelColumn, labelAlignment);
-    m_layout->addWidget(box, m_rows, BoxColumn, 1, ColumnCount - BoxColumn);
+    m_layout->addWidget(m_lastLabel, m_rows, LabelColumn, labelAlignment);
+    m_layout->addWidget(box, m_rows, BoxColumn);
     m_lastBox = box;
     ++m_rows;
 }
@@ -62,20 +62,27 @@ ListBox *FieldGrid::addOneLineList(QAnyStringView name, const QString &label, co
     return list;
 }
 
-void FieldGrid::addBehind(QWidget *widget, const QString &purpose)
+void FieldGrid::addBehind(QWidget *widget)
+{
+    m_layout->removeWidget(m_lastBox);
+    auto *row = new QHBoxLayout; // where the widget is hidden, the box takes its place
+    row->addWidget(m_lastBox, 1);
+    row->addWidget(widget);
+    m_layout->addLayout(row, m_rows - 1, BoxColumn);
+}
+
+void FieldGrid::addNarrowBehind(QWidget *widget, const QString &purpose)
 {
     widget->setAccessibleName(purpose);
     widget->setToolTip(purpose);
     widget->setFixedWidth(charactersBehind * widget->fontMetrics().averageCharWidth());
-    m_layout->removeWidget(m_lastBox);
-    m_layout->addWidget(m_lastBox, m_rows - 1, BoxColumn);
-    m_layout->addWidget(widget, m_rows - 1, BehindColumn);
+    addBehind(widget);
 }
 
 CommandButton *FieldGrid::addButtonBehind(QAnyStringView name, const QString &caption, const QString &purpose)
 {
     auto *button = new CommandButton(m_parent, name, caption);
-    addBehind(button, purpose);
+    addNarrowBehind(button, purpose);
     return button;
 }
 
@@ -83,7 +90,7 @@ ListBox *FieldGrid::addListBehind(QAnyStringView name, const QStringList &items,
 {
     auto *list = new ListBox(m_parent, name, items);
     list->setLines(int(items.size()));
-    addBehind(list, purpose);
+    addNarrowBehind(list, purpose);
     return list;
 }
 

@@ -23,7 +23,12 @@ public:
     // A list box one line high.
     ListBox *addOneLineList(QAnyStringView name, const QString &label, const QStringList &items);
 
-    // Small controls behind the box of the last row; what they are for is their accessible name.
+    // The label of the last row.
+    Label *lastLabel() const { return m_lastLabel; }
+
+    // Behind the box of the last row, as wide as it needs.
+    void addBehind(QWidget *widget);
+    // Small controls in that place; what they are for is their accessible name.
     CommandButton *addButtonBehind(QAnyStringView name, const QString &caption, const QString &purpose);
     ListBox *addListBehind(QAnyStringView name, const QStringList &items, const QString &purpose);
 
@@ -32,10 +37,11 @@ public:
 
 private:
     void addRow(const QString &label, QWidget *box, Qt::Alignment labelAlignment = {});
-    void addBehind(QWidget *widget, const QString &purpose);
+    void addNarrowBehind(QWidget *widget, const QString &purpose);
 
     QWidget *m_parent;
     QGridLayout *m_layout;
+    Label *m_lastLabel = nullptr;
     QWidget *m_lastBox = nullptr;
     int m_rows = 0;
 };

@@ -5,6 +5,7 @@
 
 #include <QCloseEvent>
 #include <QMdiSubWindow>
+#include <QScreen>
 
 #include <utility>
 
@@ -85,6 +86,35 @@ void Form::setSize(double width, double height)
     if (outer() == this)
         m_presetSize = size;
     outer()->resize(size);
+}
+
+void Form::centreOnScreen()
+{
+    adjustSize();
+    const QWidget *shownOn = MdiForm::frame() ? static_cast<QWidget *>(MdiForm::frame()) : this;
+    move(shownOn->screen()->availableGeometry().center() - rect().center());
+}
+
+void Form::keepSize(double width, double height)
+{
+    m_keptSize = QSizeF(width, height);
+    setSize(width, height);
+}
+
+void Form::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    if (m_keptSize)
+        takeKeptSize();
+}
+
+void Form::takeKeptSize()
+{
+    if (outer()->isMaximized()) // which it has to become whole before it can be undone
+        QMetaObject::invokeMethod(
+            this, [this] { outer()->showNormal(); }, Qt::QueuedConnection);
+    else
+        setSize(m_keptSize->width(), m_keptSize->height());
 }
 
 void Form::closeEvent(QCloseEvent *event)

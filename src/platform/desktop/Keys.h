@@ -8,6 +8,8 @@ namespace desktop {
 
 enum KeyCode : int { vbKeyTab = 9, vbKeyReturn = 13, vbKeyEscape = 27, vbKeyDelete = 46, vbKeyF2 = 113 };
 
+enum ShiftMask : int { vbShiftMask = 1, vbCtrlMask = 2, vbAltMask = 4 };
+
 enum MouseButton : int { vbLeftButton = 1, vbRightButton = 2, vbMiddleButton = 4 };
 
 // The code of the key, 0 for a key that no handler asks for.

@@ -120,12 +120,16 @@ void MdiForm::showChild(Form &form)
     auto *host = qobject_cast<QMdiSubWindow *>(form.parentWidget());
     const QSize content = form.testAttribute(Qt::WA_Resized) ? form.size() : form.sizeHint();
     if (!host) {
+        const bool placed = form.testAttribute(Qt::WA_Moved);
+        const QPoint middle = form.geometry().center(); // on the screen
         host = m_area->addSubWindow(&form);
         host->setAttribute(Qt::WA_DeleteOnClose, form.testAttribute(Qt::WA_DeleteOnClose));
         host->resize(form.presetSize().value_or(content.grownBy(borders(*host))));
         form.show();
         host->show();
-        // The area has found a place for it; what still hangs over an edge comes in.
+        // The area has found a place for it, if it has none of its own; what still hangs over an edge comes in.
+        if (placed)
+            host->move(m_area->viewport()->mapFromGlobal(middle) - host->rect().center());
         const QSize room = m_area->viewport()->size() - host->size();
         host->move(qMax(0, qMin(host->x(), room.width())), qMax(0, qMin(host->y(), room.height())));
     }

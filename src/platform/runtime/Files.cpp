@@ -68,7 +68,7 @@ QString nativePath(const QString &path)
 
 QString Dir(const QString &pattern)
 {
-    const qsizetype end = pattern.lastIndexOf(u'\\');
+    const qsizetype end = qMax(pattern.lastIndexOf(u'\\'), pattern.lastIndexOf(u'/'));
     const QString folder = nativePath(pattern.first(qMax<qsizetype>(0, end)));
     QString filter = pattern.sliced(end + 1);
     if (filter == u"*.*")

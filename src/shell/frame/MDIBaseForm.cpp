@@ -13,6 +13,8 @@
 #include "platform/runtime/Files.h"
 #include "shell/frame/ScaleControls.h"
 #include "shell/frame/frmLogin.h"
+#include "shell/users/frmNewUser.h"
+#include "shell/users/frmOptions.h"
 
 #include <QApplication>
 #include <QMdiArea>
@@ -124,6 +126,11 @@ void MDIBaseForm::Form_Unload()
     }
 }
 
+void MDIBaseForm::mnuNewUser_Click()
+{
+    desktop::reportOutOfMemoryOnly([] { desktop::showNew<frmNewUser>(); });
+}
+
 void MDIBaseForm::MnuNewClient_Click()
 {
     desktop::reportOutOfMemoryOnly([] { desktop::showNew<FrmAddEditMember>(); });
@@ -163,6 +170,17 @@ void MDIBaseForm::mnuDoc_Click()
 void MDIBaseForm::mnuExit_Click()
 {
     close();
+}
+
+void MDIBaseForm::MnuOptions_Click()
+{
+    desktop::reportOutOfMemoryOnly(
+        [this] { desktop::showNew<frmOptions>([this](frmOptions &window) { window.setSecId(UserId()); }); });
+}
+
+void MDIBaseForm::mnuAddNewUser_Click()
+{
+    desktop::reportOutOfMemoryOnly([] { desktop::showNew<frmNewUser>(); });
 }
 
 void MDIBaseForm::mnuWhoAmI_Click()

@@ -39,6 +39,7 @@ public:
     desktop::StatusBar *StatusBar1;
     desktop::ImageList *ImageList1;
 
+    void mnuNewUser_Click();
     void MnuNewClient_Click();
     void MnuExplorer_Click();
     void mnuNewEvent_Click();
@@ -46,6 +47,8 @@ public:
     void mnuDifferentUser_Click();
     void mnuDoc_Click();
     void mnuExit_Click();
+    void MnuOptions_Click();
+    void mnuAddNewUser_Click();
     void mnuWhoAmI_Click();
     void Toolbar1_ButtonClick(QAction *button);
 

@@ -41,7 +41,7 @@ void MDIBaseForm::setUpMenus()
 void MDIBaseForm::setUpFileMenu()
 {
     QMenu *file = addMenu("mnuFile", u"File"_s, true);
-    addItem(file, "mnuNewUser", u"New User"_s, nullptr, DesignTime::mnuNewUserVisible);
+    addItem(file, "mnuNewUser", u"New User"_s, &MDIBaseForm::mnuNewUser_Click, DesignTime::mnuNewUserVisible);
     addItem(file, "MnuNewClient", u"New Member"_s, &MDIBaseForm::MnuNewClient_Click);
     addItem(file, "MnuExplorer", u"Member Explorer"_s, &MDIBaseForm::MnuExplorer_Click);
     addSeparator(file, "mnuSep4");
@@ -60,11 +60,11 @@ void MDIBaseForm::setUpToolsMenu()
     addSeparator(tools, "sepMenu");
     addItem(tools, "mnuDatabaseEditor", u"Database/Form Editor"_s);
     addSeparator(tools, "mnusep1");
-    addItem(tools, "MnuOptions", u"Options"_s);
+    addItem(tools, "MnuOptions", u"Options"_s, &MDIBaseForm::MnuOptions_Click);
     QMenu *administrative = tools->addMenu(u"Administrative"_s);
     administrative->setObjectName(u"mnuAdmin.menu"_s);
     administrative->menuAction()->setObjectName(u"mnuAdmin"_s);
-    addItem(administrative, "mnuAddNewUser", u"Add New User"_s);
+    addItem(administrative, "mnuAddNewUser", u"Add New User"_s, &MDIBaseForm::mnuAddNewUser_Click);
 }
 
 void MDIBaseForm::setUpHelpMenu()

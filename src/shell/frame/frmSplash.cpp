@@ -58,8 +58,7 @@ void frmSplash::setUpContent()
     inside->addWidget(lblWarning);
     auto *outside = new QVBoxLayout(this);
     outside->addWidget(Frame1);
-    adjustSize();
-    move(screen()->availableGeometry().center() - rect().center());
+    centreOnScreen();
 }
 
 void frmSplash::Form_Load()

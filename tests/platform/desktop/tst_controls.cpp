@@ -5,6 +5,7 @@
 #include "platform/desktop/ListView.h"
 #include "platform/desktop/MenuBar.h"
 #include "platform/desktop/StatusBar.h"
+#include "platform/desktop/TabStrip.h"
 #include "platform/desktop/Toolbar.h"
 #include "platform/desktop/TreeView.h"
 #include "platform/runtime/Clock.h"
@@ -303,6 +304,35 @@ private Q_SLOTS:
         }
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageUp, Qt::ControlModifier);
         QCOMPARE(dialog.currentIndex(), 2);
+    }
+
+    void aTabIsClickedByWhateverSelectsIt()
+    {
+        desktop::TabStrip tabs(nullptr, u"tabs");
+        QSignalSpy clicks(&tabs, &desktop::TabStrip::Click);
+        tabs.add(u"First"_s, u"One"_s, u"tip"_s);
+        tabs.add(u"Second"_s, u"Two"_s, {});
+        tabs.show();
+        QCOMPARE(clicks.count(), 0);
+        QCOMPARE(tabs.SelectedItem(), 1);
+        const auto clickOn = [&tabs](int tab) {
+            QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(tab - 1).center());
+        };
+        const QList<std::pair<std::function<void()>, int>> steps{
+            {[&] { clickOn(2); }, 2},
+            {[&] { clickOn(2); }, 2},
+            {[&] { tabs.setSelectedItem(1); }, 1},
+            {[&] { tabs.setSelectedItem(1); }, 1},
+            {[&] { QTest::keyClick(&tabs, Qt::Key_Right); }, 2},
+        };
+        for (qsizetype step = 0; step < steps.size(); ++step) {
+            steps[step].first();
+            QCOMPARE(clicks.count(), step + 1);
+            QCOMPARE(tabs.SelectedItem(), steps[step].second);
+        }
+        QCOMPARE(tabs.Key(2), u"Second"_s);
+        QCOMPARE(errorOf([&] { tabs.setSelectedItem(3); }), 35600);
+        QCOMPARE(errorOf([&] { tabs.setSelectedItem(0); }), 35600);
     }
 
     void panelsFollowKeyboardAndClock()

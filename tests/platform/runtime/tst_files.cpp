@@ -1,4 +1,5 @@
 #include "platform/runtime/Files.h"
+#include "platform/runtime/TextFile.h"
 #include "support/OrdinaryUser.h"
 #include "support/Outcome.h"
 
@@ -32,6 +33,8 @@ private Q_SLOTS:
     void tellsLengths();
     void makesFolders_data();
     void makesFolders();
+    void readsLines_data();
+    void readsLines();
 
 private:
     QString inFolder(const QString &path) const { return m_folder->path() + path; }
@@ -87,6 +90,7 @@ void FilesTest::listsPlainFiles_data()
         << u"\\Temp\\*.*"_s << QStringList{u"Letter.doc"_s, u"it's [1].doc"_s, u"notes"_s, u"plan.DOC"_s};
     QTest::newRow("by extension, folder in another case")
         << u"\\temp\\*.doc"_s << QStringList{u"Letter.doc"_s, u"it's [1].doc"_s, u"plan.DOC"_s};
+    QTest::newRow("written with slashes") << u"/Temp/letter.doc"_s << QStringList{u"Letter.doc"_s};
     QTest::newRow("one file") << u"\\Temp\\letter.doc"_s << QStringList{u"Letter.doc"_s};
     QTest::newRow("one file with brackets") << u"\\Temp\\it's [1].doc"_s << QStringList{u"it's [1].doc"_s};
     QTest::newRow("empty folder") << u"\\Temp\\Search\\*.*"_s << QStringList{};
@@ -212,6 +216,32 @@ void FilesTest::makesFolders()
           }),
           "outcome");
     QTEST(runtime::folderExists(inFolder(path)), "stands");
+}
+
+void FilesTest::readsLines_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QStringList>("lines");
+
+    QTest::newRow("empty file") << QByteArray("") << QStringList();
+    QTest::newRow("one line without end") << QByteArray("one") << QStringList{u"one"_s};
+    QTest::newRow("one line with its end") << QByteArray("one\r\n") << QStringList{u"one"_s};
+    QTest::newRow("all three ends and an empty line")
+        << QByteArray("a\r\nb\nc\r\r\nd") << QStringList{u"a"_s, u"b"_s, u"c"_s, QString(), u"d"_s};
+    QTest::newRow("an empty line is a line") << QByteArray("\n") << QStringList{QString()};
+    QTest::newRow("UTF-8 with a mark") << QByteArray("\xef\xbb\xbfM\xc3\xbcller") << QStringList{u"Müller"_s};
+    QTest::newRow("code page") << QByteArray("M\xfcller \x80") << QStringList{u"Müller €"_s};
+    QTest::newRow("code page, cut like UTF-8") << QByteArray("caf\xc3") << QStringList{u"cafÃ"_s};
+}
+
+void FilesTest::readsLines()
+{
+    QFETCH(QByteArray, bytes);
+    QFile file(inFolder(u"/Temp/notes"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    file.close();
+    QTEST(runtime::textLines(inFolder(u"\\temp\\NOTES"_s)), "lines");
+    QCOMPARE(outcomeOf([&] { return runtime::textLines(inFolder(u"\\Temp\\none"_s)).join(u'|'); }), u"error 53"_s);
 }
 
 QTEST_APPLESS_MAIN(FilesTest)

@@ -1,0 +1,157 @@
+#include "platform/desktop/MdiForm.h"
+#include "shell/users/frmOptions.h"
+#include "support/DataStoreFolder.h"
+#include "support/Dialogs.h"
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPointer>
+#include <QScreen>
+#include <QSignalSpy>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr double inView = 210; // twips
+constexpr double outOfView = -20000;
+
+frmOptions *openOptions(const QString &user)
+{
+    return desktop::showNew<frmOptions>([&user](frmOptions &window) { window.setSecId(user); });
+}
+
+} // namespace
+
+class tst_Options : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        m_folder.emplace(DataStoreFolder::Content::Empty);
+        m_folder->execute("DELETE FROM Security; INSERT INTO Security (SecurityId, UserName, UserPassword) VALUES"
+                          " (7, 'ann', 'stored'), (8, 'bo', 'other')");
+    }
+
+    void aPasswordIsChanged_data()
+    {
+        QTest::addColumn<QStringList>("boxes"); // old, new, retyped
+        QTest::addColumn<QString>("message");
+        const QString noOld = u"You must supply your old password"_s;
+        const QString equal = u"The new password cannot match the old password"_s;
+        const QString differ = u"Passwords do not match"_s;
+        const QString changed = u"Your password has been changed"_s;
+        QTest::newRow("all empty") << QStringList{QString(), QString(), QString()} << noOld;
+        QTest::newRow("no old one") << QStringList{QString(), u"new"_s, u"new"_s} << noOld;
+        QTest::newRow("equal to the old one") << QStringList{u"stored"_s, u"stored"_s, u"x"_s} << equal;
+        QTest::newRow("retyped otherwise") << QStringList{u"stored"_s, u"new"_s, u"New"_s} << differ;
+        QTest::newRow("right") << QStringList{u"stored"_s, u"it's new"_s, u"it's new"_s} << changed;
+        QTest::newRow("any old one will do") << QStringList{u"wrong"_s, u"stored"_s, u"stored"_s} << changed;
+        QTest::newRow("none from now on") << QStringList{u"stored"_s, QString(), QString()} << changed;
+    }
+    void aPasswordIsChanged()
+    {
+        QFETCH(QStringList, boxes);
+        QFETCH(QString, message);
+        CaughtErrors errors;
+        QPointer<frmOptions> window = openOptions(u"7"_s);
+        const bool changes = message == u"Your password has been changed";
+        const auto type = [&] {
+            window->txtOldPassword->setText(boxes[0]);
+            window->txtNewPassword->setText(boxes[1]);
+            window->txtNewPasswordRetyped->setText(boxes[2]);
+        };
+        BoxAnswers answers({QMessageBox::Ok, QMessageBox::Ok});
+        type();
+        window->cmdApply->click();
+        QCOMPARE(answers.seen[0].text, message);
+        QCOMPARE(answers.seen[0].icon, QMessageBox::NoIcon);
+        QVERIFY(window->isVisible());
+        const QStringList after{window->txtOldPassword->text(), window->txtNewPassword->text(),
+                                window->txtNewPasswordRetyped->text()};
+        QCOMPARE(after.join(u'|'), changes ? boxes.join(u'|') : u"||"_s);
+        const QStringList stored = m_folder->rows("SELECT UserPassword FROM Security ORDER BY SecurityId");
+        QCOMPARE(stored, (QStringList{changes ? boxes[1] : u"stored"_s, u"other"_s}));
+        type();
+        window->cmdOK->click();
+        QCOMPARE(answers.seen[1].text, message);
+        QTRY_VERIFY(!window);
+    }
+
+    void aUserThatIsNotThereIsReported_data()
+    {
+        QTest::addColumn<QString>("user");
+        QTest::addColumn<int>("error");
+        QTest::newRow("nobody logged in") << QString() << -2147217900;
+        QTest::newRow("no such row") << u"77"_s << 3021;
+    }
+    void aUserThatIsNotThereIsReported()
+    {
+        QFETCH(QString, user);
+        CaughtErrors errors;
+        BoxAnswers none;
+        QPointer<frmOptions> window = openOptions(user);
+        window->txtOldPassword->setText(u"x"_s);
+        window->cmdOK->click();
+        QTEST(errors.takeNumber(), "error");
+        QVERIFY(window->isVisible());
+        window->Unload();
+    }
+
+    // Ctrl+Tab is also the frame's key for its next window.
+    void theKeyboardTurnsTheTabs()
+    {
+        CaughtErrors errors;
+        desktop::MdiForm frame(u"frame");
+        frame.resize(900, 700);
+        frame.Show();
+        openOptions(u"8"_s);
+        frmOptions &window = *openOptions(u"7"_s);
+        QApplication::setActiveWindow(&frame);
+        QVERIFY(QTest::qWaitForWindowActive(&frame));
+        QCOMPARE(QApplication::focusWidget(), window.txtOldPassword);
+        QSignalSpy clicks(window.tbsOptions, &desktop::TabStrip::Click);
+        const auto press = [](Qt::KeyboardModifiers modifiers) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, modifiers);
+        };
+        press(Qt::ControlModifier);
+        QCOMPARE(clicks.count(), 1); // with a single tab on that same one
+        QVERIFY(window.picOptions(0)->isEnabled());
+        window.tbsOptions->add(u"Second"_s, u"Second"_s, {});
+        press(Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(window.tbsOptions->SelectedItem(), 1);
+        for (int selected : {1, 0}) {
+            frame.area().setActiveSubWindow(frame.area().subWindowList()[1]);
+            window.cmdOK->setFocus();
+            press(Qt::ControlModifier);
+            for (int page : {0, 1}) {
+                QCOMPARE(window.picOptions(page)->Left(), page == selected ? inView : outOfView);
+                QCOMPARE(window.picOptions(page)->isEnabled(), page == selected);
+                QVERIFY(window.picOptions(page)->isVisible());
+            }
+        }
+        QCOMPARE(clicks.count(), 3);
+        QCOMPARE(frame.area().activeSubWindow()->widget(), &window);
+        QCOMPARE(window.picOptions(3)->Left(), outOfView);
+    }
+
+    void theWindowOpensInTheMiddleOfTheScreen()
+    {
+        desktop::MdiForm frame(u"frame");
+        frame.setGeometry(frame.screen()->availableGeometry().adjusted(10, 10, -10, -10));
+        frame.Show();
+        const frmOptions &window = *openOptions(u"7"_s);
+        const QMdiSubWindow &host = *frame.area().subWindowList()[0];
+        const QPoint middle = host.mapToGlobal(host.rect().center());
+        const QPoint off = middle - frame.screen()->availableGeometry().center();
+        QVERIFY2(off.manhattanLength() <= 2, qPrintable(u"%1, %2"_s.arg(off.x()).arg(off.y())));
+        QVERIFY(window.picOptions(0)->geometry().bottom() < window.cmdOK->y());
+    }
+
+private:
+    std::optional<DataStoreFolder> m_folder;
+};
+
+QTEST_MAIN(tst_Options)
+#include "tst_options.moc"

@@ -1,0 +1,174 @@
+#include "platform/desktop/Settings.h"
+#include "platform/runtime/Clock.h"
+#include "platform/runtime/Random.h"
+#include "shell/users/frmTip.h"
+#include "support/DataStoreFolder.h"
+#include "support/Dialogs.h"
+
+#include <QPointer>
+#include <QSet>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString storedSetting()
+{
+    return desktop::GetSetting(u"Options"_s, u"Show Tips at Startup"_s, u"none"_s);
+}
+
+void storeSetting(const QString &text)
+{
+    desktop::SaveSetting(u"Options"_s, u"Show Tips at Startup"_s, text);
+}
+
+} // namespace
+
+class tst_Tip : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        m_folder.emplace(DataStoreFolder::Content::None);
+        desktop::setSettingsFile(m_folder->path(u"settings.ini"_s));
+    }
+    void cleanup()
+    {
+        desktop::setSettingsFile({});
+        runtime::setClock({});
+    }
+
+    void aTipOfTheFileIsShown_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QStringList>("tips");
+        QTest::newRow("empty file") << QByteArray("") << QStringList{QString()};
+        QTest::newRow("one line") << QByteArray("Only <b>one</b> & 'this'")
+                                  << QStringList{u"Only <b>one</b> & 'this'"_s};
+        QTest::newRow("an empty line is a tip") << QByteArray("a\n\nb\n") << QStringList{QString(), u"a"_s, u"b"_s};
+        QTest::newRow("lines as Notepad ends them") << QByteArray("a\r\nb\r\n") << QStringList{u"a"_s, u"b"_s};
+    }
+    void aTipOfTheFileIsShown()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(QStringList, tips);
+        writeTips(file);
+        CaughtErrors errors;
+        QPointer<frmTip> window = desktop::showNew<frmTip>();
+        QVERIFY(window->isVisible());
+        QVERIFY(window->chkLoadTipsAtStartup->isChecked());
+        QStringList seen{window->lblTipText->text()};
+        for (int click = 0; click < 100; ++click) {
+            window->cmdNextTip->click();
+            seen << window->lblTipText->text();
+        }
+        seen.removeDuplicates();
+        seen.sort();
+        QCOMPARE(seen, tips);
+        QCOMPARE(storedSetting(), u"none"_s); // seeing tips decides nothing
+        window->cmdOK->click();
+        QTRY_VERIFY(!window);
+    }
+
+    // Without the clock's part, each start would show the same tips.
+    void theTipsAreChosenByTheClock()
+    {
+        writeTips("1\n2\n3\n4\n5\n6\n7\n8\n9\n");
+        runtime::setClock([] { return QDateTime(QDate(2026, 3, 4), QTime(9, 0)); });
+        runtime::Rnd(-1.0F);
+        QPointer<frmTip> window = desktop::showNew<frmTip>();
+        QString tips = window->lblTipText->text();
+        for (int click = 0; click < 2; ++click) {
+            window->cmdNextTip->click();
+            tips += window->lblTipText->text();
+        }
+        QCOMPARE(tips, u"377"_s);
+        window->Unload();
+    }
+
+    void withoutAFileItIsSaidWhatToDo()
+    {
+        CaughtErrors errors;
+        QVERIFY(QDir(m_folder->folder()).mkdir(u"TIPOFDAY.TXT"_s)); // which is no file
+        QPointer<frmTip> window = desktop::showNew<frmTip>();
+        const QString text = u"That the TIPOFDAY.TXT file was not found? \n\nCreate a text file named TIPOFDAY.TXT "
+                             "using NotePad with 1 tip per line. Then place it in the same directory as the "
+                             "application. "_s;
+        window->cmdNextTip->click();
+        QCOMPARE(window->lblTipText->text(), text);
+        QVERIFY(!window->LoadTips({}));
+        window->Unload();
+    }
+
+    void theSettingDecides_data()
+    {
+        QTest::addColumn<QString>("setting");
+        QTest::addColumn<bool>("shown");
+        QTest::addColumn<int>("error");
+        QTest::newRow("1") << u"1"_s << true << 0;
+        QTest::newRow("0") << u"0"_s << false << 0;
+        QTest::newRow("another number") << u" -1 "_s << true << 0;
+        QTest::newRow("another nought") << u"0.0"_s << false << 0;
+        QTest::newRow("not a number") << u"True"_s << false << 13;
+        QTest::newRow("nothing") << u""_s << false << 13;
+    }
+    void theSettingDecides()
+    {
+        QFETCH(QString, setting);
+        QFETCH(bool, shown);
+        QFETCH(int, error);
+        storeSetting(setting);
+        CaughtErrors errors;
+        QPointer<frmTip> window;
+        desktop::guarded([&window] { window = desktop::showNew<frmTip>(); });
+        QCOMPARE(errors.takeNumber(), error);
+        QCOMPARE(window && window->isVisible(), shown);
+        QCOMPARE(storedSetting(), setting);
+        if (shown)
+            window->Unload();
+        QTRY_VERIFY(!window); // also one that was never seen
+    }
+
+    void theCheckBoxKeepsTheSetting()
+    {
+        QPointer<frmTip> window = desktop::showNew<frmTip>();
+        QApplication::setActiveWindow(window);
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        window->chkLoadTipsAtStartup->click();
+        QCOMPARE(storedSetting(), u"0"_s);
+        QTest::keyClick(window, Qt::Key_S, Qt::AltModifier);
+        QTRY_COMPARE(storedSetting(), u"1"_s);
+        window->Unload();
+    }
+
+    // The file that goes with the program.
+    void theShippedTips()
+    {
+        QFile file(QStringLiteral(TIPS_FILE));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        writeTips(file.readAll());
+        QPointer<frmTip> window = desktop::showNew<frmTip>();
+        QSet<QString> seen;
+        for (int click = 0; click < 1000; ++click) {
+            window->cmdNextTip->click();
+            const desktop::Label &tip = *window->lblTipText;
+            QVERIFY2(tip.heightForWidth(tip.width()) <= tip.height(), qPrintable(tip.text())); // none is cut off
+            seen << tip.text();
+        }
+        QCOMPARE(seen.size(), 20);
+        window->Unload();
+    }
+
+private:
+    void writeTips(const QByteArray &bytes)
+    {
+        QFile file(m_folder->path(u"TIPOFDAY.TXT"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    }
+
+    std::optional<DataStoreFolder> m_folder;
+};
+
+QTEST_MAIN(tst_Tip)
+#include "tst_tip.moc"
