@@ -87,6 +87,28 @@ void Form::setSize(double width, double height)
     outer()->resize(size);
 }
 
+void Form::keepSize(double width, double height)
+{
+    m_keptSize = QSizeF(width, height);
+    setSize(width, height);
+}
+
+void Form::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    if (m_keptSize)
+        takeKeptSize();
+}
+
+void Form::takeKeptSize()
+{
+    if (outer()->isMaximized()) // which it has to become whole before it can be undone
+        QMetaObject::invokeMethod(
+            this, [this] { outer()->showNormal(); }, Qt::QueuedConnection);
+    else
+        setSize(m_keptSize->width(), m_keptSize->height());
+}
+
 void Form::closeEvent(QCloseEvent *event)
 {
     // The frame also closes the shared windows that are closed already.

@@ -8,6 +8,7 @@
 #include "platform/desktop/Control.h"
 #include "platform/desktop/ErrorReport.h"
 
+#include <QSizeF>
 #include <QWidget>
 
 #include <memory>
@@ -48,16 +49,21 @@ protected:
     // The caption that the design gives the window; it loads nothing.
     void setDesignCaption(const QString &caption) { setWindowTitle(caption); }
     void setShared() { m_shared = true; }
+    // Twips, with border and title bar. At each resize the window takes this size again.
+    void keepSize(double width, double height);
+    void resizeEvent(QResizeEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
     enum class State { Unloaded, Loading, Loaded };
     QWidget *outer() const;
+    void takeKeptSize();
 
     Place m_place;
     State m_state = State::Unloaded;
     bool m_shared = false;
     std::optional<QSize> m_presetSize;
+    std::optional<QSizeF> m_keptSize; // twips
 };
 
 // Makes a window, hands it what its opener sets, and shows it. A window whose load fails is gone again.
