@@ -1,26 +1,12 @@
 #include "dossier/OpenDossier.h"
+#include "support/Launches.h"
 
-#include <QDesktopServices>
 #include <QDropEvent>
 #include <QMimeData>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-// Takes the place of whatever would open a file.
-class Launches : public QObject
-{
-    Q_OBJECT
-public:
-    Launches() { QDesktopServices::setUrlHandler(u"file"_s, this, "open"); }
-    ~Launches() override { QDesktopServices::unsetUrlHandler(u"file"_s); }
-
-    QStringList paths;
-
-public Q_SLOTS:
-    void open(const QUrl &url) { paths << url.toLocalFile(); }
-};
 
 QByteArray contentOf(const QString &path)
 {

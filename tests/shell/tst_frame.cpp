@@ -3,6 +3,7 @@
 #include "explorers/FrmEventExplorer.h"
 #include "library/frmDocumentExp.h"
 #include "platform/runtime/Clock.h"
+#include "search/frmFindInfo.h"
 #include "shell/frame/DesignTime.h"
 #include "shell/frame/MDIBaseForm.h"
 #include "shell/frame/frmLogin.h"
@@ -157,6 +158,24 @@ private Q_SLOTS:
         m_folder->execute("DELETE FROM NodeInformation");
         item("MnuExplorer").trigger();
         QCOMPARE(frame.area().subWindowList().size(), 1);
+    }
+
+    // The toolbar has no guard.
+    void eachPressOfFindOpensASearchOfItsOwn()
+    {
+        CaughtErrors errors;
+        MDIBaseForm &frame = MDIBaseForm::frame();
+        frame.Show();
+        QWidget *find = frame.Toolbar1->widgetForAction(&item("Find"));
+        QTest::mouseClick(find, Qt::LeftButton);
+        QTest::mouseClick(find, Qt::LeftButton);
+        QCOMPARE(frame.area().subWindowList().size(), 3);
+        for (const frmFindInfo *search : frame.findChildren<frmFindInfo *>())
+            QVERIFY(search->isVisible() && search->MemberId.isEmpty());
+        m_folder->execute("DROP TABLE Attachments");
+        QTest::mouseClick(find, Qt::LeftButton);
+        QVERIFY(errors.takeNumber() != 0);
+        QCOMPARE(frame.findChildren<frmFindInfo *>().size(), 2);
     }
 
     void outOfMemoryIsTold()

@@ -4,7 +4,9 @@
 #include "platform/desktop/Twips.h"
 #include "platform/runtime/RuntimeError.h"
 
+#include <QButtonGroup>
 #include <QKeyEvent>
+#include <QListView>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -98,6 +100,21 @@ CommandButton::CommandButton(QWidget *parent, QAnyStringView name, const QString
 CheckBox::CheckBox(QWidget *parent, QAnyStringView name, const QString &caption) : ControlOf(parent, name)
 {
     setText(caption);
+}
+
+OptionButton::OptionButton(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
+{
+    auto *choices = parent->findChild<QButtonGroup *>({}, Qt::FindDirectChildrenOnly);
+    if (!choices)
+        choices = new QButtonGroup(parent);
+    choices->addButton(this);
+    connect(this, &QRadioButton::toggled, this, [this, choices](bool on) {
+        if (!on)
+            return;
+        for (QAbstractButton *choice : choices->buttons()) // Qt itself sees to this only where the focus comes
+            choice->setFocusPolicy(choice == this ? Qt::StrongFocus : Qt::ClickFocus);
+        Q_EMIT Click();
+    });
 }
 
 Frame::Frame(QWidget *parent, QAnyStringView name, const QString &caption) : ControlOf(parent, name)
@@ -194,6 +211,24 @@ QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex 
 {
     const QItemSelectionModel::SelectionFlags command = ControlOf::selectionCommand(index, event);
     return command.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::NoUpdate : command;
+}
+
+// Its size never depends on the items, which can be tens of thousands.
+ComboBox::ComboBox(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
+{
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setStyleSheet(QStringLiteral("combobox-popup: 0")); // a list with a bar beside it, not one as high as the screen
+    if (auto *list = qobject_cast<QListView *>(view()))
+        list->setUniformItemSizes(true);
+}
+
+// Qt selects the first item that an empty box gets.
+void ComboBox::append(const QStringList &items)
+{
+    const int selected = currentIndex();
+    addItems(items);
+    setCurrentIndex(selected);
 }
 
 PictureBox::PictureBox(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)

@@ -4,6 +4,7 @@
 #include "platform/desktop/Control.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFrame>
 #include <QGroupBox>
 #include <QLabel>
@@ -11,6 +12,7 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTabWidget>
 
 namespace desktop {
@@ -67,6 +69,20 @@ public:
     int Value() const { return isChecked() ? 1 : 0; }
 };
 
+// One of several choices: of those in the same frame one is on, and there Tab stops; the arrow keys choose another.
+// Click tells that this one has come on, whether the user or the program has chosen it.
+class OptionButton : public ControlOf<QRadioButton>
+{
+    Q_OBJECT
+public:
+    OptionButton(QWidget *parent, QAnyStringView name);
+    bool Value() const { return isChecked(); }
+    void setValue(bool value) { setChecked(value); }
+
+Q_SIGNALS:
+    void Click();
+};
+
 class Frame : public ControlOf<QGroupBox>
 {
 public:
@@ -106,6 +122,21 @@ public:
 
 protected:
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
+};
+
+// A list that drops down and shows the selected item's text meanwhile; at first none is selected. Assigning a text
+// selects the equal item, without regard to case.
+class ComboBox : public ControlOf<QComboBox>
+{
+public:
+    ComboBox(QWidget *parent, QAnyStringView name);
+    // The items come behind those that are there; what is selected stays, nothing too.
+    void append(const QStringList &items);
+    // The selected item's text, the empty text when none is selected.
+    QString Text() const { return currentText(); }
+    void setText(const QString &text) { setCurrentIndex(findText(text, Qt::MatchFixedString)); }
+    // The selected item's place from 0; -1 when none is selected.
+    int ListIndex() const { return currentIndex(); }
 };
 
 // A bare area that reports the mouse.

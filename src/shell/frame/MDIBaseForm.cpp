@@ -11,6 +11,7 @@
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/ErrorHandling.h"
 #include "platform/runtime/Files.h"
+#include "search/frmFindInfo.h"
 #include "shell/frame/ScaleControls.h"
 #include "shell/frame/frmLogin.h"
 #include "shell/users/frmNewUser.h"
@@ -192,4 +193,6 @@ void MDIBaseForm::Toolbar1_ButtonClick(QAction *button)
 {
     if (button->objectName() == u"Phone")
         desktop::showNew<frmMeeting>([](frmMeeting &note) { note.AddView = true; });
+    else if (button->objectName() == u"Find")
+        desktop::showNew<frmFindInfo>([](frmFindInfo &find) { find.MemberId = QString(); });
 }
