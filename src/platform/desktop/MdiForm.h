@@ -39,6 +39,8 @@ public:
     double Height() const;
 
     void showChild(Form &form);
+    // Undoes the maximising of a child.
+    void restoreChild(QMdiSubWindow &host);
     QMdiArea &area();
 
 protected:
@@ -59,6 +61,8 @@ private:
     // A shared window that is closed stays in the area, hidden.
     QList<QMdiSubWindow *> openChildren() const;
     void listWindows(QMenu *menu);
+    // What hangs over an edge of the area comes in.
+    void bringIn(QMdiSubWindow &host);
 
     class Area;
     Area *m_area;
