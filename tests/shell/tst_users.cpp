@@ -213,21 +213,30 @@ private Q_SLOTS:
     void theWindowKeepsItsSize()
     {
         desktop::MdiForm frame(u"frame");
-        frame.resize(1200, 900);
+        frame.resize(900, 700);
         frame.Show();
-        auto *other = new desktop::Form(desktop::Form::Place::InFrame, u"Other");
-        other->Show();
-        frame.area().subWindowList().constLast()->showMaximized(); // which the next window would take over
+        QApplication::setActiveWindow(&frame);
+        QVERIFY(QTest::qWaitForWindowActive(&frame));
+        (new desktop::Form(desktop::Form::Place::InFrame, u"Other"))->Show();
+        QMdiSubWindow &other = *frame.area().subWindowList().constLast();
+        other.showMaximized();
         frmNewUser &window = *desktop::showNew<frmNewUser>();
         QMdiSubWindow &host = *frame.area().subWindowList().constLast();
-        const auto hasItsSize = [&] { return window.Width() == 8730 && window.Height() == 6135; };
-        QTRY_VERIFY(!host.isMaximized() && hasItsSize());
-        for (const QSize &size : {QSize(900, 700), QSize(200, 150), QSize(582, 500)}) {
+        const auto isWell = [&] {
+            return !host.isMaximized() && window.Width() == 8730 && window.Height() == 6135 &&
+                   frame.area().viewport()->rect().contains(host.geometry());
+        };
+        QVERIFY(isWell());
+        QCOMPARE(QApplication::focusWidget(), window.txtFirstName);
+        for (const QSize &size : {QSize(800, 600), QSize(200, 150), QSize(582, 500)}) {
             host.resize(size);
-            QTRY_VERIFY(hasItsSize());
+            QTRY_VERIFY(isWell());
         }
         host.showMaximized();
-        QTRY_VERIFY(!host.isMaximized() && hasItsSize());
+        QTRY_VERIFY(isWell());
+        other.showMaximized();
+        frame.area().setActiveSubWindow(&host); // takes the other's state over
+        QTRY_VERIFY(isWell());
     }
 
 private:

@@ -110,9 +110,10 @@ void Form::resizeEvent(QResizeEvent *event)
 
 void Form::takeKeptSize()
 {
-    if (outer()->isMaximized()) // which it has to become whole before it can be undone
+    auto *host = qobject_cast<QMdiSubWindow *>(outer());
+    if (host && host->isMaximized()) // which it has to become whole before it can be undone
         QMetaObject::invokeMethod(
-            this, [this] { outer()->showNormal(); }, Qt::QueuedConnection);
+            host, [host] { MdiForm::frame()->restoreChild(*host); }, Qt::QueuedConnection);
     else
         setSize(m_keptSize->width(), m_keptSize->height());
 }

@@ -42,6 +42,7 @@ public:
     void setSize(double width, double height);
     // The size that was set before the window came into the frame, in pixels.
     std::optional<QSize> presetSize() const { return m_presetSize; }
+    bool keepsSize() const { return m_keptSize.has_value(); }
 
 protected:
     virtual void Form_Load() {}

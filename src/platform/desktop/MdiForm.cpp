@@ -115,8 +115,23 @@ double MdiForm::Height() const
     return twips(frameGeometry().height());
 }
 
+void MdiForm::bringIn(QMdiSubWindow &host)
+{
+    const QSize room = m_area->viewport()->size() - host.size();
+    host.move(qMax(0, qMin(host.x(), room.width())), qMax(0, qMin(host.y(), room.height())));
+}
+
+void MdiForm::restoreChild(QMdiSubWindow &host)
+{
+    host.showNormal();
+    bringIn(host);
+}
+
 void MdiForm::showChild(Form &form)
 {
+    // A maximised child passes its state on to the next one, which may not be able to bear it.
+    if (QMdiSubWindow *active = m_area->activeSubWindow(); active && active->isMaximized() && form.keepsSize())
+        active->showNormal();
     auto *host = qobject_cast<QMdiSubWindow *>(form.parentWidget());
     const QSize content = form.testAttribute(Qt::WA_Resized) ? form.size() : form.sizeHint();
     if (!host) {
@@ -127,11 +142,10 @@ void MdiForm::showChild(Form &form)
         host->resize(form.presetSize().value_or(content.grownBy(borders(*host))));
         form.show();
         host->show();
-        // The area has found a place for it, if it has none of its own; what still hangs over an edge comes in.
+        // The area has found a place for it, if it has none of its own.
         if (placed)
             host->move(m_area->viewport()->mapFromGlobal(middle) - host->rect().center());
-        const QSize room = m_area->viewport()->size() - host->size();
-        host->move(qMax(0, qMin(host->x(), room.width())), qMax(0, qMin(host->y(), room.height())));
+        bringIn(*host);
     }
     if (host->isMinimized())
         host->showNormal();

@@ -41,6 +41,8 @@ public:
     void showChild(Form &form);
     // A shared window has closed: the one that was active before it comes back.
     void childHidden();
+    // Undoes the maximising of a child.
+    void restoreChild(QMdiSubWindow &host);
     QMdiArea &area();
 
 protected:
@@ -61,6 +63,8 @@ private:
     // A shared window that is closed stays in the area, hidden.
     QList<QMdiSubWindow *> openChildren(QMdiArea::WindowOrder order) const;
     void listWindows(QMenu *menu);
+    // What hangs over an edge of the area comes in.
+    void bringIn(QMdiSubWindow &host);
 
     class Area;
     Area *m_area;
