@@ -1,38 +1,24 @@
 #include "dossier/AssignedEventsTab.h"
 
 #include "dossier/RowDeletion.h"
-#include "dossier/RowTexts.h"
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/MsgBox.h"
+#include "platform/desktop/RowTexts.h"
 #include "shell/CLsDataBaseConnection.h"
+
+#include <tuple>
 
 using namespace Qt::Literals::StringLiterals;
 
-using desktop::CommandButton;
-using desktop::Label;
 using desktop::ListBox;
 using desktop::TextBox;
 
 AssignedEventsTab::AssignedEventsTab(QWidget *parent, Dossier &dossier)
     : Frame(parent, u"Frame7", u"Member's Events"_s), lstEvent(new desktop::ListView(this, u"lstEvent")),
-      butAssignEvent(new CommandButton(this, u"butAssignEvent", u"Assign an Event"_s)),
-      lblEventSelect(new Label(this, u"lblEventSelect", u"Event"_s)),
-      lstEventSelect(new ListBox(this, u"lstEventSelect")), lstEventSelectId(new ListBox(this, u"lstEventSelectId")),
-      lblEventActualTimeStarted(new Label(this, u"lblEventActualTimeStarted", u"Actual Time Started"_s)),
-      txtEventActualTimeStarted(new TextBox(this, u"txtEventActualTimeStarted")),
-      lblEventActualTimeFinished(new Label(this, u"lblEventActualTimeFinished", u"Actual Time FInished"_s)),
-      txtEventActualTimeFinished(new TextBox(this, u"txtEventActualTimeFinished")),
-      LblEventActualDate(new Label(this, u"LblEventActualDate", u"Actual Date"_s)),
-      txtEventActualDate(new TextBox(this, u"txtEventActualDate")),
-      lblEventComments(new Label(this, u"lblEventComments", u"Comments"_s)),
-      txtEventComments(new TextBox(this, u"txtEventComments")),
-      CmdEventSave(new CommandButton(this, u"CmdEventSave", u"Save"_s)),
-      cmdEventCancel(new CommandButton(this, u"cmdEventCancel", u"Cancel"_s)),
-      butCloseEvent(new CommandButton(this, u"butCloseEvent", u"Close"_s)),
-      mnuEventsOptions(new desktop::PopupMenu(this, u"mnuEventsOptions", u"Event Options"_s)), m_dossier(dossier),
-      m_area(*this, *lstEvent)
+      m_dossier(dossier), m_area(*this, *lstEvent)
 {
-    setUpContent();
+    setUpList();
+    setUpEntry();
     setUpMenu();
     using desktop::on;
     on(butAssignEvent, &QPushButton::clicked, this, &AssignedEventsTab::butAssignEvent_Click);
@@ -40,7 +26,7 @@ AssignedEventsTab::AssignedEventsTab(QWidget *parent, Dossier &dossier)
     on(cmdEventCancel, &QPushButton::clicked, this, &AssignedEventsTab::cmdEventCancel_Click);
 }
 
-void AssignedEventsTab::setUpContent()
+void AssignedEventsTab::setUpList()
 {
     lstEvent->setAccessibleName(u"Assigned events"_s);
     for (const QString &header : {u"Event Id"_s, u"Event Name"_s, u"Acutal Time Started"_s, u"Actual Time Finished"_s,
@@ -48,20 +34,33 @@ void AssignedEventsTab::setUpContent()
         lstEvent->ColumnHeaders.Add(header);
     for (int column : {2, 3, 4})
         lstEvent->ColumnHeaders.setWidth(column, 2100);
-    m_area.addButtonsBelowList({butAssignEvent});
-    m_area.addRow(*lblEventSelect, *lstEventSelect, EntryArea::Lines::Several);
+}
+
+void AssignedEventsTab::setUpEntry()
+{
+    butAssignEvent = m_area.addBeginningButton(u"butAssignEvent", u"Assign an Event"_s);
+    std::tie(lblEventSelect, lstEventSelect) =
+        m_area.addRow<ListBox>(u"lblEventSelect", u"Event"_s, u"lstEventSelect", EntryArea::Lines::Several);
+    lstEventSelectId = new ListBox(this, u"lstEventSelectId");
     m_area.addUnderLastBox(*lstEventSelectId);
-    m_area.addRow(*lblEventActualTimeStarted, *txtEventActualTimeStarted);
-    m_area.addRow(*lblEventActualTimeFinished, *txtEventActualTimeFinished);
-    m_area.addRow(*LblEventActualDate, *txtEventActualDate);
-    m_area.addRow(*lblEventComments, *txtEventComments);
-    m_area.addButtons({CmdEventSave, cmdEventCancel}, *butCloseEvent);
+    std::tie(lblEventActualTimeStarted, txtEventActualTimeStarted) =
+        m_area.addRow<TextBox>(u"lblEventActualTimeStarted", u"Actual Time Started"_s, u"txtEventActualTimeStarted");
+    std::tie(lblEventActualTimeFinished, txtEventActualTimeFinished) =
+        m_area.addRow<TextBox>(u"lblEventActualTimeFinished", u"Actual Time FInished"_s, u"txtEventActualTimeFinished");
+    std::tie(LblEventActualDate, txtEventActualDate) =
+        m_area.addRow<TextBox>(u"LblEventActualDate", u"Actual Date"_s, u"txtEventActualDate");
+    std::tie(lblEventComments, txtEventComments) =
+        m_area.addRow<TextBox>(u"lblEventComments", u"Comments"_s, u"txtEventComments");
+    CmdEventSave = m_area.addEndingButton(u"CmdEventSave", u"Save"_s);
+    cmdEventCancel = m_area.addEndingButton(u"cmdEventCancel", u"Cancel"_s);
+    butCloseEvent = m_area.addCloseButton(u"butCloseEvent", u"Close"_s);
     m_area.beginBrowsing();
     lblEventActualTimeFinished->show(); // this one shows until the first entry has ended
 }
 
 void AssignedEventsTab::setUpMenu()
 {
+    mnuEventsOptions = new desktop::PopupMenu(this, u"mnuEventsOptions", u"Event Options"_s);
     QAction *edit = mnuEventsOptions->addItem(u"mnuEditEvent", u"Edit"_s);
     mnuEventsOptions->addLine(u"mnu1");
     QAction *remove = mnuEventsOptions->addItem(u"mnuDeleteEvent", u"Delete"_s);

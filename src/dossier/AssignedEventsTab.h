@@ -43,7 +43,8 @@ public:
     void mnuDeleteEvent_Click();
 
 private:
-    void setUpContent();
+    void setUpList();
+    void setUpEntry();
     void setUpMenu();
     QString insertStatement() const;
     QString updateStatement(const QString &key) const;

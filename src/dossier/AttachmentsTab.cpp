@@ -1,11 +1,11 @@
 #include "dossier/AttachmentsTab.h"
 
 #include "dossier/RowDeletion.h"
-#include "dossier/RowTexts.h"
 #include "library/StoredFile.h"
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/Launch.h"
 #include "platform/desktop/MsgBox.h"
+#include "platform/desktop/RowTexts.h"
 #include "platform/runtime/Application.h"
 #include "platform/runtime/ErrorHandling.h"
 #include "platform/runtime/Files.h"
@@ -25,18 +25,6 @@ using runtime::Value;
 namespace {
 
 constexpr int columnWidth = 200; // logical pixels
-
-void openStore(data::Connection &connection)
-{
-    connection.Open(dataStoreConnectionString(), {}, {}, data::adOptionUnspecified);
-}
-
-data::Recordset rowsOf(data::Connection &connection, const QString &statement)
-{
-    data::Recordset rows;
-    rows.Open(statement, connection, data::adOpenStatic, data::adLockOptimistic);
-    return rows;
-}
 
 // The rows are those of one name, the newest version first. Error 6 behind version 32767.
 Value nextVersion(data::Recordset &versions)
@@ -139,8 +127,8 @@ void AttachmentsTab::Check1_Click()
 void AttachmentsTab::butAddAttachement_Click()
 {
     data::Connection connection;
-    openStore(connection);
-    data::Recordset attachments = rowsOf(connection, u"select * from Attachments"_s);
+    openDataStore(connection);
+    data::Recordset attachments = openRows(connection, u"select * from Attachments"_s);
     CommonDialog1.DialogTitle = u"OPEN FILE"_s;
     CommonDialog1.Filter = u"All files (*.*)|*.*|DOC files (*.doc)|*.doc|PDF files (*.pdf)|*.pdf"_s;
     if (!CommonDialog1.ShowOpen()) {
@@ -156,8 +144,8 @@ void AttachmentsTab::addFile(data::Connection &connection, data::Recordset &atta
                              const QString &name)
 {
     attachments.AddNew();
-    data::Recordset versions = rowsOf(connection, u"select * from Attachments where AttachmentsName = '"_s + name +
-                                                      u"' ORDER BY AttachmentVersion desc"_s);
+    data::Recordset versions = openRows(connection, u"select * from Attachments where AttachmentsName = '"_s + name +
+                                                        u"' ORDER BY AttachmentVersion desc"_s);
     FileToStore file(path);
     attachments[u"MemberId"].setValue(Value(m_dossier.MemberId));
     attachments[u"AttachmentsName"].setValue(name);
@@ -170,8 +158,8 @@ void AttachmentsTab::addFile(data::Connection &connection, data::Recordset &atta
 void AttachmentsTab::addDropped(const desktop::DataObject &dropped)
 {
     data::Connection connection;
-    openStore(connection);
-    data::Recordset attachments = rowsOf(connection, u"select * from Attachments"_s);
+    openDataStore(connection);
+    data::Recordset attachments = openRows(connection, u"select * from Attachments"_s);
     for (const QString &path : dropped.Files())
         addFile(connection, attachments, path, QFileInfo(path).fileName());
     connection.Close();
@@ -190,11 +178,11 @@ void AttachmentsTab::lstAttachement_OLEDragDrop(const desktop::DataObject &dropp
 
 data::Recordset AttachmentsTab::selectedRow(data::Connection &connection) const
 {
-    openStore(connection);
+    openDataStore(connection);
     const desktop::ListItem &item = *lstAttachement->SelectedItem();
-    return rowsOf(connection, u"select * from Attachments where AttachmentVersion = "_s + item.SubItems(2) +
-                                  u" and AttachmentsName = '"_s + item.Text() + u"' and MemberId ="_s +
-                                  m_dossier.member());
+    return openRows(connection, u"select * from Attachments where AttachmentVersion = "_s + item.SubItems(2) +
+                                    u" and AttachmentsName = '"_s + item.Text() + u"' and MemberId ="_s +
+                                    m_dossier.member());
 }
 
 // The copy stays where it is until the main window closes; two versions of a name share its place.

@@ -1,30 +1,22 @@
 #include "dossier/ContributionsTab.h"
 
 #include "dossier/RowDeletion.h"
-#include "dossier/RowTexts.h"
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/MsgBox.h"
+#include "platform/desktop/RowTexts.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/NumberText.h"
 #include "shell/CLsDataBaseConnection.h"
 
+#include <tuple>
+
 using namespace Qt::Literals::StringLiterals;
 
-using desktop::CommandButton;
-using desktop::Label;
 using runtime::Value;
 
 ContributionsTab::ContributionsTab(QWidget *parent, Dossier &dossier)
     : Frame(parent, u"Frame5", u"Member's Contribution"_s),
       lstContributions(new desktop::ListView(this, u"lstContributions")),
-      butAddContributions(new CommandButton(this, u"butAddContributions", u"Add Contribution"_s)),
-      lblCOntribution(new Label(this, u"lblCOntribution", u"Contribution"_s)),
-      txtContribution(new desktop::TextBox(this, u"txtContribution")),
-      lblContributionNote(new Label(this, u"lblContributionNote", u"Note"_s)),
-      txtContributionNote(new desktop::MultilineTextBox(this, u"txtContributionNote")),
-      cmdSaveContribution(new CommandButton(this, u"cmdSaveContribution", u"Save"_s)),
-      CmdCancelContribution(new CommandButton(this, u"CmdCancelContribution", u"Cancel"_s)),
-      butCloseContributions(new CommandButton(this, u"butCloseContributions", u"Close"_s)),
       mnuContributions(new desktop::PopupMenu(this, u"mnuContributions", u"Contributions Options"_s)),
       m_dossier(dossier), m_area(*this, *lstContributions)
 {
@@ -46,10 +38,14 @@ void ContributionsTab::setUpContent()
     lstContributions->ColumnHeaders.Add(u"Contribution Note"_s);
     lstContributions->ColumnHeaders.setWidth(1, 2400);
     lstContributions->ColumnHeaders.setWidth(2, 2400);
-    m_area.addButtonsBelowList({butAddContributions});
-    m_area.addRow(*lblCOntribution, *txtContribution);
-    m_area.addRow(*lblContributionNote, *txtContributionNote, EntryArea::Lines::Several);
-    m_area.addButtons({cmdSaveContribution, CmdCancelContribution}, *butCloseContributions);
+    butAddContributions = m_area.addBeginningButton(u"butAddContributions", u"Add Contribution"_s);
+    std::tie(lblCOntribution, txtContribution) =
+        m_area.addRow<desktop::TextBox>(u"lblCOntribution", u"Contribution"_s, u"txtContribution");
+    std::tie(lblContributionNote, txtContributionNote) = m_area.addRow<desktop::MultilineTextBox>(
+        u"lblContributionNote", u"Note"_s, u"txtContributionNote", EntryArea::Lines::Several);
+    cmdSaveContribution = m_area.addEndingButton(u"cmdSaveContribution", u"Save"_s);
+    CmdCancelContribution = m_area.addEndingButton(u"CmdCancelContribution", u"Cancel"_s);
+    butCloseContributions = m_area.addCloseButton(u"butCloseContributions", u"Close"_s);
     m_area.beginBrowsing();
 }
 

@@ -1,10 +1,10 @@
 #include "dossier/EmployerTab.h"
 
-#include "dossier/RowTexts.h"
 #include "dossier/StatesList.h"
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/FieldGrid.h"
 #include "platform/desktop/MsgBox.h"
+#include "platform/desktop/RowTexts.h"
 #include "shell/CLsDataBaseConnection.h"
 
 using namespace Qt::Literals::StringLiterals;

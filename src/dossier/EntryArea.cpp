@@ -22,7 +22,7 @@ EntryArea::EntryArea(desktop::Frame &frame, desktop::ListView &list)
     m_grid->setColumnStretch(1, 1);
 }
 
-void EntryArea::addRow(desktop::Label &label, QWidget &box, Lines lines)
+void EntryArea::placeRow(desktop::Label &label, QWidget &box, Lines lines)
 {
     QSizePolicy policy = label.sizePolicy();
     policy.setRetainSizeWhenHidden(true);
@@ -60,26 +60,39 @@ void EntryArea::addUnderLastBox(QWidget &widget)
     m_entering << &widget;
 }
 
-void EntryArea::addButtonsBelowList(std::initializer_list<desktop::CommandButton *> buttons)
+desktop::CommandButton *EntryArea::addBeginningButton(QAnyStringView name, const QString &caption)
 {
+    auto *button = new desktop::CommandButton(&m_frame, name, caption);
     QHBoxLayout *line = addLine();
-    for (desktop::CommandButton *button : buttons) {
-        line->addWidget(button);
-        m_browsing << button;
-    }
+    line->addWidget(button);
     line->addStretch();
+    m_browsing << button;
+    return button;
 }
 
-void EntryArea::addButtons(std::initializer_list<desktop::CommandButton *> ending, desktop::CommandButton &close)
+desktop::CommandButton *EntryArea::addToLastRow(QAnyStringView name, const QString &caption)
 {
-    QHBoxLayout *line = addLine();
-    line->addStretch();
-    for (desktop::CommandButton *button : ending) {
-        line->addWidget(button);
-        m_entering << button;
+    if (!m_lastRow) {
+        m_lastRow = addLine();
+        m_lastRow->addStretch();
     }
-    line->addWidget(&close);
-    m_browsing << &close;
+    auto *button = new desktop::CommandButton(&m_frame, name, caption);
+    m_lastRow->addWidget(button);
+    return button;
+}
+
+desktop::CommandButton *EntryArea::addEndingButton(QAnyStringView name, const QString &caption)
+{
+    desktop::CommandButton *button = addToLastRow(name, caption);
+    m_entering << button;
+    return button;
+}
+
+desktop::CommandButton *EntryArea::addCloseButton(QAnyStringView name, const QString &caption)
+{
+    desktop::CommandButton *button = addToLastRow(name, caption);
+    m_browsing << button;
+    return button;
 }
 
 void EntryArea::showLabels(bool shown)

@@ -7,7 +7,7 @@
 #include "platform/desktop/Controls.h"
 #include "platform/desktop/ListView.h"
 
-#include <initializer_list>
+#include <utility>
 
 class QGridLayout;
 class QHBoxLayout;
@@ -20,15 +20,24 @@ public:
     // The list fills the top.
     EntryArea(desktop::Frame &frame, desktop::ListView &list);
 
-    // Top down, in the order of the calls.
-    void addRow(desktop::Label &label, QWidget &box, Lines lines = Lines::One);
+    // The next row, top down: a label and its box. Tab follows the order of the calls.
+    template <class Box>
+    std::pair<desktop::Label *, Box *> addRow(QAnyStringView labelName, const QString &caption, QAnyStringView name,
+                                              Lines lines = Lines::One)
+    {
+        auto *label = new desktop::Label(&m_frame, labelName, caption);
+        auto *box = new Box(&m_frame, name);
+        placeRow(*label, *box, lines);
+        return {label, box};
+    }
     void addWidget(QWidget &widget);
     // Covered by the box of the last row, and in use as it is.
     void addUnderLastBox(QWidget &widget);
-    // In use while browsing.
-    void addButtonsBelowList(std::initializer_list<desktop::CommandButton *> buttons);
-    // The buttons that end the entry, and the one that closes the window, in use while browsing.
-    void addButtons(std::initializer_list<desktop::CommandButton *> ending, desktop::CommandButton &close);
+    // A row with one button at its left, in use while browsing.
+    desktop::CommandButton *addBeginningButton(QAnyStringView name, const QString &caption);
+    // The last row: what ends the entry, in use meanwhile, and behind it what closes the window, in use while browsing.
+    desktop::CommandButton *addEndingButton(QAnyStringView name, const QString &caption);
+    desktop::CommandButton *addCloseButton(QAnyStringView name, const QString &caption);
 
     // What else is in use only then.
     void useWhileEntering(QWidget &widget) { m_entering << &widget; }
@@ -40,11 +49,14 @@ public:
     void browse();
 
 private:
+    void placeRow(desktop::Label &label, QWidget &box, Lines lines);
     QHBoxLayout *addLine();
+    desktop::CommandButton *addToLastRow(QAnyStringView name, const QString &caption);
     void showLabels(bool shown);
 
     desktop::Frame &m_frame;
     QGridLayout *m_grid;
+    QHBoxLayout *m_lastRow = nullptr;
     int m_rows = 0;
     QList<QWidget *> m_labels;
     QList<QWidget *> m_entering;

@@ -6,10 +6,11 @@
 
 #include <QHeaderView>
 
+#include <tuple>
+
 using namespace Qt::Literals::StringLiterals;
 
 using desktop::CommandButton;
-using desktop::Label;
 
 namespace {
 
@@ -24,12 +25,7 @@ constexpr double buttonTop = 0;
 
 InterestEntry::InterestEntry(QWidget *parent)
     : Frame(parent, u"Frame3", u"Member's Intereest"_s), lstInterest(new desktop::ListView(this, u"lstInterest")),
-      lblInterest(new Label(this, u"lblInterest", u"Interest"_s)),
-      txtInterest(new desktop::TextBox(this, u"txtInterest")),
-      lblInterestDescription(new Label(this, u"lblInterestDescription", u"Interest Description"_s)),
-      txtInterestDescription(new desktop::MultilineTextBox(this, u"txtInterestDescription")),
-      cmdAddInterest(new CommandButton(this, u"cmdAddInterest", u"Add Interest"_s)),
-      CMdInterestCancel(new CommandButton(this, u"CMdInterestCancel", u"Cancel"_s)), m_area(*this, *lstInterest)
+      m_area(*this, *lstInterest)
 {
     setUpContent();
     desktop::on(cmdAddInterest, &QPushButton::clicked, this, &InterestEntry::cmdAddInterest_Click);
@@ -42,8 +38,9 @@ void InterestEntry::setUpContent()
     lstInterest->ColumnHeaders.Add(u"Description"_s);
     lstInterest->header()->resizeSection(0, 180);
     lstInterest->setAccessibleName(u"Interests"_s);
-    m_area.addRow(*lblInterest, *txtInterest);
-    m_area.addRow(*lblInterestDescription, *txtInterestDescription, EntryArea::Lines::Several);
+    std::tie(lblInterest, txtInterest) = m_area.addRow<desktop::TextBox>(u"lblInterest", u"Interest"_s, u"txtInterest");
+    std::tie(lblInterestDescription, txtInterestDescription) = m_area.addRow<desktop::MultilineTextBox>(
+        u"lblInterestDescription", u"Interest Description"_s, u"txtInterestDescription", EntryArea::Lines::Several);
     m_area.addWidget(*setUpButtons());
     m_area.useWhileEntering(*CMdInterestCancel);
     m_area.beginBrowsing();
@@ -53,6 +50,8 @@ void InterestEntry::setUpContent()
 // The buttons stand at places of their own, since one of them moves.
 QWidget *InterestEntry::setUpButtons()
 {
+    cmdAddInterest = new CommandButton(this, u"cmdAddInterest", u"Add Interest"_s);
+    CMdInterestCancel = new CommandButton(this, u"CMdInterestCancel", u"Cancel"_s);
     auto *strip = new QWidget(this);
     const auto place = [strip](CommandButton &button, double left) {
         button.setParent(strip);

@@ -1,29 +1,20 @@
 #include "dossier/InterestsTab.h"
 
 #include "dossier/RowDeletion.h"
-#include "dossier/RowTexts.h"
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/MsgBox.h"
+#include "platform/desktop/RowTexts.h"
 
-#include <QHBoxLayout>
+#include <tuple>
 
 using namespace Qt::Literals::StringLiterals;
 
-using desktop::CommandButton;
-using desktop::Label;
+using desktop::MultilineTextBox;
+using desktop::TextBox;
 
 InterestsTab::InterestsTab(QWidget *parent, Dossier &dossier)
     : Frame(parent, u"Frame3", u"Member's Interest"_s), lstInterest(new desktop::ListView(this, u"lstInterest")),
-      butAddInterest(new CommandButton(this, u"butAddInterest", u"Add Interest"_s)),
-      lblInterest(new Label(this, u"lblInterest", u"Interest"_s)),
-      txtInterest(new desktop::TextBox(this, u"txtInterest")),
-      lblInterestDescription(new Label(this, u"lblInterestDescription", u"Interest Description"_s)),
-      txtInterestDescription(new desktop::MultilineTextBox(this, u"txtInterestDescription")),
-      cmdAddInterest(new CommandButton(this, u"cmdAddInterest", u"Add Interest"_s)),
-      CMdInterestCancel(new CommandButton(this, u"CMdInterestCancel", u"Cancel"_s)),
-      butCloseInterest(new CommandButton(this, u"butCloseInterest", u"Close"_s)),
-      mnuInterest(new desktop::PopupMenu(this, u"mnuInterest", u"Interest Options"_s)), m_dossier(dossier),
-      m_area(*this, *lstInterest)
+      m_dossier(dossier), m_area(*this, *lstInterest)
 {
     setUpContent();
     setUpMenu();
@@ -39,15 +30,19 @@ void InterestsTab::setUpContent()
     lstInterest->ColumnHeaders.Add(u"Interest"_s);
     lstInterest->ColumnHeaders.Add(u"Interest Description"_s);
     lstInterest->ColumnHeaders.setWidth(1, 2700);
-    m_area.addButtonsBelowList({butAddInterest});
-    m_area.addRow(*lblInterest, *txtInterest);
-    m_area.addRow(*lblInterestDescription, *txtInterestDescription, EntryArea::Lines::Several);
-    m_area.addButtons({cmdAddInterest, CMdInterestCancel}, *butCloseInterest);
+    butAddInterest = m_area.addBeginningButton(u"butAddInterest", u"Add Interest"_s);
+    std::tie(lblInterest, txtInterest) = m_area.addRow<TextBox>(u"lblInterest", u"Interest"_s, u"txtInterest");
+    std::tie(lblInterestDescription, txtInterestDescription) = m_area.addRow<MultilineTextBox>(
+        u"lblInterestDescription", u"Interest Description"_s, u"txtInterestDescription", EntryArea::Lines::Several);
+    cmdAddInterest = m_area.addEndingButton(u"cmdAddInterest", u"Add Interest"_s);
+    CMdInterestCancel = m_area.addEndingButton(u"CMdInterestCancel", u"Cancel"_s);
+    butCloseInterest = m_area.addCloseButton(u"butCloseInterest", u"Close"_s);
     m_area.beginBrowsing();
 }
 
 void InterestsTab::setUpMenu()
 {
+    mnuInterest = new desktop::PopupMenu(this, u"mnuInterest", u"Interest Options"_s);
     QAction *edit = mnuInterest->addItem(u"mnuInterestEdit", u"Edit Interest"_s);
     mnuInterest->addLine(u"mnuSep");
     QAction *remove = mnuInterest->addItem(u"MnuDeleteInterest", u"Delete Interest"_s);

@@ -1,11 +1,11 @@
 #include "dossier/NotesTab.h"
 
 #include "dossier/RowDeletion.h"
-#include "dossier/RowTexts.h"
 #include "events/frmMeeting.h"
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/MsgBox.h"
+#include "platform/desktop/RowTexts.h"
 #include "platform/runtime/DateDiff.h"
 #include "platform/runtime/Format.h"
 #include "shell/CLsDataBaseConnection.h"

@@ -23,10 +23,8 @@ qint16 nextVersionOf(const QString &fileName)
     connection.Open(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=C:\\Documents and Settings\\Pell\\Desktop\\Norlund\\"
                     u"BusinessPlan\\Tolmark.mdb;"_s,
                     {}, {}, data::adOptionUnspecified);
-    data::Recordset versions;
-    versions.Open(u"select * from Attachments where AttachmentsName = '"_s + fileName +
-                      u"' ORDER BY AttachmentVersion desc"_s,
-                  connection, data::adOpenStatic, data::adLockOptimistic);
+    data::Recordset versions = openRows(connection, u"select * from Attachments where AttachmentsName = '"_s +
+                                                        fileName + u"' ORDER BY AttachmentVersion desc"_s);
     const qint16 version = runtime::toInteger(Value(versions.RecordCount() + 1));
     versions.Close();
     connection.Close();
@@ -77,10 +75,9 @@ bool ClsBinaryFunctions::DownLoadDoc(data::Recordset &rsDownLoad, const QString 
 void ClsBinaryFunctions::ViewDocument(const QString &AttachmentsId)
 {
     data::Connection connection;
-    connection.Open(dataStoreConnectionString(), {}, {}, data::adOptionUnspecified);
-    data::Recordset attachment;
-    attachment.Open(u"select * from Attachments where AttachmentsId = "_s + AttachmentsId, connection,
-                    data::adOpenStatic, data::adLockOptimistic);
+    openDataStore(connection);
+    data::Recordset attachment =
+        openRows(connection, u"select * from Attachments where AttachmentsId = "_s + AttachmentsId);
     const desktop::ListView *const list = nullptr; // the windows have one; this class never got any
     ViewPath = temporaryPath(selectedText(list));
     fetchInto(attachment[u"Attachments"], ViewPath);

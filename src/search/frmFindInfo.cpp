@@ -2,10 +2,10 @@
 
 #include "library/ClsBinaryFunctions.h"
 #include "library/StoredFile.h"
-#include "platform/data/Connection.h"
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/Launch.h"
 #include "platform/desktop/MsgBox.h"
+#include "platform/desktop/RowTexts.h"
 #include "platform/runtime/Conversion.h"
 #include "shell/CLsDataBaseConnection.h"
 #include "shell/DataStore.h"
@@ -41,12 +41,6 @@ OptionButton *addOption(desktop::ControlArray<OptionButton> &options, int index,
     OptionButton *option = options.add(index, frame);
     option->setText(caption);
     return option;
-}
-
-void putSubItem(desktop::ListItem &item, int index, const data::Field &field)
-{
-    if (const Value value = field.Value(); !value.isNull())
-        item.setSubItem(index, runtime::toText(value));
 }
 
 } // namespace
@@ -308,24 +302,21 @@ void frmFindInfo::searchContent(const QString &phrase)
         lstViewResults->ColumnHeaders.Add(header);
     if (hits.RecordCount() > 0)
         hits.MoveFirst();
-    desktop::ListFilling filling(*lstViewResults);
-    for (; !hits.Eof(); hits.MoveNext()) {
-        desktop::ListItem &item = filling.Add();
-        putSubItem(item, 0, hits[u"DocumentId"]);
-        putSubItem(item, 1, hits[u"DocumentName"]);
-        putSubItem(item, 2, hits[u"Version"]);
-    }
+    desktop::addItems(*lstViewResults, hits, [](desktop::ListItem &item, data::Recordset &hit) {
+        putSubItem(item, 0, hit[u"DocumentId"]);
+        putSubItem(item, 1, hit[u"DocumentName"]);
+        putSubItem(item, 2, hit[u"Version"]);
+    });
 }
 
 // The copy stays where it is until the main window closes.
 void frmFindInfo::lstViewResults_DblClick()
 {
     data::Connection connection;
-    connection.Open(dataStoreConnectionString(), {}, {}, data::adOptionUnspecified);
+    openDataStore(connection);
     const desktop::ListItem &hit = *lstViewResults->SelectedItem();
-    data::Recordset attachment;
-    attachment.Open(u"select * from Attachments where AttachmentsId = "_s + hit.Text(), connection, data::adOpenStatic,
-                    data::adLockOptimistic);
+    data::Recordset attachment =
+        openRows(connection, u"select * from Attachments where AttachmentsId = "_s + hit.Text());
     const QString path = temporaryPath(hit.SubItems(1));
     fetchInto(attachment[u"Attachments"], path);
     connection.Close();

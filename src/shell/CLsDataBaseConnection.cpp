@@ -4,10 +4,8 @@
 
 data::Recordset CLsDataBaseConnection::CreateRecordset(const QString &Sql)
 {
-    m_connection.Open(dataStoreConnectionString(), {}, {}, data::adOptionUnspecified);
-    data::Recordset recordset;
-    recordset.Open(Sql, m_connection, data::adOpenStatic, data::adLockOptimistic);
-    return recordset;
+    openDataStore(m_connection);
+    return openRows(m_connection, Sql);
 }
 
 void CLsDataBaseConnection::DbClose()

@@ -4,7 +4,7 @@
 
 void CommandSequence::open()
 {
-    m_connection.Open(dataStoreConnectionString(), {}, {}, data::adOptionUnspecified);
+    openDataStore(m_connection);
     m_connection.CursorLocation = data::adUseClient;
     command.ActiveConnection = &m_connection;
 }

@@ -100,11 +100,9 @@ void frmLogin::showSplashAndMainWindow()
 void frmLogin::cmdOK_Click()
 {
     data::Connection connection;
-    connection.Open(dataStoreConnectionString(), {}, {}, data::adOptionUnspecified);
-    data::Recordset user;
-    user.Open(u"SELECT * FROM Security where UserName = '"_s + txtUserName->text() + u"' and UserPassword = '"_s +
-                  txtPassword->text() + u"'"_s,
-              connection, data::adOpenStatic, data::adLockOptimistic);
+    openDataStore(connection);
+    data::Recordset user = openRows(connection, u"SELECT * FROM Security where UserName = '"_s + txtUserName->text() +
+                                                    u"' and UserPassword = '"_s + txtPassword->text() + u"'"_s);
     if (user.Eof()) {
         connection.Close();
         desktop::MsgBox(u"Incorrect user name and/or password"_s);

@@ -161,10 +161,8 @@ void frmOptions::changePassword()
 void frmOptions::storePassword()
 {
     data::Connection connection;
-    connection.Open(dataStoreConnectionString(), {}, {}, data::adOptionUnspecified);
-    data::Recordset user;
-    user.Open(u"SELECT * FROM Security where SecurityId ="_s + m_secId, connection, data::adOpenStatic,
-              data::adLockOptimistic);
+    openDataStore(connection);
+    data::Recordset user = openRows(connection, u"SELECT * FROM Security where SecurityId ="_s + m_secId);
     user[u"UserPassword"].setValue(txtNewPassword->text());
     user.Update();
     user.Close();

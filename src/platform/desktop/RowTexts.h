@@ -5,6 +5,8 @@
 #include "platform/desktop/ListView.h"
 #include "platform/runtime/Conversion.h"
 
+namespace desktop {
+
 // Gives the control (a text box or a list) the field's text.
 template <class Control> void putText(Control &control, const data::Field &field)
 {
@@ -13,16 +15,18 @@ template <class Control> void putText(Control &control, const data::Field &field
 }
 
 // Sub-item 0 is the item's own text.
-inline void putSubItem(desktop::ListItem &item, int index, const data::Field &field)
+inline void putSubItem(ListItem &item, int index, const data::Field &field)
 {
     if (runtime::Value value = field.Value(); !value.isNull())
         item.setSubItem(index, runtime::toText(std::move(value)));
 }
 
 // An item for each row, from the current one to the last; all appear together.
-template <class FillItem> void addItems(desktop::ListView &list, data::Recordset &rows, FillItem fillItem)
+template <class FillItem> void addItems(ListView &list, data::Recordset &rows, FillItem fillItem)
 {
-    desktop::ListFilling filling(list);
+    ListFilling filling(list);
     for (; !rows.Eof(); rows.MoveNext())
         fillItem(filling.Add(), rows);
 }
+
+} // namespace desktop
