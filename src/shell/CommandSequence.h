@@ -1,6 +1,7 @@
 // The connection and command that carry a handler's delete, update and insert statements, one after another.
 //
-// A handler that fails between open and close leaves both to be released with the object.
+// A handler that fails between open and close leaves the connection open; the next open() of the object or its end
+// releases it.
 #pragma once
 
 #include "platform/data/Command.h"

@@ -214,6 +214,20 @@ private Q_SLOTS:
         QCOMPARE(errors.takeNumber(), 91);
     }
 
+    // The statement without a key fails on the way; what the window does next is not held up by that.
+    void aDeletionThatFailsOnTheWayLeavesTheWindowInUse()
+    {
+        m_folder->execute("UPDATE Attachments SET AttachmentsName = NULL");
+        CaughtErrors errors;
+        BoxAnswers boxes({QMessageBox::Yes, QMessageBox::Ok, QMessageBox::Ok});
+        OpenDossier dossier;
+        select(*dossier->Frame4->lstAttachement, 1);
+        choose(*dossier->Frame4->MnuViewOptions, "MnuDeleteAttachment");
+        QCOMPARE(boxes.seen[1].text, u"Nothing selected"_s);
+        dossier->Frame1->butEditMember->click();
+        QCOMPARE(boxes.seen.size(), 3); // "Changes have been saved"
+    }
+
     // A row without a date has no key in its line: deleting it fails and takes nothing along.
     void deletingALineWithoutKeyEndsInTheReport()
     {
