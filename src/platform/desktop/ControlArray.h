@@ -1,4 +1,7 @@
 // Controls of one name, told apart by an index. Element i is called Name(i); an index without element raises error 340.
+//
+// The window makes the elements of its design by add. Further ones come and go at run time: they are loaded as copies
+// of element 0 and unloaded again.
 #pragma once
 
 #include "platform/runtime/RuntimeError.h"
@@ -22,6 +25,29 @@ public:
         auto *element = new ControlType(parent, QStringLiteral("%1(%2)").arg(m_name).arg(index));
         m_elements.emplace(index, element);
         return element;
+    }
+    // Makes an element in the place of element 0, beside it and locked as it is, not visible yet and otherwise as new.
+    // Error 360 for an index that has one.
+    ControlType *Load(int index)
+    {
+        if (m_elements.contains(index))
+            throw runtime::RuntimeError(runtime::AlreadyLoaded);
+        const ControlType *first = (*this)(0);
+        ControlType *element = add(index, first->parentWidget());
+        element->setVisible(false);
+        element->Move(first->Left(), first->Top(), first->Width(), first->Height());
+        if constexpr (requires { element->setReadOnly(first->isReadOnly()); })
+            element->setReadOnly(first->isReadOnly());
+        return element;
+    }
+    // Destroys a loaded element. Error 362 for element 0, which belongs to the design.
+    void Unload(int index)
+    {
+        const ControlType *element = (*this)(index);
+        if (index == 0)
+            throw runtime::RuntimeError(runtime::CannotUnload);
+        m_elements.erase(index);
+        delete element;
     }
     ControlType *operator()(int index) const
     {

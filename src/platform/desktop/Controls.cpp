@@ -242,4 +242,25 @@ void PictureBox::mouseMoveEvent(QMouseEvent *event)
                      float(event->position().y() * twipsPerPixel));
 }
 
+void PictureBox::PSet(double x, double y)
+{
+    if (m_painting)
+        m_points << QPointF(x / twipsPerPixel, y / twipsPerPixel);
+}
+
+// All points by one call: there are tens of thousands.
+void PictureBox::paintEvent(QPaintEvent *event)
+{
+    QFrame::paintEvent(event);
+    m_painting = true;
+    Q_EMIT Paint();
+    m_painting = false;
+    if (m_points.isEmpty())
+        return;
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawPoints(m_points.constData(), int(m_points.size()));
+    m_points.clear();
+}
+
 } // namespace desktop

@@ -139,19 +139,30 @@ public:
     int ListIndex() const { return currentIndex(); }
 };
 
-// A bare area that reports the mouse.
+// A bare area that reports the mouse and can be drawn on while it is painted.
 class PictureBox : public ControlOf<QFrame>
 {
     Q_OBJECT
 public:
     PictureBox(QWidget *parent, QAnyStringView name);
 
+    // Sets a point, in twips, in the colour of texts. What is drawn outside of Paint is wiped by the next painting, so
+    // it is not drawn at all.
+    void PSet(double x, double y);
+
 Q_SIGNALS:
     // button: the sum of the buttons held down; x and y in twips of this control.
     void MouseMove(int button, float x, float y);
+    // The area is empty again and its handler draws.
+    void Paint();
 
 protected:
     void mouseMoveEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    bool m_painting = false;
+    QList<QPointF> m_points; // pixels
 };
 
 } // namespace desktop

@@ -35,6 +35,13 @@ int sumOf(Qt::MouseButtons buttons)
 
 } // namespace
 
+int shiftState(const QInputEvent &event)
+{
+    const Qt::KeyboardModifiers held = event.modifiers();
+    return (held & Qt::ShiftModifier ? vbShiftMask : 0) | (held & Qt::ControlModifier ? vbCtrlMask : 0) |
+           (held & Qt::AltModifier ? vbAltMask : 0);
+}
+
 int heldButtons(const QMouseEvent &event)
 {
     return sumOf(event.buttons());

@@ -1,6 +1,7 @@
 // Key codes, shift states and mouse buttons as the handlers name them.
 #pragma once
 
+class QInputEvent;
 class QKeyEvent;
 class QMouseEvent;
 
@@ -14,6 +15,8 @@ enum MouseButton : int { vbLeftButton = 1, vbRightButton = 2, vbMiddleButton = 4
 
 // The code of the key, 0 for a key that no handler asks for.
 int keyCode(const QKeyEvent &event);
+// The sum of Shift, Ctrl and Alt as they are held.
+int shiftState(const QInputEvent &event);
 // The sum of the buttons that are down.
 int heldButtons(const QMouseEvent &event);
 // The button that was pressed or released.

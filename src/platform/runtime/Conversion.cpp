@@ -108,6 +108,14 @@ qint32 toLong(const Value &value)
     return rounded<qint32>(toDouble(value));
 }
 
+float toSingle(const Value &value)
+{
+    const double number = toDouble(value);
+    if (std::abs(number) > double(std::numeric_limits<float>::max()))
+        throw RuntimeError(Overflow);
+    return float(number);
+}
+
 Currency toCurrency(const Value &value)
 {
     if (value.is<Currency>())
@@ -154,6 +162,11 @@ QString toText(const Value &value)
         break;
     }
     throw RuntimeError(TypeMismatch);
+}
+
+QString singleText(float number)
+{
+    return numberText(double(number), 7);
 }
 
 QString toText(Value &&value)

@@ -12,11 +12,16 @@ qint16 toInteger(const Value &value);
 // Signed 32-bit.
 qint32 toLong(const Value &value);
 double toDouble(const Value &value);
+// 32-bit floating point.
+float toSingle(const Value &value);
 Currency toCurrency(const Value &value);
 Date toDate(const Value &value);
 // True and False, regional short date and long time, up to 15 digits of a number with the regional decimal sign.
 QString toText(const Value &value);
 QString toText(Value &&value);
+
+// Up to 7 digits, otherwise as toText gives a number.
+QString singleText(float number);
 
 // Whether the value is a number, a Boolean, or a text that can be read as a number. Raises nothing.
 bool IsNumeric(const Value &value);

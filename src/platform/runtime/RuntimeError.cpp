@@ -38,6 +38,8 @@ constexpr std::array texts{
     ErrorText{91, "Object variable or With block variable not set"},
     ErrorText{94, "Invalid use of Null"},
     ErrorText{340, "Control array element 'n' doesn't exist"},
+    ErrorText{360, "Object already loaded"},
+    ErrorText{362, "Can't unload controls created at design time"},
     ErrorText{341, "Invalid control array index"},
     ErrorText{360, "Object already loaded"},
     ErrorText{362, "Can't unload controls created at design time"},

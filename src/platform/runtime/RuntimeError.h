@@ -33,6 +33,8 @@ enum ErrorNumber : int {
     ObjectNotSet = 91,
     InvalidUseOfNull = 94,
     NoSuchControlElement = 340,
+    AlreadyLoaded = 360,
+    CannotUnload = 362,
     InvalidPropertyValue = 380,
     ObjectRequired = 424,
     PropertyNotSupported = 438,

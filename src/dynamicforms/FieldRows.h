@@ -1,0 +1,66 @@
+// The fields of all pages of a form, as both the designer and the record window keep them while they are open.
+//
+// A field belongs to the page whose caption equals its RowTabNam, compared exactly, and to no other key. Places are
+// texts and become numbers only when a control is placed. The rows end with an empty one: after n fields the upper
+// bound is n. Error 9 outside of the bounds, and for the bound itself while there has never been a row.
+#pragma once
+
+#include "platform/data/Recordset.h"
+#include "platform/desktop/Control.h"
+#include "platform/runtime/Conversion.h"
+
+#include <vector>
+
+struct FieldRow
+{
+    QString RowTabNam;
+    QString RowTabDescription;
+    QString RowFieldName;
+    QString RowFieldDescription;
+    qint16 RowFieldDisplayOrder = 0;
+    QString RowLabelTop; // the five below are twips
+    QString RowLabelLeft;
+    QString RowFieldTop;
+    QString RowFieldLeft;
+    QString RowFieldWidth;
+    QString RowValue; // what the record window holds for the field while a person is edited
+};
+
+class FieldRows
+{
+public:
+    // Where the next row goes, plus one; 0 until the load begins. The grid of the designer counts its columns with it
+    // too: whatever it leaves here decides where the next field goes and which rows are cut off.
+    qint16 RowCounter = 0;
+
+    int upperBound() const;
+    FieldRow &operator[](int position);
+    const FieldRow &operator[](int position) const;
+    // Makes RowCounter the upper bound; rows below it stay.
+    void resize();
+    // At RowCounter - 1, after resizing; then RowCounter is one more: error 6 behind 32767.
+    void store(FieldRow row);
+    void countUp();
+
+private:
+    int checked(int position) const;
+
+    std::vector<FieldRow> m_rows;
+};
+
+// The texts of a row of FieldInfo joined with its TabInfo. Error 94 for a Null among them.
+FieldRow fieldRowOf(data::Recordset &fields);
+
+// Gives label and box of a field their places. Each assignment goes through step: the windows differ in what they do
+// when a text is no number (error 13).
+template <class Step>
+void placeField(desktop::Control &label, desktop::Control &box, const FieldRow &row, const Step &step)
+{
+    const auto single = [](const QString &text) { return double(runtime::toSingle(runtime::Value(text))); };
+    step([&] { label.setLeft(single(row.RowLabelLeft)); });
+    step([&] { label.setTop(single(row.RowLabelTop)); });
+    step([&] { label.setWidth(single(row.RowFieldWidth)); });
+    step([&] { box.setLeft(single(row.RowFieldLeft)); });
+    step([&] { box.setTop(single(row.RowFieldTop)); });
+    step([&] { box.setWidth(single(row.RowFieldWidth)); });
+}
