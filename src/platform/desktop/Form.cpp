@@ -63,6 +63,21 @@ void Form::Unload()
     }
 }
 
+void Form::becomeActive()
+{
+    if (isLoaded())
+        guarded([this] { Form_Activate(); });
+}
+
+// A child in the frame hears of every activation of the frame, whichever child is the active one.
+bool Form::event(QEvent *event)
+{
+    const bool isHandled = QWidget::event(event);
+    if (event->type() == QEvent::WindowActivate && isWindow())
+        becomeActive();
+    return isHandled;
+}
+
 QWidget *Form::outer() const
 {
     if (auto *host = qobject_cast<QMdiSubWindow *>(parentWidget()))

@@ -35,6 +35,8 @@ public:
     void Hide() { hide(); }
     // Closes the window, also before it has ever been shown.
     void Unload();
+    // Told by whoever makes it the active window: the frame among its children, the desktop where it stands alone.
+    void becomeActive();
 
     // Twips, with the window's border and title bar.
     double Width() const;
@@ -47,6 +49,8 @@ public:
 protected:
     virtual void Form_Load() {}
     virtual void Form_Unload() {}
+    // The window has been shown as the active one, or has become it again.
+    virtual void Form_Activate() {}
     // The caption that the design gives the window; it loads nothing.
     void setDesignCaption(const QString &caption) { setWindowTitle(caption); }
     void setShared() { m_shared = true; }
@@ -54,6 +58,7 @@ protected:
     void centreOnScreen();
     // Twips, with border and title bar. At each resize the window takes this size again.
     void keepSize(double width, double height);
+    bool event(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 

@@ -67,6 +67,10 @@ MdiForm::MdiForm(QAnyStringView className) : m_area(new Area(this))
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setActivationOrder(QMdiArea::ActivationHistoryOrder); // who opened a window comes back when it closes
     setCentralWidget(m_area);
+    on(m_area, &QMdiArea::subWindowActivated, m_area, [](Area *, const QMdiSubWindow *host) {
+        if (auto *form = host ? qobject_cast<Form *>(host->widget()) : nullptr)
+            form->becomeActive();
+    });
     theFrame() = this;
 }
 

@@ -34,6 +34,7 @@ public:
             setShared();
     }
     QStringList log;
+    int activations = 0;
     int error = 0;       // raised by the load
     bool closes = false; // by itself, while it loads
     QString field;
@@ -48,6 +49,7 @@ protected:
             Unload();
     }
     void Form_Unload() override { log << u"unload"_s; }
+    void Form_Activate() override { ++activations; }
 };
 
 class Frame : public desktop::MdiForm
@@ -121,6 +123,25 @@ private Q_SLOTS:
         QTRY_COMPARE(frame.area().subWindowList().size(), 1);
         frame.close();
         QTRY_VERIFY(frame.area().subWindowList().isEmpty());
+    }
+
+    void aWindowHearsOfItsActivation()
+    {
+        Window alone(Window::Place::Alone);
+        alone.Show();
+        QVERIFY(QTest::qWaitForWindowActive(&alone));
+        QCOMPARE(alone.activations, 1);
+        Frame frame;
+        frame.Show();
+        auto *first = desktop::showNew<Window>();
+        auto *second = desktop::showNew<Window>();
+        QCOMPARE(first->activations, 1);
+        QCOMPARE(second->activations, 1);
+        frame.area().setActiveSubWindow(qobject_cast<QMdiSubWindow *>(first->parentWidget()));
+        QCOMPARE(first->activations, 2);
+        QCOMPARE(second->activations, 1);
+        first->Unload(); // the one before it comes back
+        QTRY_COMPARE(second->activations, 2);
     }
 
     void aSharedChildComesBackIntoTheFrame()
