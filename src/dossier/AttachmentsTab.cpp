@@ -1,9 +1,7 @@
 #include "dossier/AttachmentsTab.h"
 
 #include "dossier/RowDeletion.h"
-#include "library/StoredFile.h"
 #include "platform/desktop/ErrorReport.h"
-#include "platform/desktop/Launch.h"
 #include "platform/desktop/MsgBox.h"
 #include "platform/desktop/RowTexts.h"
 #include "platform/runtime/Application.h"
@@ -124,35 +122,18 @@ void AttachmentsTab::Check1_Click()
     load();
 }
 
+AttachmentOwner AttachmentsTab::member() const
+{
+    return {u"MemberId", m_dossier.MemberId};
+}
+
 void AttachmentsTab::butAddAttachement_Click()
 {
     data::Connection connection;
-    openDataStore(connection);
-    data::Recordset attachments = openRows(connection, u"select * from Attachments"_s);
-    CommonDialog1.DialogTitle = u"OPEN FILE"_s;
-    CommonDialog1.Filter = u"All files (*.*)|*.*|DOC files (*.doc)|*.doc|PDF files (*.pdf)|*.pdf"_s;
-    if (!CommonDialog1.ShowOpen()) {
-        connection.Close();
+    if (!uploadAttachment(connection, CommonDialog1, member(), nextVersion))
         return;
-    }
-    addFile(connection, attachments, CommonDialog1.FileName, CommonDialog1.FileTitle);
     desktop::MsgBox(u"Attachment successfully uploaded"_s, desktop::vbInformation);
     load();
-}
-
-void AttachmentsTab::addFile(data::Connection &connection, data::Recordset &attachments, const QString &path,
-                             const QString &name)
-{
-    attachments.AddNew();
-    data::Recordset versions = openRows(connection, u"select * from Attachments where AttachmentsName = '"_s + name +
-                                                        u"' ORDER BY AttachmentVersion desc"_s);
-    FileToStore file(path);
-    attachments[u"MemberId"].setValue(Value(m_dossier.MemberId));
-    attachments[u"AttachmentsName"].setValue(name);
-    attachments[u"Attachments"].AppendChunk(file.bytes());
-    attachments[u"AttachmentVersion"].setValue(nextVersion(versions));
-    attachments.Update();
-    file.close();
 }
 
 void AttachmentsTab::addDropped(const desktop::DataObject &dropped)
@@ -161,7 +142,7 @@ void AttachmentsTab::addDropped(const desktop::DataObject &dropped)
     openDataStore(connection);
     data::Recordset attachments = openRows(connection, u"select * from Attachments"_s);
     for (const QString &path : dropped.Files())
-        addFile(connection, attachments, path, QFileInfo(path).fileName());
+        addAttachment(connection, attachments, member(), path, QFileInfo(path).fileName(), nextVersion);
     connection.Close();
     load();
 }
@@ -176,27 +157,13 @@ void AttachmentsTab::lstAttachement_OLEDragDrop(const desktop::DataObject &dropp
                     desktop::vbInformation);
 }
 
-data::Recordset AttachmentsTab::selectedRow(data::Connection &connection) const
-{
-    openDataStore(connection);
-    const desktop::ListItem &item = *lstAttachement->SelectedItem();
-    return openRows(connection, u"select * from Attachments where AttachmentVersion = "_s + item.SubItems(2) +
-                                    u" and AttachmentsName = '"_s + item.Text() + u"' and MemberId ="_s +
-                                    m_dossier.member());
-}
-
-// The copy stays where it is until the main window closes; two versions of a name share its place.
 void AttachmentsTab::MnuView_Click()
 {
     data::Connection connection;
-    data::Recordset attachment = selectedRow(connection);
-    const QString name = lstAttachement->SelectedItem()->Text();
+    data::Recordset attachment = selectedAttachment(connection, *lstAttachement, member());
     if (!runtime::folderExists(runtime::App::Path() + u"\\temp"_s))
         runtime::MkDir(runtime::App::Path() + u"\\Temp"_s);
-    const QString path = temporaryPath(name);
-    fetchInto(attachment[u"Attachments"], path);
-    connection.Close();
-    desktop::ShellExecute(path);
+    viewAttachment(connection, attachment, lstAttachement->SelectedItem()->Text());
 }
 
 void AttachmentsTab::MnuSaveAs_Click()
@@ -207,10 +174,8 @@ void AttachmentsTab::MnuSaveAs_Click()
 void AttachmentsTab::saveSelected()
 {
     data::Connection connection;
-    data::Recordset attachment = selectedRow(connection);
-    CommonDialog1.FileName = runtime::toText(attachment[u"AttachmentsName"].Value());
-    if (CommonDialog1.ShowSave())
-        fetchInto(attachment[u"Attachments"], CommonDialog1.FileName);
+    data::Recordset attachment = selectedAttachment(connection, *lstAttachement, member());
+    saveAttachment(attachment, CommonDialog1);
     connection.Close();
 }
 

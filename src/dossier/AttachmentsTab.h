@@ -5,6 +5,7 @@
 #pragma once
 
 #include "dossier/Dossier.h"
+#include "library/AttachmentRows.h"
 #include "platform/desktop/CommonDialog.h"
 #include "platform/desktop/Controls.h"
 #include "platform/desktop/PopupMenu.h"
@@ -33,11 +34,9 @@ public:
 private:
     void setUpContent();
     void setUpMenu();
+    AttachmentOwner member() const;
     QString listStatement() const;
     void addDropped(const desktop::DataObject &dropped);
-    void addFile(data::Connection &connection, data::Recordset &attachments, const QString &path, const QString &name);
-    // The row of the selected line, found by its version, name and member.
-    data::Recordset selectedRow(data::Connection &connection) const;
     void saveSelected();
 
     Dossier &m_dossier;

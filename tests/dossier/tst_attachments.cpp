@@ -6,16 +6,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-}
-
-} // namespace
-
 class tst_Attachments : public QObject
 {
     Q_OBJECT
@@ -30,7 +20,7 @@ private Q_SLOTS:
     {
         m_folder->execute("INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion) VALUES"
                           " (2, 'A.TXT', 4), (2, 'a.txt', 5), (2, 'b.txt', 9)");
-        const QString path = file(u"a.txt"_s, "one");
+        const QString path = m_folder->write(u"a.txt"_s, "one");
         CaughtErrors errors;
         OpenDossier dossier;
         FileAnswers files({path, path});
@@ -69,7 +59,7 @@ private Q_SLOTS:
         m_folder->execute("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 20) INSERT INTO "
                           "Attachments (MemberId, AttachmentsName, AttachmentVersion, Attachments) SELECT 1, 'a.txt', "
                           "i, randomblob(1000000) FROM n");
-        const QString path = file(u"a.txt"_s, "one");
+        const QString path = m_folder->write(u"a.txt"_s, "one");
         CaughtErrors errors;
         FileAnswers files({path});
         BoxAnswers boxes({QMessageBox::Ok});
@@ -108,7 +98,7 @@ private Q_SLOTS:
                           " (2, 'full.txt', 32767)");
         CaughtErrors errors;
         OpenDossier dossier;
-        FileAnswers files({file(name, "x")});
+        FileAnswers files({m_folder->write(name, "x")});
         dossier->Frame4->butAddAttachement->click();
         QCOMPARE(errors.takeNumber(), error);
         QCOMPARE(m_folder->row("SELECT count(*) FROM Attachments"), u"1"_s);
@@ -131,7 +121,7 @@ private Q_SLOTS:
         CaughtErrors errors;
         OpenDossier dossier;
         AttachmentsTab &tab = *dossier->Frame4;
-        drop({QUrl::fromLocalFile(file(name, content))}, tab);
+        drop({QUrl::fromLocalFile(m_folder->write(name, content))}, tab);
         QTRY_COMPARE(tab.lstAttachement->ListItems.Count(), 1);
         select(*tab.lstAttachement, 1);
         Launches launches;
@@ -218,7 +208,9 @@ private Q_SLOTS:
         BoxAnswers boxes;
         OpenDossier dossier;
         AttachmentsTab &tab = *dossier->Frame4;
-        drop({QUrl::fromLocalFile(file(u"a.txt"_s, "a")), QUrl::fromLocalFile(file(u"b.txt"_s, "b"))}, tab);
+        drop({QUrl::fromLocalFile(m_folder->write(u"a.txt"_s, "a")),
+              QUrl::fromLocalFile(m_folder->write(u"b.txt"_s, "b"))},
+             tab);
         QTRY_COMPARE(versions(tab), (QStringList{u"b.txt 1"_s, u"a.txt 1"_s}));
     }
 
@@ -235,7 +227,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, second);
         QFETCH(QString, left);
-        file(u"it's.txt"_s, "x");
+        m_folder->write(u"it's.txt"_s, "x");
         QDir(m_folder->folder()).mkdir(u"folder"_s);
         CaughtErrors errors;
         BoxAnswers boxes({QMessageBox::Ok});
@@ -244,7 +236,8 @@ private Q_SLOTS:
         if (second == u"just a text")
             drop({}, tab, second);
         else
-            drop({QUrl::fromLocalFile(file(u"a.txt"_s, "a")), QUrl::fromLocalFile(m_folder->path(second))}, tab);
+            drop({QUrl::fromLocalFile(m_folder->write(u"a.txt"_s, "a")), QUrl::fromLocalFile(m_folder->path(second))},
+                 tab);
         QTRY_COMPARE(boxes.seen.size(), 1);
         QCOMPARE(boxes.seen[0].text, u"Currently you can't drag and drop straight from that application\r\n"
                                      "Try dragging and dropping from the desktop then to Brenlow Premium."_s);
@@ -271,14 +264,6 @@ private:
     {
         const QByteArray counts = contentOf(u"/proc/self/io"_s);
         return counts.startsWith("rchar: ") ? counts.mid(7, counts.indexOf('\n') - 7).toLongLong() : 0;
-    }
-
-    QString file(const QString &name, const QByteArray &content)
-    {
-        QFile file(m_folder->path(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            qFatal("cannot write %s", qPrintable(name));
-        return file.fileName();
     }
 
     static QStringList versions(const AttachmentsTab &tab)

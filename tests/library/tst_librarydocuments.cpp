@@ -44,7 +44,7 @@ private Q_SLOTS:
     {
         m_folder->execute("INSERT INTO Resources (ObjectIndex, DocumentName, DocuemntVersion) VALUES"
                           " (2, 'A.TXT', 4), (2, 'a.txt', 2), (2, 'b.txt', 9)");
-        const QString path = file(u"a.txt"_s, "one");
+        const QString path = m_folder->write(u"a.txt"_s, "one");
         OpenLibrary library;
         library.press(2);
         FileAnswers files({path, path, path});
@@ -70,7 +70,7 @@ private Q_SLOTS:
                           " (2, 'a.txt', 1), (2, 'a.txt', 2); DELETE FROM Resources WHERE DocuemntVersion = 2");
         OpenLibrary library;
         library.press(2);
-        FileAnswers files({file(u"a.txt"_s, "")});
+        FileAnswers files({m_folder->write(u"a.txt"_s, "")});
         library.choose("mnuUpLoadDocument");
         QCOMPARE(m_folder->row("SELECT DocuemntVersion, hex(Document) FROM Resources WHERE DocumentId = 3"),
                  u"2|00"_s); // an empty file is one zero byte
@@ -92,7 +92,7 @@ private Q_SLOTS:
         m_folder->execute("INSERT INTO Resources (ObjectIndex, DocumentName, DocuemntVersion) VALUES"
                           " (1, 'full.txt', 2147483647), (1, 'null.txt', NULL)");
         OpenLibrary library;
-        FileAnswers files({name.isEmpty() ? QString() : file(name, "x")});
+        FileAnswers files({name.isEmpty() ? QString() : m_folder->write(name, "x")});
         library.choose("mnuUpLoadDocument");
         QCOMPARE(m_errors->takeNumber(), error);
         QCOMPARE(m_folder->row("SELECT count(*), count(DocuemntVersion) FROM Resources"),
@@ -127,14 +127,6 @@ private Q_SLOTS:
     }
 
 private:
-    QString file(const QString &name, const QByteArray &content)
-    {
-        QFile file(m_folder->path(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            qFatal("cannot write %s", qPrintable(name));
-        return file.fileName();
-    }
-
     std::optional<DataStoreFolder> m_folder;
     std::optional<CaughtErrors> m_errors;
 };

@@ -25,6 +25,12 @@ template <class Call> QString errorOf(Call &&call)
     return {};
 }
 
+inline QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
+}
+
 class DataFolder
 {
 public:
@@ -44,6 +50,15 @@ public:
         return QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=%1;").arg(file);
     }
     void open(data::Connection &connection) const { connection.Open(connectionString()); }
+
+    // Another file in the folder; its path.
+    QString write(const QString &name, const QByteArray &content) const
+    {
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            qFatal("cannot write %s", qPrintable(name));
+        return file.fileName();
+    }
 
     // Runs SQLite's own SQL on the file, as another tool would.
     void execute(const QByteArray &sql) const

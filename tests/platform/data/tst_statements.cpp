@@ -25,12 +25,6 @@ private:
 
 namespace {
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 // Reads every field of every row, the bytes included; returns how many rows there were.
 qint32 readEverything(Recordset &rows, int columns)
 {
