@@ -1,7 +1,7 @@
 #include "dossier/NotesTab.h"
 
 #include "dossier/RowDeletion.h"
-#include "events/frmMeeting.h"
+#include "events/StoredNotes.h"
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/MsgBox.h"
@@ -43,11 +43,8 @@ constexpr std::array noteColumns{
 
 QString durationText(const runtime::Date &start, const runtime::Date &end)
 {
-    const qint32 minutes = runtime::DateDiff(u"n", start, end);
     const qint32 seconds = runtime::DateDiff(u"s", start, end);
-    const auto field = [](qint32 number) { return runtime::Format(Value(number), u"00"); };
-    return field(minutes / 60) + u':' + field(minutes - 60 * (minutes / 60)) + u':' +
-           field(seconds - 60 * (seconds / 60));
+    return hoursAndMinutes(start, end) + u':' + runtime::Format(Value(seconds - 60 * (seconds / 60)), u"00");
 }
 
 NotesTab::NotesTab(QWidget *parent, Dossier &dossier)
@@ -153,14 +150,7 @@ void NotesTab::lstPhoneNotes_DblClick()
 {
     const desktop::ListItem &item = *lstPhoneNotes->SelectedItem();
     desktop::showNew<frmMeeting>([this, &item](frmMeeting &note) {
-        note.AddView = false;
-        note.EventDate = item.Text();
-        note.EventType = item.SubItems(1);
-        note.EventStartTime = item.SubItems(2);
-        note.EventEndTime = item.SubItems(3);
-        note.EventPurpose = item.SubItems(5);
-        note.EventCategory = item.SubItems(6);
-        note.EventNotes = item.SubItems(7);
+        takeStoredNote(note, item);
         note.MemberId = m_dossier.member();
         note.setCaption(u"Tolmark View Event"_s);
     });

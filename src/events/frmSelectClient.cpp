@@ -1,7 +1,7 @@
 #include "events/frmSelectClient.h"
 
+#include "events/ActivePeople.h"
 #include "platform/desktop/Keys.h"
-#include "platform/runtime/Conversion.h"
 #include "shell/CLsDataBaseConnection.h"
 
 #include <QHBoxLayout>
@@ -26,19 +26,9 @@ frmSelectClient::frmSelectClient()
 
 void frmSelectClient::Form_Load()
 {
-    // Not MemberInformation: these are the people of the record window.
-    CLsDataBaseConnection connection;
-    data::Recordset people = connection.CreateRecordset(u"select * from [Personal Information] Where Active = 1"_s);
-    lstClient->clear();
-    m_clientIds.resize(1);
-    const auto name = [&people](QStringView column) { return runtime::joinedText(people[column].Value()); };
-    for (; !people.Eof(); people.MoveNext()) {
-        m_clientIds << people[u"PersonalInformationId"].Value();
-        lstClient->addItem(name(u"Last Name") + u' ' + name(u"Middle Name") + u' ' + name(u"First Name"));
-    }
+    // Not the members: the note belongs to a person of the record window.
+    m_clientIds = QList<runtime::Value>(1) + listActivePeople(*lstClient);
     lstClient->setSelected(0);
-    people.Close();
-    connection.DbClose();
     setSize(4800, 5715);
 }
 
