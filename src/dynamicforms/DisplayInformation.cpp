@@ -1,0 +1,345 @@
+#include "dynamicforms/DisplayInformation.h"
+
+#include "events/StoredNotes.h"
+#include "library/frmDocumentExp.h"
+#include "platform/desktop/Keys.h"
+#include "platform/desktop/MsgBox.h"
+#include "platform/runtime/ErrorHandling.h"
+#include "shell/DataStore.h"
+#include "shell/Session.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+using desktop::CommandButton;
+using runtime::everyStep;
+using runtime::Value;
+
+namespace {
+
+// One more than there are rows of the name, whoever owns them.
+Value nextVersion(data::Recordset &versions)
+{
+    return Value(versions.Eof() ? 1 : versions.RecordCount() + 1);
+}
+
+} // namespace
+
+DisplayInformation::DisplayInformation()
+    : Form(Place::InFrame, u"DisplayInformation"), TabStrip1(new desktop::TabStrip(this, u"TabStrip1")),
+      Frame1(new desktop::Frame(this, u"Frame1", {})), ListView1(new desktop::ListView(Frame1, u"ListView1")),
+      Frame2(new desktop::Frame(this, u"Frame2", u"Record Options"_s)),
+      cmdEdit(new CommandButton(Frame2, u"cmdEdit", u"&Edit"_s)),
+      cmdDelete(new CommandButton(Frame2, u"cmdDelete", u"&Delete"_s)),
+      cmdCancel(new CommandButton(Frame2, u"cmdCancel", u"C&ancel"_s)),
+      cmdClose(new CommandButton(Frame2, u"cmdClose", u"&Close"_s)),
+      CommonDialog1(new desktop::CommonDialog(this, u"CommonDialog1")),
+      MnuOptionsView(new desktop::PopupMenu(this, u"MnuOptionsView", u"View Options"_s)), m_page(*Frame1, m_rows)
+{
+    setDesignCaption(u"Tolmark Display Information"_s);
+    setUpContent();
+    setUpMenu();
+    connectHandlers();
+    keepSize(14430, 10995);
+}
+
+void DisplayInformation::setUpContent()
+{
+    TabStrip1->setAccessibleName(u"Pages"_s);
+    TabStrip1->setDrawBase(false);
+    TabStrip1->setFocusPolicy(Qt::StrongFocus); // a click leaves the box in use before it is unloaded
+    ListView1->setVisible(false);
+    auto *page = new QVBoxLayout(Frame1);
+    page->addWidget(ListView1);
+    auto *buttons = new QHBoxLayout(Frame2);
+    buttons->addWidget(cmdEdit);
+    buttons->addWidget(cmdDelete);
+    buttons->addStretch();
+    buttons->addWidget(cmdCancel);
+    buttons->addWidget(cmdClose);
+    auto *pages = new QVBoxLayout; // the tabs stand on the frame
+    pages->setSpacing(0);
+    pages->addWidget(TabStrip1);
+    pages->addWidget(Frame1, 1);
+    auto *whole = new QVBoxLayout(this);
+    whole->addLayout(pages);
+    whole->addWidget(Frame2);
+    desktop::setTabOrder({TabStrip1, m_page.Text1(0), ListView1, cmdEdit, cmdDelete, cmdCancel, cmdClose});
+}
+
+void DisplayInformation::setUpMenu()
+{
+    QAction *saveAs = MnuOptionsView->addItem(u"MnuSaveAs", u"SaveAs"_s);
+    QAction *view = MnuOptionsView->addItem(u"MnuView", u"View"_s);
+    desktop::on(saveAs, &QAction::triggered, this, &DisplayInformation::MnuSaveAs_Click);
+    desktop::on(view, &QAction::triggered, this, &DisplayInformation::MnuView_Click);
+}
+
+void DisplayInformation::connectHandlers()
+{
+    using desktop::on;
+    on(TabStrip1, &desktop::TabStrip::BeforeClick, this, &DisplayInformation::TabStrip1_BeforeClick);
+    on(TabStrip1, &desktop::TabStrip::Click, this, &DisplayInformation::TabStrip1_Click);
+    on(ListView1, &desktop::ListView::DblClick, this, &DisplayInformation::ListView1_DblClick);
+    on(ListView1, &desktop::ListView::KeyUp, this, &DisplayInformation::ListView1_KeyUp);
+    on(ListView1, &desktop::ListView::MouseUp, this, &DisplayInformation::ListView1_MouseUp);
+    on(cmdEdit, &QPushButton::clicked, this, &DisplayInformation::cmdEdit_Click);
+    on(cmdDelete, &QPushButton::clicked, this, &DisplayInformation::cmdDelete_Click);
+    on(cmdCancel, &QPushButton::clicked, this, &DisplayInformation::cmdCancel_Click);
+    on(cmdClose, &QPushButton::clicked, this, &DisplayInformation::cmdClose_Click);
+}
+
+void DisplayInformation::Form_Load()
+{
+    m_page.setLocked(true);
+    cmdCancel->setVisible(false);
+    setCaption(WindowTitle);
+    loadForm();
+    if (EditMode == u"New") {
+        cmdDelete->setVisible(false);
+        cmdCancel->setVisible(false);
+        cmdClose->setText(u"Cancel"_s);
+        cmdEdit->setText(u"Save"_s);
+    }
+    ShowRecordTab();
+}
+
+// Every page, whether the designer owns it or it came with the data file.
+void DisplayInformation::loadForm()
+{
+    data::Connection connection;
+    openDataStore(connection);
+    data::Recordset rows = openRows(connection, u"select * from TabInfo"_s);
+    TabStrip1->Clear();
+    m_rows.countUp();
+    for (; !rows.Eof(); rows.MoveNext())
+        TabStrip1->add({}, runtime::toText(rows[u"TabNam"].Value()), runtime::toText(rows[u"TabDescription"].Value()));
+    if (EditMode != u"New")
+        addTabs({u"Attachments"_s, u"Resources"_s, u"Conferences/Meetings"_s});
+    rows.Close();
+    rows =
+        openRows(connection, u"SELECT *, TabInfo.TabNam, TabInfo.TabDescription FROM FieldInfo INNER JOIN TabInfo ON "
+                             " FieldInfo.TabId = TabInfo.TabId order by FieldDisplayOrder"_s);
+    for (; !rows.Eof(); rows.MoveNext())
+        m_rows.store(fieldRowOf(rows));
+    m_rows.upperBound(); // refuses a form without fields
+    connection.Close();
+}
+
+void DisplayInformation::Form_Activate()
+{
+    Session::current().ActiveRecordId = QString::number(RecordId);
+}
+
+void DisplayInformation::addTabs(const QStringList &captions)
+{
+    for (const QString &caption : captions)
+        TabStrip1->add({}, caption, {});
+}
+
+QStringList DisplayInformation::captions() const
+{
+    QStringList captions;
+    for (int tab = 1; tab <= TabStrip1->Count(); ++tab)
+        captions << TabStrip1->Caption(tab);
+    return captions;
+}
+
+void DisplayInformation::ShowRecordTab()
+{
+    everyStep([this] { m_page.showFields(TabStrip1->SelectedCaption()); },
+              [this] {
+                  if (EditMode.isEmpty())
+                      m_page.fillFromStore(TabStrip1->SelectedCaption(), RecordId);
+                  else
+                      m_page.fillFromRows(TabStrip1->SelectedCaption());
+              });
+}
+
+void DisplayInformation::TabStrip1_BeforeClick()
+{
+    everyStep([this] { m_page.keepTexts(TabStrip1->SelectedCaption()); });
+}
+
+void DisplayInformation::TabStrip1_Click()
+{
+    ShowRecordTab();
+    const QString caption = TabStrip1->SelectedCaption();
+    if (caption == attachmentsList.caption) {
+        ShowAttachments();
+    } else if (caption == resourcesList.caption) {
+        ShowResources();
+    } else if (caption == eventsList.caption) {
+        ShowEvents();
+    } else if (EditMode != u"New") {
+        ListView1->setVisible(false);
+        cmdEdit->setText(u"Edit"_s);
+        cmdDelete->setVisible(true);
+    }
+}
+
+void DisplayInformation::showList(const RecordList &list)
+{
+    showRecordList(*ListView1, list, RecordId);
+    cmdEdit->setText(list.command.toString());
+    cmdDelete->setVisible(false);
+    cmdCancel->setVisible(false);
+}
+
+void DisplayInformation::cmdEdit_Click()
+{
+    const QString command = cmdEdit->text();
+    const bool isOfList =
+        command == attachmentsList.command || command == resourcesList.command || command == eventsList.command;
+    if (EditMode.isEmpty() && !isOfList)
+        startEditing();
+    else if (command == attachmentsList.command)
+        upload();
+    else if (command == eventsList.command)
+        return; // events are added as notes, elsewhere
+    else if (command == resourcesList.command)
+        assignResource();
+    else if (EditMode == u"New")
+        saveNew();
+}
+
+void DisplayInformation::startEditing()
+{
+    constexpr int fixedPages = 3;
+    EditMode = u"Edit"_s;
+    cmdDelete->setText(u"Save"_s);
+    cmdEdit->setVisible(false);
+    cmdClose->setVisible(false);
+    m_page.setLocked(false);
+    for (int page = 0; page < fixedPages; ++page)
+        TabStrip1->Remove(TabStrip1->Count());
+    readPerson(m_rows, captions(), RecordId);
+}
+
+void DisplayInformation::endEditing()
+{
+    EditMode.clear();
+    cmdEdit->setVisible(true);
+    cmdClose->setVisible(true);
+    cmdDelete->setText(u"Delete"_s);
+}
+
+AttachmentOwner DisplayInformation::person() const
+{
+    return {u"PersonalInformationId", RecordId};
+}
+
+void DisplayInformation::upload()
+{
+    data::Connection connection;
+    if (!uploadAttachment(connection, *CommonDialog1, person(), nextVersion))
+        return;
+    connection.Close();
+    ShowAttachments();
+}
+
+// The link is made there and shows here when the page is opened again.
+void DisplayInformation::assignResource()
+{
+    desktop::showNew<frmDocumentExp>([this](frmDocumentExp &library) {
+        library.setCaption(u"Resource Manager Browser"_s);
+        library.PersonalInformationId = QString::number(RecordId);
+        library.adminFunction = false;
+    });
+}
+
+RecordPages DisplayInformation::pages() const
+{
+    return {m_rows, captions(), TabStrip1->SelectedItem(), m_page.values()};
+}
+
+// The boxes have been locked up to here, so what is written is what they were opened with: nothing.
+void DisplayInformation::saveNew()
+{
+    m_page.setLocked(false);
+    addPerson(pages());
+    Unload();
+}
+
+void DisplayInformation::cmdDelete_Click()
+{
+    if (EditMode == u"Edit")
+        saveEdited();
+    else
+        deletePerson();
+}
+
+void DisplayInformation::deletePerson()
+{
+    const desktop::MsgBoxResult answer = desktop::MsgBox(u"You are about to delete this client from the database\r\n"
+                                                         "Do you want to continue"_s,
+                                                         desktop::vbYesNo, u"Quillon"_s);
+    if (answer != desktop::vbYes)
+        return;
+    markDeleted(RecordId);
+    Unload();
+}
+
+// The boxes stay unlocked, and the list of events comes back only with the window's next opening.
+void DisplayInformation::saveEdited()
+{
+    savePerson(pages(), RecordId);
+    endEditing();
+    addTabs({u"Attachments"_s, u"Resources"_s});
+}
+
+void DisplayInformation::cmdCancel_Click()
+{
+    if (EditMode == u"Edit") {
+        endEditing();
+        addTabs({u"Attachments"_s, u"Resources"_s, u"Conferences/Meetings"_s});
+        m_page.setLocked(true);
+    }
+    cmdCancel->setVisible(false);
+}
+
+void DisplayInformation::cmdClose_Click()
+{
+    Unload();
+}
+
+void DisplayInformation::ListView1_DblClick()
+{
+    if (TabStrip1->SelectedCaption() != eventsList.caption)
+        return;
+    const desktop::ListItem &item = *ListView1->SelectedItem();
+    desktop::showNew<frmMeeting>([&item](frmMeeting &event) {
+        takeStoredNote(event, item);
+        event.setCaption(u"View Event"_s);
+    });
+}
+
+// Enter does for the keyboard what the double click does.
+void DisplayInformation::ListView1_KeyUp(int keyCode)
+{
+    if (keyCode == desktop::vbKeyReturn && ListView1->SelectedItem())
+        ListView1_DblClick();
+}
+
+void DisplayInformation::ListView1_MouseUp(int button, QPoint place)
+{
+    if (button == desktop::vbRightButton && TabStrip1->SelectedCaption() == attachmentsList.caption)
+        MnuOptionsView->popup(place);
+}
+
+void DisplayInformation::MnuView_Click()
+{
+    data::Connection connection;
+    data::Recordset attachment = selectedAttachment(connection, *ListView1, person());
+    viewAttachment(connection, attachment, ListView1->SelectedItem()->Text());
+}
+
+void DisplayInformation::MnuSaveAs_Click()
+{
+    data::Connection connection;
+    data::Recordset attachment = selectedAttachment(connection, *ListView1, person());
+    saveAttachment(attachment, *CommonDialog1);
+    connection.Close();
+}

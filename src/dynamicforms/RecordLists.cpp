@@ -1,0 +1,110 @@
+#include "dynamicforms/RecordLists.h"
+
+#include "events/StoredNotes.h"
+#include "platform/desktop/RowTexts.h"
+#include "shell/CLsDataBaseConnection.h"
+
+#include <array>
+
+using desktop::ListedColumn;
+using runtime::Value;
+
+namespace {
+
+constexpr ListedColumn listed(QStringView header, QStringView column = {})
+{
+    return {header, {}, column};
+}
+
+constexpr std::array attachmentColumns{
+    listed(u"Attachment Name", u"AttachmentsName"),
+    listed(u"Date Added", u"AttachmentsDate"),
+    listed(u"Version Number", u"AttachmentVersion"),
+};
+
+constexpr std::array resourceColumns{
+    listed(u"Location", u"ObjectText"),
+    listed(u"Document ID", u"DocumentId"),
+    listed(u"Document Date", u"DocumentDate"),
+    listed(u"Document Name", u"DocumentName"),
+    listed(u"Document Version", u"DocuemntVersion"),
+};
+
+constexpr std::array eventColumns{
+    listed(u"Event Date", u"MeetingDate"),
+    listed(u"Event Type", u"MeetingType"),
+    listed(u"Start Time", u"MeetingStartTime"),
+    listed(u"End Time", u"MeetingEndTime"),
+    listed(u"Duration (HH:MM)"),
+    listed(u"Event Purpose", u"MeetingSubject"),
+    listed(u"Event Category", u"MeetingCatagory"),
+    listed(u"Event Notes", u"MeetingNotes"),
+};
+
+void putDuration(desktop::ListItem &item, int index, data::Recordset &event)
+{
+    const Value start = event[u"MeetingStartTime"].Value();
+    const Value end = event[u"MeetingEndTime"].Value();
+    if (!start.isNull() && !end.isNull())
+        item.setSubItem(index, hoursAndMinutes(runtime::toDate(start), runtime::toDate(end)));
+}
+
+} // namespace
+
+const RecordList attachmentsList{
+    .caption = u"Attachments",
+    .statementStart = u"select * from Attachments where PersonalInformationId=",
+    .statementEnd = u" ORDER BY Attachments.AttachmentsName, Attachments.AttachmentVersion DESC;",
+    .columns = attachmentColumns,
+    .command = u"UpLoad",
+};
+
+const RecordList resourcesList{
+    .caption = u"Resources",
+    .statementStart =
+        u"SELECT ObjectTbl.ObjectText, Resources.DocumentId, Resources.DocumentDate, Resources.DocumentName, "
+        "Resources.DocuemntVersion"
+        " FROM ([Personal Information] LEFT OUTER JOIN (ReferenceInfo LEFT OUTER JOIN Resources ON "
+        "ReferenceInfo.DocumentId = Resources.DocumentId) "
+        " ON [Personal Information].PersonalInformationId = ReferenceInfo.PersonalInformationId) LEFT OUTER JOIN "
+        "ObjectTbl ON ObjectTbl.ObjectIndex = Resources.ObjectIndex"
+        " WHERE ((([Personal Information].PersonalInformationId)=",
+    .statementEnd = u"));",
+    .columns = resourceColumns,
+    .command = u"Assign Resource",
+};
+
+const RecordList eventsList{
+    .caption = u"Conferences/Meetings",
+    .statementStart =
+        u"SELECT MeetingInfo.MeetingDate, MeetingInfo.MeetingCatagory, MeetingInfo.MeetingType, "
+        "MeetingInfo.MeetingSubject, MeetingInfo.MeetingNotes, MeetingInfo.MeetingStartTime, "
+        "MeetingInfo.MeetingEndTime, MeetingInfo.MeetingEnteredDate "
+        " FROM [Personal Information] INNER JOIN MeetingInfo ON [Personal Information].PersonalInformationId = "
+        "MeetingInfo.PersonalInformationId"
+        " WHERE ((([Personal Information].PersonalInformationId)=",
+    .statementEnd = u"));",
+    .columns = eventColumns,
+    .command = u"Add Event",
+};
+
+void showRecordList(desktop::ListView &view, const RecordList &list, qint16 recordId)
+{
+    CLsDataBaseConnection store;
+    data::Recordset rows = store.CreateRecordset(list.statementStart.toString() + QString::number(recordId) +
+                                                 list.statementEnd.toString());
+    view.setAccessibleName(list.caption.toString());
+    view.setVisible(true);
+    view.ListItems.Clear();
+    setUpHeaders(view, list.columns);
+    addItems(view, rows, [&list](desktop::ListItem &item, data::Recordset &row) {
+        for (size_t at = 0; at < list.columns.size(); ++at) {
+            if (const QStringView column = list.columns[at].column; column.isEmpty())
+                putDuration(item, int(at), row);
+            else
+                putSubItem(item, int(at), row[column]);
+        }
+    });
+    rows.Close();
+    store.DbClose();
+}

@@ -1,0 +1,45 @@
+// The fields of the selected page of the record window: a label and a box for each, where the designer put them.
+//
+// Elements 0 of both arrays are templates and never shown. A box is tied to its column by its tool tip alone, the
+// field's name; one with an empty tool tip is passed over. Whatever fails while a page is shown or left is passed over
+// too, and the next step runs; error 91 where a caption is asked for and no tab is selected is the caller's.
+#pragma once
+
+#include "dynamicforms/FieldRows.h"
+#include "platform/desktop/ControlArray.h"
+#include "platform/desktop/Controls.h"
+
+// What the user sees in a box.
+struct BoxValue
+{
+    QString name; // of the column
+    QString text;
+};
+
+class RecordPage
+{
+public:
+    // The boxes lie at their twips in the frame. frame and rows are the window's and outlive the page.
+    RecordPage(desktop::Frame &frame, FieldRows &rows);
+
+    desktop::ControlArray<desktop::Label> Label1;
+    desktop::ControlArray<desktop::TextBox> Text1;
+
+    // All boxes, and those that are still to be loaded.
+    void setLocked(bool locked);
+    // Unloads the fields of the last page and loads those of this one, empty.
+    void showFields(const QString &caption);
+    // A Null, a missing column, row or table leaves a box as it is.
+    void fillFromStore(const QString &caption, qint16 recordId);
+    void fillFromRows(const QString &caption);
+    // Takes the texts into the rows of the page. The first row of all is left out.
+    void keepTexts(const QString &caption);
+    QList<BoxValue> values() const;
+
+private:
+    void unloadFields();
+    void showField(const FieldRow &row);
+    template <class Visit> void forEachBox(Visit visit) const;
+
+    FieldRows &m_rows;
+};

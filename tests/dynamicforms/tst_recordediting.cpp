@@ -1,0 +1,284 @@
+// The record window's buttons and list commands: editing, a new person, deleting, attachments, documents and notes.
+#include "dynamicforms/OpenRecord.h"
+#include "events/frmMeeting.h"
+#include "library/frmDocumentExp.h"
+#include "support/Launches.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString personal = u"Personal Information"_s;
+const QString volunteer = u"Volunteer Profile"_s;
+
+enum Personal : int { Title = 1, FirstName, City = 7 };
+enum Volunteer : int { Skills = 1, Availability, Driver, Since };
+
+// With a line of the list selected.
+void choose(const OpenRecord &record, int line, const char *item)
+{
+    record->ListView1->setCurrentItem(&record->ListView1->ListItems(line));
+    child<QAction>(*record->MnuOptionsView, item)->trigger();
+}
+
+// Somewhere in the first line of the list.
+void doubleClick(const OpenRecord &record)
+{
+    QTest::mouseDClick(record->ListView1->viewport(), Qt::LeftButton, {}, QPoint(20, 10));
+}
+
+} // namespace
+
+class tst_RecordEditing : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        m_folder.emplace(DataStoreFolder::Content::Sample);
+        m_folder->execute("DELETE FROM Attachments");
+        m_errors.emplace();
+    }
+    void cleanup()
+    {
+        m_errors.reset();
+        m_folder.reset();
+    }
+
+    void editingUnlocksAndTakesTheFixedPagesAway()
+    {
+        OpenRecord record;
+        record.type(City, u"Bath"_s);
+        QCOMPARE(record.box(City)->text(), u"Portland"_s); // locked
+        OpenRecord::press(record->cmdEdit);
+        QCOMPARE(record.buttons(), u"- Save - -"_s);
+        QCOMPARE(record.tabs(), (QStringList{personal, volunteer}));
+        record.turnTo(volunteer);
+        QCOMPARE(record.buttons(), u"- Save - -"_s);
+        record.type(Driver, u"No"_s);
+        record.turnTo(personal);
+        record.turnTo(volunteer);
+        QCOMPARE(record.texts(), u"Organising; first aid|Evenings|No|1994"_s);
+    }
+
+    // The selected page's values come from its boxes, the others' from the rows; of these the change of pages has left
+    // out the first one.
+    void savingWritesEveryPage()
+    {
+        OpenRecord record;
+        OpenRecord::press(record->cmdEdit);
+        record.type(Title, u"Dr."_s);
+        record.type(FirstName, u"Hel'en"_s);
+        record.turnTo(volunteer);
+        record.type(Since, u"1995"_s);
+        OpenRecord::press(record->cmdDelete);
+        QCOMPARE(m_folder->rows("SELECT Title, [First Name], Comments FROM [Personal Information] "
+                                "WHERE PersonalInformationId IN (2, 3)"),
+                 (QStringList{u"Ms.|Hel'en|Coordinates the volunteers"_s, u"Mr.|Émile|"_s}));
+        QCOMPARE(m_folder->row("SELECT Skills, Since FROM [Volunteer Profile] WHERE PersonalInformationId = 2"),
+                 u"Organising; first aid|1995"_s);
+        QCOMPARE(record->EditMode, QString());
+        QCOMPARE(record.buttons(), u"Edit Delete - &Close"_s);
+        QCOMPARE(record.tabs(), (QStringList{personal, volunteer, u"Attachments"_s, u"Resources"_s}));
+        record.turnTo(personal);
+        QVERIFY(!record.box(City)->isReadOnly());
+    }
+
+    void theFirstFieldIsWrittenFromItsBoxAndNullsBecomeEmpty()
+    {
+        OpenRecord record(4);
+        OpenRecord::press(record->cmdEdit);
+        record.type(Title, u"Ms."_s);
+        OpenRecord::press(record->cmdDelete);
+        QCOMPARE(m_folder->row("SELECT Title, [Address Two], Skills, Driver FROM [Personal Information] JOIN "
+                               "[Volunteer Profile] USING (PersonalInformationId) WHERE PersonalInformationId = 4"),
+                 u"Ms.||Medicine|"_s);
+    }
+
+    // After a save two fixed pages stand, and editing takes three tabs away.
+    void editingAgainTakesAPageOfTheFormAway()
+    {
+        OpenRecord record;
+        OpenRecord::press(record->cmdEdit);
+        record.turnTo(volunteer);
+        OpenRecord::press(record->cmdDelete);
+        OpenRecord::press(record->cmdEdit);
+        QCOMPARE(record.tabs(), QStringList(personal));
+        record.type(Since, u"1996"_s); // on the page that is gone: no tab is selected
+        OpenRecord::press(record->cmdDelete);
+        QCOMPARE(m_folder->row("SELECT City, Since FROM [Personal Information] JOIN [Volunteer Profile] "
+                               "USING (PersonalInformationId) WHERE PersonalInformationId = 2"),
+                 u"Portland|1994"_s);
+        QCOMPARE(record.tabs(), (QStringList{personal, u"Attachments"_s, u"Resources"_s}));
+        record.turnTo(personal);
+        QCOMPARE(record.box(City)->text(), u"Portland"_s);
+    }
+
+    void editingEndsTheProgramWhere_data()
+    {
+        QTest::addColumn<QByteArray>("change");
+        QTest::addColumn<bool>("isWhileEditing");
+        QTest::addColumn<int>("error");
+        const QByteArray noRow = "DELETE FROM [Volunteer Profile] WHERE PersonalInformationId = 2";
+        QTest::newRow("no table") << QByteArray("DROP TABLE [Volunteer Profile]") << false << -2147217865;
+        QTest::newRow("no column") << QByteArray("ALTER TABLE [Volunteer Profile] DROP Since") << false << 3265;
+        QTest::newRow("no row") << noRow << false << 3021;
+        QTest::newRow("the row has gone") << noRow << true << 3021;
+    }
+    void editingEndsTheProgramWhere()
+    {
+        QFETCH(QByteArray, change);
+        QFETCH(bool, isWhileEditing);
+        OpenRecord record;
+        if (isWhileEditing)
+            OpenRecord::press(record->cmdEdit);
+        m_folder->execute(change);
+        OpenRecord::press(isWhileEditing ? record->cmdDelete : record->cmdEdit);
+        QTEST(m_errors->takeNumber(), "error");
+    }
+
+    // No user can show the button.
+    void cancellingBringsAllFixedPagesBack()
+    {
+        OpenRecord record;
+        OpenRecord::press(record->cmdEdit);
+        record.type(City, u"Bath"_s);
+        record->cmdCancel->setVisible(true);
+        OpenRecord::press(record->cmdCancel);
+        QCOMPARE(record.tabs().size(), 5);
+        QCOMPARE(record.buttons(), u"&Edit Delete - &Close"_s);
+        QVERIFY(record->EditMode.isEmpty() && record.box(City)->isReadOnly());
+        QCOMPARE(m_folder->row("SELECT count(*) FROM [Personal Information] WHERE City = 'Bath'"), u"0"_s);
+    }
+
+    // The user is locked out of the boxes; what else gets into them is written as in editing.
+    void aNewPersonGetsARowOnEveryPage()
+    {
+        for (const QString &way : {u"typed"_s, u"set"_s, u"set and left"_s}) {
+            OpenRecord record(0, u"New"_s);
+            QCOMPARE(record.tabs(), (QStringList{personal, volunteer}));
+            for (const int field : {int(Title), int(City)})
+                way == u"typed" ? record.type(field, u"x"_s) : record.box(field)->setText(u"x"_s);
+            if (way == u"set and left")
+                record.turnTo(volunteer);
+            QCOMPARE(record.buttons(), u"Save - - Cancel"_s);
+            OpenRecord::press(record->cmdEdit);
+            QVERIFY(!record.isOpen());
+        }
+        QCOMPARE(m_folder->rows("SELECT PersonalInformationId, Active, Title, City, Since FROM [Personal Information] "
+                                "LEFT JOIN [Volunteer Profile] USING (PersonalInformationId) "
+                                "WHERE PersonalInformationId > 6"),
+                 (QStringList{u"7|1|||"_s, u"8|1|x|x|"_s, u"9|1||x|"_s}));
+    }
+
+    void deletingOnlyMarksThePerson()
+    {
+        BoxAnswers boxes({QMessageBox::No, QMessageBox::Yes, QMessageBox::Yes});
+        OpenRecord record;
+        OpenRecord::press(record->cmdDelete);
+        QVERIFY(record.isOpen());
+        QCOMPARE(m_folder->row("SELECT sum(Active) FROM [Personal Information]"), u"5"_s);
+        OpenRecord::press(record->cmdDelete);
+        QVERIFY(!record.isOpen());
+        QCOMPARE(m_folder->row("SELECT sum(Active), count(*) FROM [Personal Information]"), u"4|6"_s);
+        QCOMPARE(m_folder->row("SELECT Active FROM [Personal Information] WHERE PersonalInformationId = 2"), u"0"_s);
+        QCOMPARE(boxes.seen[0].text, u"You are about to delete this client from the database\r\n"
+                                     "Do you want to continue"_s);
+        QCOMPARE(boxes.seen[0].title, u"Quillon"_s);
+        QCOMPARE(boxes.seen[0].icon, QMessageBox::NoIcon);
+        OpenRecord nobody(77);
+        OpenRecord::press(nobody->cmdDelete);
+        QCOMPARE(m_errors->takeNumber(), 3021);
+    }
+
+    void versionsCountTheRowsOfANameWhoeverOwnsThem()
+    {
+        m_folder->execute("INSERT INTO Attachments (MemberId, PersonalInformationId, AttachmentsName, "
+                          "AttachmentVersion) VALUES (NULL, 3, 'A.DOC', 1), (1, NULL, 'a.doc', 9)");
+        OpenRecord record;
+        record.turnTo(u"Attachments"_s);
+        FileAnswers files({m_folder->write(u"a.doc"_s, "one"), QString(), m_folder->write(u"it's.doc"_s, "two"),
+                           m_folder->write(u"b.doc"_s, "")});
+        for (const int error : {0, 0, -2147217900, 0}) { // the second is cancelled
+            OpenRecord::press(record->cmdEdit);
+            QCOMPARE(m_errors->takeNumber(), error);
+        }
+        QCOMPARE(files.title, u"OPEN FILE"_s);
+        QCOMPARE(files.filters, (QStringList{u"All files (*)"_s, u"DOC files (*.doc)"_s, u"PDF files (*.pdf)"_s}));
+        QCOMPARE(record->ListView1->ListItems.Count(), 2);
+        QCOMPARE(
+            m_folder->rows("SELECT AttachmentsName, AttachmentVersion, MemberId, hex(Attachments), AttachmentsDate "
+                           "IS NULL FROM Attachments WHERE PersonalInformationId = 2"),
+            (QStringList{u"a.doc|3|NULL|6F6E6500|0"_s, u"b.doc|1|NULL|00|0"_s}));
+    }
+
+    void anAttachmentIsViewedAndSaved()
+    {
+        m_folder->execute("INSERT INTO Attachments (PersonalInformationId, AttachmentsName, AttachmentVersion, "
+                          "Attachments) VALUES (2, 'a.txt', 1, x'6F6C6400'), (2, 'a.txt', 2, x'6E657700'), "
+                          "(3, 'a.txt', 1, x'00'), (2, 'it''s', 1, x'00')");
+        OpenRecord record;
+        record.turnTo(u"Attachments"_s);
+        QTest::mouseClick(record->ListView1->viewport(), Qt::RightButton, {}, QPoint(20, 10));
+        QVERIFY(record->MnuOptionsView->isVisible());
+        Launches launches;
+        choose(record, 2, "MnuView");
+        QCOMPARE(launches.paths, QStringList(m_folder->path(u"temp/a.txt"_s)));
+        QCOMPARE(contentOf(launches.paths[0]), QByteArray("old\0", 4));
+        FileAnswers files({m_folder->path(u"saved"_s), QString()});
+        choose(record, 1, "MnuSaveAs");
+        QCOMPARE(files.name, u"a.txt"_s);
+        QCOMPARE(contentOf(m_folder->path(u"saved"_s)), QByteArray("new\0", 4));
+        choose(record, 1, "MnuSaveAs"); // cancelled
+        QVERIFY(QDir(m_folder->path(u"temp"_s)).removeRecursively());
+        choose(record, 1, "MnuView");
+        QCOMPARE(m_errors->takeNumber(), 76);
+        choose(record, 3, "MnuView");
+        QCOMPARE(m_errors->takeNumber(), -2147217900);
+        m_folder->execute("DELETE FROM Attachments");
+        choose(record, 1, "MnuSaveAs");
+        QCOMPARE(m_errors->takeNumber(), 3021);
+    }
+
+    void aDocumentIsAssignedInTheLibrary()
+    {
+        OpenRecord record;
+        record.turnTo(u"Resources"_s);
+        QTest::mouseClick(record->ListView1->viewport(), Qt::RightButton, {}, QPoint(20, 10));
+        QVERIFY(!record->MnuOptionsView->isVisible());
+        OpenRecord::press(record->cmdEdit);
+        const auto library = openedWindow<frmDocumentExp>();
+        QVERIFY(library && !library->adminFunction);
+        QCOMPARE(library->Caption(), u"Resource Manager Browser"_s);
+        QCOMPARE(library->PersonalInformationId, u"2"_s);
+    }
+
+    void anEventIsShownByADoubleClick()
+    {
+        OpenRecord record;
+        record.turnTo(u"Resources"_s);
+        doubleClick(record);
+        record.turnTo(u"Conferences/Meetings"_s);
+        OpenRecord::press(record->cmdEdit);
+        QVERIFY(!openedWindow<frmMeeting>()); // neither of these
+        doubleClick(record);
+        const auto note = openedWindow<frmMeeting>();
+        QVERIFY(note && !note->AddView);
+        QCOMPARE(note->Caption(), u"View Event"_s);
+        QCOMPARE((QStringList{note->EventDate, note->EventType, note->EventStartTime, note->EventEndTime,
+                              note->EventPurpose, note->EventCategory, note->EventNotes}),
+                 (QStringList{u"4/2/2003"_s, u"Member Conference"_s, u"9:00:00 AM"_s, u"10:45:00 AM"_s, u"Open house"_s,
+                              u"Volunteering"_s, u"Who brings what."_s}));
+        OpenRecord without(5);
+        without.turnTo(u"Conferences/Meetings"_s);
+        doubleClick(without);
+        QCOMPARE(m_errors->takeNumber(), 91);
+    }
+
+private:
+    std::optional<DataStoreFolder> m_folder;
+    std::optional<CaughtErrors> m_errors;
+};
+
+QTEST_MAIN(tst_RecordEditing)
+#include "tst_recordediting.moc"
