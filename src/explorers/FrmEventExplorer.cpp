@@ -1,5 +1,6 @@
 #include "explorers/FrmEventExplorer.h"
 
+#include "dynamicforms/DisplayInformation.h"
 #include "events/FrmAddEvent.h"
 #include "platform/desktop/Keys.h"
 #include "platform/runtime/ErrorHandling.h"
@@ -89,6 +90,14 @@ void FrmEventExplorer::Form_Load()
     m_rows.loadColumns();
     m_rows.CurrentNode->setExpanded(true);
     unsetCursor();
+}
+
+void FrmEventExplorer::NewMemberInformation()
+{
+    desktop::showNew<DisplayInformation>([](DisplayInformation &window) {
+        window.WindowTitle = u"New Member Information"_s;
+        window.EditMode = u"New"_s;
+    });
 }
 
 void FrmEventExplorer::loadTree()

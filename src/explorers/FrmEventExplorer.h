@@ -19,6 +19,9 @@ public:
     // 99 or more shows the users in the tree, as the administrator sees them. No menu sets it.
     qint16 UserLevel = 0;
 
+    // Opens the record window for a person who is to be added. Nothing in the explorer itself does it.
+    static void NewMemberInformation();
+
 protected:
     void Form_Load() override;
     void resizeEvent(QResizeEvent *event) override;

@@ -1,4 +1,6 @@
 #include "dossier/FrmAddEditMember.h"
+#include "dynamicforms/DisplayInformation.h"
+#include "dynamicforms/frmOpenRecord.h"
 #include "explorers/FrmDataBaseExplorer.h"
 #include "explorers/FrmEventExplorer.h"
 #include "library/frmDocumentExp.h"
@@ -91,7 +93,7 @@ private Q_SLOTS:
             bar << menu->text() + (menu->isVisible() ? u""_s : u" (hidden)"_s);
         QCOMPARE(bar, administration ? (QStringList{u"File"_s, u"Tools"_s, u"Windows"_s, u"Help"_s})
                                      : (QStringList{u"File"_s, u"Tools (hidden)"_s, u"Windows"_s, u"Help (hidden)"_s}));
-        for (const char *name : {"mnuNewUser", "mnuDifferentUser", "mnuDoc"})
+        for (const char *name : {"mnuNewUser", "mnuDifferentUser", "mnuDoc", "mnuNewRecord", "mnuOpenRecord"})
             QCOMPARE(isShown(name), administration);
         for (const char *name : {"MnuNewClient", "MnuExplorer", "mnuNewEvent", "mnuEventExplorer", "mnuExit"})
             QVERIFY(isShown(name));
@@ -127,6 +129,22 @@ private Q_SLOTS:
         m_folder->execute("DROP TABLE ObjectTbl");
         item("mnuDoc").trigger(); // fails without a word
         QCOMPARE(frame.area().subWindowList().size(), 2);
+    }
+
+    void theMenuOpensTheRecordWindow()
+    {
+        CaughtErrors errors;
+        MDIBaseForm &frame = MDIBaseForm::frame();
+        frame.Show();
+        item("mnuOpenRecord").trigger();
+        QTest::keyClick(child<frmOpenRecord>(frame, "frmOpenRecord")->lstPerson, Qt::Key_Return);
+        QCOMPARE(frame.ActiveRecordId(), u"1"_s);
+        item("mnuNewRecord").trigger();
+        QCOMPARE(frame.ActiveRecordId(), u"0"_s);
+        const auto *record = qobject_cast<DisplayInformation *>(frame.area().activeSubWindow()->widget());
+        QVERIFY(record);
+        QCOMPARE(record->Caption(), u"New Member Information"_s);
+        QCOMPARE(record->EditMode, u"New"_s);
     }
 
     void theMenuOpensTheWindowsOfUsers()

@@ -9,6 +9,8 @@ inline constexpr bool mnuNewUserVisible = administration;
 inline constexpr bool mnuDifferentUserVisible = administration;
 inline constexpr bool mnuAdministratorVisible = administration;
 inline constexpr bool mnuDocVisible = administration;
+inline constexpr bool mnuNewRecordVisible = administration;
+inline constexpr bool mnuOpenRecordVisible = administration;
 inline constexpr bool mnuHelpVisible = administration;
 
 } // namespace DesignTime

@@ -1,6 +1,7 @@
 #include "shell/frame/MDIBaseForm.h"
 
 #include "dossier/FrmAddEditMember.h"
+#include "dynamicforms/frmOpenRecord.h"
 #include "events/FrmAddEvent.h"
 #include "events/frmMeeting.h"
 #include "explorers/FrmDataBaseExplorer.h"
@@ -182,6 +183,16 @@ void MDIBaseForm::MnuOptions_Click()
 void MDIBaseForm::mnuAddNewUser_Click()
 {
     desktop::reportOutOfMemoryOnly([] { desktop::showNew<frmNewUser>(); });
+}
+
+void MDIBaseForm::mnuNewRecord_Click()
+{
+    desktop::reportOutOfMemoryOnly([] { FrmEventExplorer::NewMemberInformation(); });
+}
+
+void MDIBaseForm::mnuOpenRecord_Click()
+{
+    desktop::reportOutOfMemoryOnly([] { desktop::showNew<frmOpenRecord>(); });
 }
 
 void MDIBaseForm::mnuWhoAmI_Click()

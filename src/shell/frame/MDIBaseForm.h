@@ -49,6 +49,8 @@ public:
     void mnuExit_Click();
     void MnuOptions_Click();
     void mnuAddNewUser_Click();
+    void mnuNewRecord_Click();
+    void mnuOpenRecord_Click();
     void mnuWhoAmI_Click();
     void Toolbar1_ButtonClick(QAction *button);
 

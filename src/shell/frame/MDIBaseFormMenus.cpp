@@ -65,6 +65,9 @@ void MDIBaseForm::setUpToolsMenu()
     administrative->setObjectName(u"mnuAdmin.menu"_s);
     administrative->menuAction()->setObjectName(u"mnuAdmin"_s);
     addItem(administrative, "mnuAddNewUser", u"Add New User"_s, &MDIBaseForm::mnuAddNewUser_Click);
+    addItem(tools, "mnuNewRecord", u"New Record"_s, &MDIBaseForm::mnuNewRecord_Click, DesignTime::mnuNewRecordVisible);
+    addItem(tools, "mnuOpenRecord", u"Open Record"_s, &MDIBaseForm::mnuOpenRecord_Click,
+            DesignTime::mnuOpenRecordVisible);
 }
 
 void MDIBaseForm::setUpHelpMenu()
