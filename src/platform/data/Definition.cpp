@@ -137,7 +137,7 @@ std::vector<std::shared_ptr<Column::Definition>> storedColumns(const std::shared
                                                                const QString &table)
 {
     std::vector<std::shared_ptr<Column::Definition>> columns;
-    file->refreshSchema();
+    // Its step looks at sqlite_master and so notices what other connections have changed.
     Statement rows = file->prepare("SELECT c.name, c.type, c.\"notnull\", c.dflt_value, "
                                    "c.pk AND t.sql LIKE '%AUTOINCREMENT%' "
                                    "FROM sqlite_master AS t, pragma_table_info(t.name) AS c "
