@@ -5,7 +5,7 @@
 #include "platform/data/ProviderError.h"
 #include "platform/data/sql/SqlText.h"
 
-#include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -70,7 +70,7 @@ QByteArray columnSql(const Database &file, const Table::Definition &table, const
     if (column.isAutoIncrement) {
         if (column.type != adInteger || hasDefault)
             throw refusedProperty();
-        return sql + " PRIMARY KEY AUTOINCREMENT";
+        return sql; // a Null is what the counter fills in
     }
     if (column.isRequired)
         sql += " NOT NULL";
@@ -91,6 +91,25 @@ QByteArray tableSql(const Database &file, const Table::Definition &table)
         sql += columnSql(file, table, *column) + ", ";
     sql.chop(2);
     return sql + ')';
+}
+
+// Numbers the rows as AUTOINCREMENT does, in SQLite's own list of counters, for a column that is no key: a number set
+// by hand is taken, a repeated one too, and no number is given out that was there before.
+QByteArray counterSql(const Table::Definition &table, const Column::Definition &column)
+{
+    QByteArray name;
+    sql::appendName(name, table.name);
+    QByteArray text;
+    sql::appendQuoted(text, table.name, '\'');
+    QByteArray number;
+    sql::appendName(number, column.name);
+    const QByteArray own = " FROM sqlite_sequence WHERE name = " + text;
+    return "CREATE TRIGGER " + name + " AFTER INSERT ON " + name + " BEGIN INSERT INTO sqlite_sequence (name, seq)" +
+           " SELECT " + text + ", coalesce((SELECT max(" + number + ") FROM " + name +
+           "), 0) WHERE NOT EXISTS (SELECT 1" + own + "); UPDATE sqlite_sequence SET seq = CASE WHEN NEW." + number +
+           " IS NULL THEN seq + 1 ELSE max(seq, CAST(NEW." + number + " AS INTEGER)) END WHERE name = " + text +
+           "; UPDATE " + name + " SET " + number + " = (SELECT seq" + own + ") WHERE _rowid_ = NEW._rowid_ AND " +
+           number + " IS NULL; END";
 }
 
 // The names of indexes count too: SQLite has one space for all of them.
@@ -138,10 +157,13 @@ std::vector<std::shared_ptr<Column::Definition>> storedColumns(const std::shared
 {
     std::vector<std::shared_ptr<Column::Definition>> columns;
     // Its step looks at sqlite_master and so notices what other connections have changed.
-    Statement rows = file->prepare("SELECT c.name, c.type, c.\"notnull\", c.dflt_value, "
-                                   "c.pk AND t.sql LIKE '%AUTOINCREMENT%' "
-                                   "FROM sqlite_master AS t, pragma_table_info(t.name) AS c "
-                                   "WHERE t.name = ?1 AND t.type IN ('table', 'view') ORDER BY c.cid");
+    Statement rows =
+        file->prepare("SELECT c.name, c.type, c.\"notnull\", c.dflt_value, "
+                      "(c.pk AND t.sql LIKE '%AUTOINCREMENT%') OR EXISTS (SELECT 1 FROM sqlite_master AS n "
+                      "WHERE n.type = 'trigger' AND n.name = t.name AND "
+                      "instr(n.sql, 'NEW.\"' || replace(c.name, '\"', '\"\"') || '\" IS NULL')) "
+                      "FROM sqlite_master AS t, pragma_table_info(t.name) AS c "
+                      "WHERE t.name = ?1 AND t.type IN ('table', 'view') ORDER BY c.cid");
     rows.bindText(1, table.toUtf8());
     while (rows.step()) {
         auto column = std::make_shared<Column::Definition>();
@@ -166,10 +188,15 @@ void storeTable(Database &file, const Table::Definition &table)
         throw providerError(DuplicateTable, u"Table '%1' already exists."_s.arg(table.name));
     if (table.columns.empty())
         throw providerError(SyntaxError, u"No field defined--cannot append TableDef or Index."_s);
-    if (std::count_if(table.columns.cbegin(), table.columns.cend(),
-                      [](const auto &column) { return column->isAutoIncrement; }) > 1)
-        throw refusedProperty();
-    file.execute(tableSql(file, table));
+    QByteArray sql = tableSql(file, table);
+    bool isCounted = false;
+    for (const auto &column : table.columns) {
+        if (column->isAutoIncrement && std::exchange(isCounted, true))
+            throw refusedProperty();
+        if (column->isAutoIncrement)
+            sql += "; " + counterSql(table, *column);
+    }
+    file.executeWhole(sql);
 }
 
 void storeColumn(Database &file, const Table::Definition &table, const Column::Definition &column)

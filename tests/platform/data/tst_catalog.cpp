@@ -103,10 +103,10 @@ Table CatalogTest::stored(const QString &name) const
 void CatalogTest::storesAGeneratedTable()
 {
     m_catalog.Tables().Append(described(u"T"_s));
-    QCOMPARE(
-        m_folder->rows("SELECT name, type, \"notnull\", dflt_value FROM pragma_table_info('T')"),
-        (QStringList{u"Key|INTEGER|0|NULL"_s, u"Link|INTEGER|1|NULL"_s,
-                     u"Day|DATETIME|1|strftime('%Y-%m-%d 00:00:00', 'now', 'localtime')"_s, u"Phone|TEXT|0|NULL"_s}));
+    QCOMPARE(m_folder->rows("SELECT name, type, \"notnull\", dflt_value, pk FROM pragma_table_info('T')"),
+             (QStringList{u"Key|INTEGER|0|NULL|0"_s, u"Link|INTEGER|1|NULL|0"_s,
+                          u"Day|DATETIME|1|strftime('%Y-%m-%d 00:00:00', 'now', 'localtime')|0"_s,
+                          u"Phone|TEXT|0|NULL|0"_s}));
     QCOMPARE(m_folder->row("SELECT COUNT(*) FROM pragma_index_list('T')"), u"0"_s);
 
     const Value before{runtime::Date(QDate::currentDate())};
@@ -130,7 +130,10 @@ void CatalogTest::storesAGeneratedTable()
     rows.Delete();
     QCOMPARE(added(), Value(3)); // no number twice
     QCOMPARE(added(Value(40)), Value(40));
+    QCOMPARE(added(Value(40)), Value(40)); // by hand, for it is no key
     QCOMPARE(added(), Value(41));
+    m_folder->execute("DELETE FROM sqlite_sequence"); // as if by another tool
+    QCOMPARE(added(), Value(42));
 }
 
 void CatalogTest::refuses_data()
