@@ -341,6 +341,8 @@ private Q_SLOTS:
     void oddNamesBecomeTablesOrNothing()
     {
         m_folder->execute(noForm);
+        constexpr const char *tables = "SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY rowid";
+        const QStringList before = m_folder->rows(tables);
         OpenDesigner designer;
         const QStringList names{u"it's"_s, u"Select"_s, u"a \"b\" c."_s, QString(200, u'n'), u"[x]"_s};
         for (const QString &name : names)
@@ -348,10 +350,7 @@ private Q_SLOTS:
         designer.addField(u"Order"_s); // on the first page
         designer.addField(u"it's"_s);
         designer.generate(QMessageBox::No);
-        QCOMPARE(m_folder->rows("SELECT name FROM sqlite_master WHERE sql LIKE '%PersonalInformationId%' "
-                                "AND sql LIKE '%Date$()%' OR sql LIKE '%selectid%' OR name IN ('it''s', 'Select') "
-                                "OR name LIKE 'nnn%' OR name LIKE 'a \"%' OR name LIKE '[%'"),
-                 names.first(4));
+        QCOMPARE(m_folder->rows(tables).sliced(before.size()), names.first(4));
         QCOMPARE(columnsOf(*m_folder, "it''s").sliced(3), (QStringList{u"Order"_s, u"it's"_s}));
     }
 
