@@ -32,7 +32,7 @@ INSERT INTO "Personal Information" (PersonalInformationId, Active, "Title", "Fir
     (5, 1, '', 'Shane', '', 'O''Leary', '', '', '', '', '', '', '', '', '', ''),
     (6, 0, 'Mrs.', 'Wanda', 'K.', 'Tillman', '1 Ferry Road', '', 'Augusta', 'Maine', '04330', '207-555-0174', '', '', '', 'Left in 2002');
 
--- A page as the designer writes it, with the table that it generates.
+-- A page as the designer writes it, with a table like the one that it generates.
 INSERT INTO TabInfo (TabId, TabNam, TabDescription) VALUES (2, 'Volunteer Profile', 'What a volunteer likes to do');
 
 INSERT INTO FieldInfo (TabId, FieldDisplayOrder, FieldName, FieldDescription,

@@ -257,7 +257,7 @@ Value Cursor::value(int column)
     if (m_editMode == adEditAdd)
         return {};
     const Place place = current();
-    const Column &known = m_source.columns()[size_t(column)];
+    const SourceColumn &known = m_source.columns()[size_t(column)];
     if (!known.isLength)
         return place.rows->value(place.row, column, known.type);
     return place.rows->isNull(place.row, column) ? Value() : Value(binary(column));
@@ -279,7 +279,7 @@ void Cursor::setValue(int column, const Value &value)
 qint64 Cursor::actualSize(int column)
 {
     touch(column);
-    const Column &known = m_source.columns()[size_t(column)];
+    const SourceColumn &known = m_source.columns()[size_t(column)];
     if (m_editMode == adEditNone && known.isLength) {
         const Place place = current();
         return place.rows->isNull(place.row, column) ? 0 : place.rows->integer(place.row, column);

@@ -16,6 +16,9 @@ QString declarationOf(const ColumnDefinition &column)
         return u"INTEGER"_s;
     case adChar:
         return u"TEXT(%1)"_s.arg(column.size);
+    case adDate:
+    case adVarWChar:
+        break;
     }
     throw objectError(WrongArguments, "RDSServer.DataFactory");
 }

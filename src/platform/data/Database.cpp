@@ -205,6 +205,18 @@ void Database::execute(const QByteArray &sql)
     check(sqlite3_exec(m_handle.get(), sql.constData(), nullptr, nullptr, nullptr));
 }
 
+void Database::executeWhole(const QByteArray &sql)
+{
+    execute("BEGIN IMMEDIATE");
+    try {
+        execute(sql);
+        execute("COMMIT");
+    } catch (const StoreError &) {
+        sqlite3_exec(m_handle.get(), "ROLLBACK", nullptr, nullptr, nullptr); // SQLite may have done it already
+        throw;
+    }
+}
+
 Statement Database::prepare(QByteArrayView sql) const
 {
     sqlite3_stmt *statement = nullptr;

@@ -50,6 +50,8 @@ public:
 
     // Runs one statement or several, separated by semicolons.
     void execute(const QByteArray &sql);
+    // The same as one change of the file: with an error none of them was run.
+    void executeWhole(const QByteArray &sql);
     Statement prepare(QByteArrayView sql) const;
 
     qint64 lastInsertRowId() const;

@@ -24,6 +24,7 @@ constexpr std::array objectErrorTexts{
                                   "provider, or of the selected locktype."},
     ObjectErrorText{NoSuchItem,
                     "Item cannot be found in the collection corresponding to the requested name or ordinal."},
+    ObjectErrorText{AlreadyInCollection, "Object is already in collection. Cannot append."},
     ObjectErrorText{ObjectClosed, "Operation is not allowed when the object is closed."},
     ObjectErrorText{ObjectOpen, "Operation is not allowed when the object is open."},
     ObjectErrorText{NoProvider, "Provider cannot be found. It may not be properly installed."},

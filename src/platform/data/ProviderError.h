@@ -14,6 +14,9 @@ inline constexpr int SyntaxError = -2147217900;      // 80040e14: the statement'
 inline constexpr int NoSuchTable = -2147217865;      // 80040e37
 inline constexpr int NoSuchColumn = -2147217904;     // 80040e10: an unknown name counts as a parameter without value
 inline constexpr int CriteriaMismatch = -2147217913; // 80040e07
+inline constexpr int InvalidType = -2147217872;      // 80040e30: of a column to be
+inline constexpr int DuplicateColumn = -2147217858;  // 80040e3e
+inline constexpr int DuplicateTable = -2147217857;   // 80040e3f
 inline constexpr int DataOverflow = -2147217833;     // 80040e57
 inline constexpr int MultipleStep = -2147217887;     // 80040e21: a value that a field refuses
 
@@ -23,6 +26,7 @@ inline constexpr int NoCurrentRecord = 3021;
 inline constexpr int NotAllowedInContext = 3219;
 inline constexpr int NotUpdatable = 3251;
 inline constexpr int NoSuchItem = 3265;
+inline constexpr int AlreadyInCollection = 3367;
 inline constexpr int ObjectClosed = 3704;
 inline constexpr int ObjectOpen = 3705;
 inline constexpr int NoProvider = 3706;

@@ -53,7 +53,7 @@ void RowSource::describe(const Statement &statement)
     const int count = statement.columnCount() - (m_translation->carriesRowId ? 1 : 0);
     m_columns.resize(size_t(count));
     for (int index = 0; index < count; ++index) {
-        Column &column = m_columns[size_t(index)];
+        SourceColumn &column = m_columns[size_t(index)];
         column.name = QString::fromUtf8(statement.columnName(index));
         column.origin = statement.originColumn(index).toByteArray();
         column.type = columnTypeOfDeclaration(statement.declaredType(index));
@@ -65,15 +65,16 @@ void RowSource::describe(const Statement &statement)
                 column.type = columnTypeOfDeclaration(*declared);
         }
     }
-    m_isUpdatable = m_translation->carriesRowId && std::none_of(m_columns.cbegin(), m_columns.cend(),
-                                                                [](const Column &c) { return c.origin.isEmpty(); });
-    for (Column &column : m_columns) {
+    m_isUpdatable =
+        m_translation->carriesRowId &&
+        std::none_of(m_columns.cbegin(), m_columns.cend(), [](const SourceColumn &c) { return c.origin.isEmpty(); });
+    for (SourceColumn &column : m_columns) {
         column.isLength = m_isUpdatable && column.type == ColumnType::Binary;
         m_hasBinary = m_hasBinary || column.isLength;
     }
 }
 
-const std::vector<Column> &RowSource::columns()
+const std::vector<SourceColumn> &RowSource::columns()
 {
     describeColumns();
     return m_columns;
@@ -122,7 +123,7 @@ int RowSource::describedColumnOf(QStringView name)
 QByteArray RowSource::listOfOrigins(bool withBinaries)
 {
     QByteArray list;
-    for (const Column &column : m_columns) {
+    for (const SourceColumn &column : m_columns) {
         const QByteArray name = quoted(column.origin);
         list += column.isLength && !withBinaries ? "length(" + name + ")," : name + ',';
     }

@@ -17,7 +17,7 @@
 
 namespace data {
 
-struct Column
+struct SourceColumn
 {
     QString name;
     ColumnType type = ColumnType::Unknown;
@@ -30,7 +30,7 @@ class RowSource
 public:
     RowSource(std::weak_ptr<Database> file, std::shared_ptr<const sql::Translation> translation);
 
-    const std::vector<Column> &columns();
+    const std::vector<SourceColumn> &columns();
     // The column of a name, without regard to case; -1 when there is none. Until the rows are read there may come more
     // columns behind those known before.
     int columnOf(QStringView name);
@@ -71,7 +71,7 @@ private:
     std::weak_ptr<Database> m_database;
     std::shared_ptr<const sql::Translation> m_translation;
     Statement m_statement;
-    std::vector<Column> m_columns;
+    std::vector<SourceColumn> m_columns;
     bool m_described = false;
     bool m_hasBinary = false;
     bool m_isUpdatable = false;

@@ -9,12 +9,21 @@ namespace desktop {
 TabStrip::TabStrip(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
 {
     setExpanding(false);
+    setMinimumHeight(heightOfATab()); // so that what lies below stays where it is when the first one comes
     connect(this, &QTabBar::currentChanged, this, &TabStrip::select);
     // Comes before the change, so that it is a click on its own only where nothing changes.
     connect(this, &QTabBar::tabBarClicked, this, [this](int index) {
         if (index == currentIndex())
             select(index);
     });
+}
+
+int TabStrip::heightOfATab()
+{
+    addTab(QStringLiteral("X"));
+    const int height = sizeHint().height();
+    removeTab(0);
+    return height;
 }
 
 void TabStrip::select(int index)

@@ -39,6 +39,7 @@ Q_SIGNALS:
     void Click();
 
 private:
+    int heightOfATab();
     void select(int index);
     int placeOf(int tab) const;
 

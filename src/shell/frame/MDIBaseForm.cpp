@@ -1,6 +1,7 @@
 #include "shell/frame/MDIBaseForm.h"
 
 #include "dossier/FrmAddEditMember.h"
+#include "dynamicforms/DatabaseGenerator.h"
 #include "dynamicforms/frmOpenRecord.h"
 #include "events/FrmAddEvent.h"
 #include "events/frmMeeting.h"
@@ -167,6 +168,11 @@ void MDIBaseForm::mnuDoc_Click()
 {
     desktop::reportOutOfMemoryOnly(
         [] { desktop::showNew<frmDocumentExp>([](frmDocumentExp &library) { library.adminFunction = true; }); });
+}
+
+void MDIBaseForm::mnuDatabaseEditor_Click()
+{
+    desktop::reportOutOfMemoryOnly([] { desktop::showNew<DatabaseGenerator>(); });
 }
 
 void MDIBaseForm::mnuExit_Click()

@@ -46,6 +46,7 @@ public:
     void mnuEventExplorer_Click();
     void mnuDifferentUser_Click();
     void mnuDoc_Click();
+    void mnuDatabaseEditor_Click();
     void mnuExit_Click();
     void MnuOptions_Click();
     void mnuAddNewUser_Click();

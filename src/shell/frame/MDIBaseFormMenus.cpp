@@ -58,7 +58,7 @@ void MDIBaseForm::setUpToolsMenu()
     QMenu *tools = addMenu("mnuAdministrator", u"Tools"_s, DesignTime::mnuAdministratorVisible);
     addItem(tools, "mnuDoc", u"Document Library"_s, &MDIBaseForm::mnuDoc_Click, DesignTime::mnuDocVisible);
     addSeparator(tools, "sepMenu");
-    addItem(tools, "mnuDatabaseEditor", u"Database/Form Editor"_s);
+    addItem(tools, "mnuDatabaseEditor", u"Database/Form Editor"_s, &MDIBaseForm::mnuDatabaseEditor_Click);
     addSeparator(tools, "mnusep1");
     addItem(tools, "MnuOptions", u"Options"_s, &MDIBaseForm::MnuOptions_Click);
     QMenu *administrative = tools->addMenu(u"Administrative"_s);

@@ -1,0 +1,249 @@
+#include "dynamicforms/DatabaseGenerator.h"
+
+#include "dynamicforms/LayoutWriter.h"
+#include "dynamicforms/TableGeneration.h"
+#include "platform/desktop/MsgBox.h"
+#include "platform/runtime/ErrorHandling.h"
+#include "shell/DataStore.h"
+
+#include <tuple>
+
+using namespace Qt::Literals::StringLiterals;
+
+using runtime::Value;
+
+namespace {
+
+constexpr qint16 twipsPerGridSize = 50;
+constexpr int defaultGridSize = 3; // its place in the list, from 0
+
+Value twips(double place)
+{
+    return Value(double(float(place)));
+}
+
+} // namespace
+
+void DatabaseGenerator::Form_Load()
+{
+    runtime::endSilently([this] { loadForm(); });
+}
+
+// A form without fields ends at its upper bound, so that no grid size is selected.
+void DatabaseGenerator::loadForm()
+{
+    data::Connection connection;
+    openDataStore(connection);
+    data::Recordset rows = openRows(connection, u"select * from TabInfo where TabEdit = 1"_s);
+    TabStrip1->Clear();
+    m_rows.countUp();
+    for (; !rows.Eof(); rows.MoveNext())
+        TabStrip1->add({}, runtime::toText(rows[u"TabNam"].Value()), runtime::toText(rows[u"TabDescription"].Value()));
+    rows.Close();
+    rows = openRows(connection, u"SELECT FieldInfo.*, TabInfo.TabNam, TabInfo.TabDescription FROM FieldInfo INNER JOIN "
+                                "TabInfo ON FieldInfo.TabId = TabInfo.TabId where FieldEdit = 1 "
+                                "ORDER BY FieldDisplayOrder"_s);
+    for (; !rows.Eof(); rows.MoveNext()) {
+        FieldRow row = fieldRowOf(rows);
+        // Null in the fields of the page that was selected when the layout was saved: they come first.
+        if (const Value order = rows[u"FieldDisplayOrder"].Value(); !order.isNull())
+            row.RowFieldDisplayOrder = runtime::toInteger(order);
+        m_rows.store(std::move(row));
+    }
+    connection.Close();
+    if (m_rows.upperBound() > 1)
+        ShowTabFields();
+    txtGridSize->setSelected(defaultGridSize);
+    if (chkGrid->Value() == 1)
+        DrawGrid();
+}
+
+void DatabaseGenerator::SaveLayout()
+{
+    LayoutWriter layout;
+    for (int tab = 1; tab <= TabStrip1->Count(); ++tab) {
+        layout.addPage(TabStrip1->Caption(tab), TabStrip1->ToolTipText(tab));
+        if (tab == TabStrip1->SelectedItem())
+            saveCanvas(layout);
+        else
+            saveStoredRows(layout, TabStrip1->Caption(tab));
+    }
+    layout.close();
+}
+
+void DatabaseGenerator::saveStoredRows(LayoutWriter &layout, const QString &caption)
+{
+    for (int k = 0; k <= m_rows.upperBound(); ++k) {
+        const FieldRow &row = m_rows[k];
+        if (row.RowTabNam == caption)
+            layout.addField({row.RowFieldName, row.RowFieldDescription, row.RowFieldDisplayOrder,
+                             Value(row.RowFieldLeft), Value(row.RowFieldTop), Value(row.RowLabelLeft),
+                             Value(row.RowLabelTop), Value(row.RowFieldWidth)});
+    }
+}
+
+void DatabaseGenerator::saveCanvas(LayoutWriter &layout)
+{
+    for (int index = 1; index < m_surface->Text1.Count(); ++index) {
+        const desktop::CanvasTextBox &box = *m_surface->Text1(index);
+        const desktop::CanvasLabel &label = *m_surface->Label1(index);
+        if (!box.toolTip().isEmpty())
+            layout.addField({box.toolTip(), label.toolTip(), std::nullopt, twips(box.Left()), twips(box.Top()),
+                             twips(label.Left()), twips(label.Top()), twips(box.Width())});
+    }
+}
+
+void DatabaseGenerator::ShowTabFields()
+{
+    runtime::endSilently([this] { m_surface->showFields(); });
+}
+
+qint16 DatabaseGenerator::gridStep() const
+{
+    return qint16(runtime::toInteger(Value(txtGridSize->Text())) * twipsPerGridSize);
+}
+
+void DatabaseGenerator::DrawGrid()
+{
+    runtime::endSilently([this] { m_surface->drawGrid(gridStep()); });
+}
+
+void DatabaseGenerator::CreateAccessTable()
+{
+    QStringList captions;
+    for (int tab = 1; tab <= TabStrip1->Count(); ++tab)
+        captions << TabStrip1->Caption(tab);
+    generateTables(captions, m_rows);
+}
+
+void DatabaseGenerator::Cdcd(const QString &TableName)
+{
+    createTable(TableName, m_rows);
+}
+
+void DatabaseGenerator::cmdTableAdd_Click()
+{
+    if (txtTableName->text().isEmpty()) {
+        desktop::MsgBox(u"Invalid Tab Name"_s);
+        return;
+    }
+    TabStrip1->add({}, txtTableName->text(), txtTableDescription->text());
+    cmdTabeClear_Click();
+}
+
+void DatabaseGenerator::cmdTabeClear_Click()
+{
+    txtTableDescription->clear();
+    txtTableName->clear();
+}
+
+void DatabaseGenerator::cmdFieldAdd_Click()
+{
+    if (txtFieldName->text().isEmpty()) {
+        desktop::MsgBox(u"Invalid Field Name"_s);
+        return;
+    }
+    if (TabStrip1->Count() == 0) {
+        desktop::MsgBox(u"Invalid Form Name"_s);
+        return;
+    }
+    m_surface->addField(txtFieldName->text(), txtFieldDescription->text());
+    cmdFieldClear_Click();
+    m_rows.countUp();
+}
+
+void DatabaseGenerator::cmdFieldClear_Click()
+{
+    txtFieldName->clear();
+    txtFieldDescription->clear();
+}
+
+// There is no way to cancel: the answer decides about the layout alone.
+void DatabaseGenerator::cmdGenerateDatebase_Click()
+{
+    if (desktop::MsgBox(u"Save Current Layout before proceeding"_s, desktop::vbYesNo, u"Quillon"_s) == desktop::vbYes)
+        SaveLayout();
+    CreateAccessTable();
+}
+
+void DatabaseGenerator::cmdSave_Click()
+{
+    SaveLayout();
+}
+
+void DatabaseGenerator::cmdExit_Click()
+{
+    Unload();
+}
+
+// Whatever fails says the same: it is not known whether nothing was gathered or a page was changed.
+void DatabaseGenerator::Toolbar1_ButtonClick(QAction *button)
+{
+    using Alignment = DesignSurface::Alignment;
+    const bool succeeded = runtime::endSilently([this, button] {
+        switch (Toolbar1->actions().indexOf(button) + 1) {
+        case 1:
+            m_surface->ObjectsLocked = true;
+            break;
+        case 2:
+            m_surface->ObjectsLocked = false;
+            break;
+        case 4:
+            m_surface->align(Alignment::Top);
+            break;
+        case 5:
+            m_surface->align(Alignment::Left);
+            break;
+        case 7:
+            m_surface->align(Alignment::Width);
+            break;
+        default:
+            break;
+        }
+    });
+    if (!succeeded)
+        desktop::MsgBox(u"Please select two or more objects"_s);
+}
+
+void DatabaseGenerator::TabStrip1_BeforeClick()
+{
+    m_surface->keepFields();
+}
+
+void DatabaseGenerator::TabStrip1_Click()
+{
+    ShowTabFields();
+}
+
+void DatabaseGenerator::Picture1_Paint()
+{
+    if (chkGrid->Value() == 1)
+        DrawGrid();
+}
+
+// The grid line under the pointer is reckoned and nothing takes it: a dragged control stays where it is dropped.
+void DatabaseGenerator::Picture1_MouseMove(float x)
+{
+    std::ignore = snappedToGrid(x, gridStep());
+}
+
+void DatabaseGenerator::chkGrid_Click()
+{
+    Picture1->repaint();
+}
+
+void DatabaseGenerator::txtGridSize_Click()
+{
+    if (chkGrid->Value() == 1)
+        Picture1->repaint();
+}
+
+void DatabaseGenerator::txtWidth_Change()
+{
+    runtime::endSilently([this] {
+        if (txtWidth->text().isEmpty())
+            return;
+        const qint16 index = runtime::toInteger(Value(txtWidth->Tag));
+        m_surface->setWidth(index, runtime::toInteger(Value(txtWidth->text())));
+    });
+}

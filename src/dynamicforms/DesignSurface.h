@@ -1,0 +1,66 @@
+// The canvas of the designer: the labels and boxes of the selected page, which the mouse moves and a toolbar aligns.
+//
+// It shows the rows of the page and takes their places back before the page is left. A control knows its row only by
+// its tool tip, which is the field's name; so equal names share their places. All places are twips. Elements 0 of the
+// three arrays are templates and never shown.
+#pragma once
+
+#include "dynamicforms/FieldRows.h"
+#include "platform/desktop/CanvasControls.h"
+#include "platform/desktop/ControlArray.h"
+#include "platform/desktop/TabStrip.h"
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+// The nearest grid line, upwards from the middle.
+float snappedToGrid(float x, qint16 step);
+
+class DesignSurface
+{
+public:
+    // rows, tabs and canvas are the window's and outlive the surface.
+    DesignSurface(desktop::PictureBox &canvas, desktop::TabStrip &tabs, FieldRows &rows);
+
+    desktop::ControlArray<desktop::CanvasLabel> Label1;
+    desktop::ControlArray<desktop::CanvasTextBox> Text1;
+    desktop::ControlArray<desktop::TextBox> Text2; // hidden: each holds the display order of its field
+
+    bool ObjectsLocked = false;
+    // The box whose width the window edits.
+    std::function<void(int index)> onBoxChosen;
+
+    // Sets a point at each crossing of the grid. The rows' counter counts the columns.
+    void drawGrid(qint16 step);
+    // Rebuilds the controls of the selected page. A row without a complete place ends it: error 13, and its controls
+    // stay loaded and unseen.
+    void showFields();
+    // Takes the places and the orders of the selected page into the rows. The first row of all is left out. Error 9
+    // while there has never been a row.
+    void keepFields();
+    // Puts a new field under the last one of the selected page. Error 9 for a counter that names no row.
+    void addField(const QString &name, const QString &description);
+
+    // The boxes that Shift-clicks gathered take over what the first of them has. Error 9 before any was gathered, 340
+    // for one that is gone. None is gathered afterwards.
+    enum class Alignment { Top, Left, Width };
+    void align(Alignment alignment);
+    // Label and box together.
+    void setWidth(int index, double width) const;
+
+private:
+    void load(int index);
+    void keepOrders();
+    // The rows of the selected page, from the second row of all on.
+    template <class Keep> void forEachRowOfPage(Keep keep);
+    void moveBox(int index, int button, int shift, float x, float y);
+    void moveLabel(int index, int button, float x, float y);
+    void gather(int index, int shift);
+
+    desktop::PictureBox &m_canvas;
+    desktop::TabStrip &m_tabs;
+    FieldRows &m_rows;
+    std::optional<std::vector<qint16>> SelectedIndexes; // in the order of the clicks; the last element is always spare
+    qint16 SelectedCount = 0;
+};

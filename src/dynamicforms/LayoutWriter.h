@@ -1,0 +1,42 @@
+// Writes the designer's pages and fields in the place of the stored ones.
+//
+// Nothing is updated: the designer's rows are thrown away as the writer begins, and every page gets a new key. A
+// failure (a caption with an apostrophe breaks the statement that looks for the key) leaves what has been written up to
+// there and nothing of what was thrown away. The errors of the data objects go to the caller.
+#pragma once
+
+#include "platform/data/Connection.h"
+#include "platform/data/Recordset.h"
+
+#include <QString>
+
+#include <optional>
+
+// Places and width in twips: a number, or a text that the store converts.
+struct LayoutField
+{
+    QString name;
+    QString description;
+    std::optional<qint16> displayOrder; // without one the column keeps its default
+    runtime::Value fieldLeft;
+    runtime::Value fieldTop;
+    runtime::Value labelLeft;
+    runtime::Value labelTop;
+    runtime::Value fieldWidth;
+};
+
+class LayoutWriter
+{
+public:
+    LayoutWriter();
+    // The fields that follow go on this page, or on the first that is stored under the caption.
+    void addPage(const QString &caption, const QString &description);
+    void addField(const LayoutField &field);
+    void close() { m_connection.Close(); }
+
+private:
+    data::Connection m_connection;
+    data::Recordset m_pages;
+    data::Recordset m_fields;
+    runtime::Value m_tabId;
+};

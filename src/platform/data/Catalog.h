@@ -1,0 +1,49 @@
+// The tables of a data file as they are defined: enumerates them with their columns, and adds new ones.
+//
+// A catalog owns a connection of its own, which opens when its string is set and closes with the catalog; tables and
+// columns that came from it outlive it only as names. Other connections see what it adds as soon as it is added.
+#pragma once
+
+#include "platform/data/Connection.h"
+#include "platform/data/Table.h"
+
+namespace data {
+
+// The tables, views and system tables of a file by name.
+class Tables
+{
+public:
+    // What a range-for goes through are the tables as they were at its beginning. Columns are not read for that.
+    std::vector<Table>::const_iterator begin();
+    std::vector<Table>::const_iterator end() const { return m_enumerated.cend(); }
+
+    // Stores the table with its columns, all of it or, with an error, nothing. Errors: -2147217857 for a name that is
+    // in the file already; -2147217900 for a table without columns, a name that no statement could name and a default
+    // that is not understood (-2147217913 for one that the column's type cannot hold); -2147217872 for an unknown type;
+    // -2147217887 for an "AutoIncrement" on a second column, on one of another type or beside a default.
+    void Append(const Table &table) const;
+
+private:
+    friend class Catalog;
+    explicit Tables(std::weak_ptr<Database> file) : m_file(std::move(file)) {}
+
+    std::weak_ptr<Database> m_file;
+    std::vector<Table> m_enumerated;
+};
+
+class Catalog
+{
+public:
+    // Errors as Connection::Open; the connection that the catalog had is kept then.
+    void setActiveConnection(const QString &connectionString);
+    // Error 3709 without a connection.
+    data::Tables Tables() const;
+
+    // For the objects of data definition.
+    const std::shared_ptr<Database> &database() const { return m_connection.database(); }
+
+private:
+    Connection m_connection;
+};
+
+} // namespace data

@@ -1,0 +1,132 @@
+// Tables and columns of the data file, described first and stored when Tables takes the table.
+//
+// Each object is a reference: a copy is the same table, column or property. The columns of a stored table are read from
+// the file whenever they are enumerated or asked for; one that is appended to it goes into the file at once. What is
+// stored is not changed any more: error -2147217887. Names compare without regard to the case of ASCII letters, as in
+// the file. Error 3709 for a stored table whose catalog is gone.
+// The trap: a column must have a value in every row unless its "Nullable" is True or its "Required" False. A column
+// with a default, a Boolean one and the auto-increment one come by their value themselves.
+#pragma once
+
+#include "platform/data/Constants.h"
+#include "platform/runtime/Value.h"
+
+#include <QString>
+#include <QStringView>
+
+#include <memory>
+#include <vector>
+
+namespace data {
+
+class Catalog;
+class Columns;
+class Properties;
+
+class Column
+{
+public:
+    Column();
+
+    QString Name() const;
+    void setName(const QString &name);
+    int Type() const;
+    void setType(int type);
+    // Gives the column its properties. Error 3709 for a catalog without a connection, which has none to give.
+    void setParentCatalog(const Catalog &catalog);
+    data::Properties Properties() const;
+
+    struct Definition;
+
+private:
+    friend class Columns;
+    explicit Column(std::shared_ptr<Definition> definition);
+
+    std::shared_ptr<Definition> m_definition;
+};
+
+class Property
+{
+public:
+    // A "Default" is Null until it is set; that of a stored column is SQLite's expression.
+    runtime::Value Value() const;
+    // Converts nothing: a text for "Default", a Boolean for the others. Error 3001.
+    void setValue(const runtime::Value &value);
+
+private:
+    friend class Properties;
+    enum class Kind { AutoIncrement, Default, Nullable, Required };
+    Property(std::shared_ptr<Column::Definition> column, Kind kind);
+
+    std::shared_ptr<Column::Definition> m_column;
+    Kind m_kind;
+};
+
+// "AutoIncrement", "Default", "Nullable" and its reverse "Required", without regard to case. Empty until the column or
+// its table has a ParentCatalog.
+//
+// "AutoIncrement" is for one adInteger column of a new table: the file numbers the rows from 1 and gives out no number
+// twice. The column is no key: it takes a number set by hand, a repeated one too.
+// "Default" is an expression: Date(), Time() or Now() (brackets, a "=" before and, for the first two, a "$" as you
+// like), which take the moment of each insert and need an adDate column, or a number or a text in quotes that the
+// column can hold. Anything else is refused when the column is stored.
+class Properties
+{
+public:
+    // Error 3265.
+    Property Item(QStringView name) const;
+
+private:
+    friend class Column;
+    explicit Properties(std::shared_ptr<Column::Definition> column);
+
+    std::shared_ptr<Column::Definition> m_column;
+};
+
+class Table
+{
+public:
+    Table();
+
+    QString Name() const;
+    void setName(const QString &name);
+    // "TABLE", "VIEW" or "SYSTEM TABLE".
+    QString Type() const;
+    // Gives all its columns their properties. Error 3709 for a catalog without a connection.
+    void setParentCatalog(const Catalog &catalog);
+    data::Columns Columns() const;
+
+    struct Definition;
+
+private:
+    friend class Tables;
+    explicit Table(std::shared_ptr<Definition> definition);
+
+    std::shared_ptr<Definition> m_definition;
+};
+
+// The columns of a table in their order.
+class Columns
+{
+public:
+    // What a range-for goes through are the columns as they were at its beginning.
+    std::vector<Column>::const_iterator begin();
+    std::vector<Column>::const_iterator end() const { return m_enumerated.cend(); }
+
+    // Error 3265.
+    Column Item(QStringView name) const;
+    // Error 3367 for a repeated name or a column that is in a table already; on a stored table -2147217858, and the
+    // errors of Tables::Append. The size is taken and has no bearing: a text of this store has any length.
+    void Append(const QString &name, int type = adVarWChar, int definedSize = 0) const;
+    void Append(const Column &column, int type, int definedSize) const;
+
+private:
+    friend class Table;
+    explicit Columns(std::shared_ptr<Table::Definition> table);
+    std::vector<Column> read() const;
+
+    std::shared_ptr<Table::Definition> m_table;
+    std::vector<Column> m_enumerated;
+};
+
+} // namespace data

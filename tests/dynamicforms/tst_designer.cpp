@@ -1,0 +1,363 @@
+// The designer: what it loads and saves, what the mouse does on its canvas, and the tables that it makes.
+#include "dynamicforms/OpenDesigner.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr const char *noForm = "DELETE FROM FieldInfo WHERE FieldEdit = 1; DELETE FROM TabInfo WHERE TabEdit = 1;";
+
+// Two pages of the designer's beside the fixed one: "Work" with three fields, "Home" with one, in the order of loading
+// Post, Firm, Street, Desk.
+constexpr const char *twoPages =
+    "INSERT INTO TabInfo (TabId, TabNam, TabDescription) VALUES (11, 'Work', 'At work'), (12, 'Home', 'At home');"
+    "INSERT INTO FieldInfo (TabId, FieldName, FieldDescription, FieldDisplayOrder, fieldLeft, fieldTop, labelLeft,"
+    " labelTop, fieldWidth) VALUES"
+    " (11, 'Firm', 'Employer', 2, 3000, 600, 300, 600, 1500), (11, 'Desk', 'Room', 4, 3000, 1200, 300, 1200, 1500),"
+    " (12, 'Street', 'Road', 3, 3000, 300, 300, 300, 2400), (11, 'Post', 'Rank', 1, 3000, 1800, 300, 1800, 1500);";
+
+constexpr const char *storedFields =
+    "SELECT TabNam, FieldName, FieldDescription, FieldDisplayOrder, labelLeft, labelTop, fieldLeft, fieldTop, "
+    "fieldWidth FROM FieldInfo JOIN TabInfo USING (TabId) WHERE FieldEdit = 1 ORDER BY FieldInfo.rowid";
+constexpr const char *storedPages = "SELECT TabNam, TabDescription FROM TabInfo WHERE TabEdit = 1 ORDER BY TabId";
+
+QStringList columnsOf(const DataFolder &folder, const QByteArray &table)
+{
+    return folder.rows("SELECT name FROM pragma_table_info('" + table + "')");
+}
+
+} // namespace
+
+class tst_Designer : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        m_folder.emplace(DataStoreFolder::Content::Empty);
+        m_errors.emplace();
+    }
+    void cleanup()
+    {
+        m_errors.reset();
+        m_folder.reset();
+    }
+
+    void aFormIsShownAsItWasStored()
+    {
+        m_folder->execute(twoPages);
+        OpenDesigner designer;
+        QCOMPARE(designer.window.Caption(), u"Tolmark Database/Form Generator"_s);
+        QCOMPARE(designer.window.txtGridSize->Text(), u"4"_s);
+        QCOMPARE(designer.window.TabStrip1->ToolTipText(2), u"At home"_s);
+        QCOMPARE(designer.fields(), (QStringList{u"Post 300,1800 3000,1800 1500"_s, u"Firm 300,600 3000,600 1500"_s,
+                                                 u"Desk 300,1200 3000,1200 1500"_s}));
+        designer.clickTab(2);
+        QCOMPARE(designer.fields(), QStringList{u"Street 300,300 3000,300 2400"_s});
+    }
+
+    void aLonelyFieldShowsAtAClick()
+    {
+        m_folder->execute(twoPages);
+        m_folder->execute("DELETE FROM FieldInfo WHERE FieldEdit = 1 AND FieldName <> 'Firm'");
+        OpenDesigner designer;
+        QCOMPARE(designer.fields(), QStringList());
+        designer.clickTab(1);
+        QCOMPARE(designer.fields().size(), 1);
+    }
+
+    void withoutAFormTwoMovesAreFatal()
+    {
+        m_folder->execute(noForm);
+        OpenDesigner designer;
+        QCOMPARE(designer.window.TabStrip1->Count(), 0);
+        QCOMPARE(designer.window.txtGridSize->Text(), QString());
+        QTest::mouseMove(designer.window.Picture1, {40, 40});
+        QCOMPARE(m_errors->takeNumber(), 13);
+        designer.addTab(u"One"_s);
+        designer.addTab(u"Two"_s);
+        designer.clickTab(2);
+        QCOMPARE(m_errors->takeNumber(), 9);
+    }
+
+    void namesAreAskedFor()
+    {
+        m_folder->execute(noForm);
+        OpenDesigner designer;
+        BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok});
+        designer.addField({});
+        designer.addField(u"Phone"_s);
+        designer.addTab({});
+        QStringList texts;
+        for (const SeenBox &box : boxes.seen)
+            texts << box.text;
+        QCOMPARE(texts, (QStringList{u"Invalid Field Name"_s, u"Invalid Form Name"_s, u"Invalid Tab Name"_s}));
+        designer.window.cmdFieldClear->click();
+        QCOMPARE(designer.window.txtFieldName->text(), QString());
+    }
+
+    void theCornerFollowsThePointer()
+    {
+        m_folder->execute(twoPages);
+        OpenDesigner designer;
+        OpenDesigner::drag(*designer.box(1), 60, -30);
+        QCOMPARE(designer.fields().value(0), u"Post 300,1800 3060,1770 1500"_s);
+        QCOMPARE(designer.window.txtWidth->text(), u"1500"_s);
+        OpenDesigner::drag(*designer.label(1), 15, 15, Qt::ShiftModifier); // which means nothing to a label
+        QCOMPARE(designer.fields().value(0), u"Post 315,1815 3060,1770 1500"_s);
+        OpenDesigner::drag(*designer.box(2), 60, 60, Qt::ShiftModifier);
+        designer.press(1);
+        OpenDesigner::drag(*designer.box(3), 60, 60);
+        OpenDesigner::drag(*designer.label(3), 60, 60);
+        QCOMPARE(designer.fields().sliced(1),
+                 (QStringList{u"Firm 300,600 3000,600 1500"_s, u"Desk 300,1200 3000,1200 1500"_s}));
+        QCOMPARE(designer.window.txtWidth->Tag, u"3"_s); // a locked box is still the chosen one
+        designer.press(2);
+        OpenDesigner::drag(*designer.box(3), 60, 60);
+        QCOMPARE(designer.fields().value(2), u"Desk 300,1200 3060,1260 1500"_s);
+    }
+
+    void theWidthIsThatOfLabelAndBox()
+    {
+        m_folder->execute(twoPages);
+        OpenDesigner designer;
+        designer.window.txtWidth->setText(u"900"_s); // of no box yet
+        designer.box(2)->setFocus();
+        QCOMPARE(designer.window.txtWidth->text(), u"1500"_s);
+        for (const QString &text : {u"2100"_s, u"wide"_s, u""_s, u"40000"_s})
+            designer.window.txtWidth->setText(text);
+        QCOMPARE(designer.box(2)->Width(), 2100);
+        QCOMPARE(designer.label(2)->Width(), 2100);
+    }
+
+    void gatheredBoxesFollowTheFirst()
+    {
+        m_folder->execute(twoPages);
+        OpenDesigner designer;
+        {
+            BoxAnswers boxes({QMessageBox::Ok});
+            designer.press(4);
+            QCOMPARE(boxes.seen.value(0).text, u"Please select two or more objects"_s);
+        }
+        designer.box(3)->setWidth(3300);
+        designer.gather(3);
+        designer.gather(1);
+        designer.gather(1);
+        designer.press(4);
+        QCOMPARE(designer.fields(), (QStringList{u"Post 300,1800 3000,1200 1500"_s, u"Firm 300,600 3000,600 1500"_s,
+                                                 u"Desk 300,1200 3000,1200 3300"_s}));
+        designer.press(7); // nothing is gathered any more, and that is no failure any more
+        designer.gather(3);
+        designer.gather(2);
+        designer.press(7);
+        QCOMPARE(designer.box(2)->Width(), 3300);
+        designer.gather(3);
+        designer.gather(1);
+        designer.clickTab(2); // where there is no third box
+        BoxAnswers boxes({QMessageBox::Ok});
+        designer.press(5);
+    }
+
+    void aPageKeepsItsPlacesButForTheFirstRow()
+    {
+        m_folder->execute(twoPages);
+        OpenDesigner designer;
+        OpenDesigner::drag(*designer.box(1), 30, 30);
+        OpenDesigner::drag(*designer.box(2), 30, 30);
+        OpenDesigner::drag(*designer.label(2), 45, 45);
+        designer.clickTab(2);
+        designer.clickTab(1);
+        QCOMPARE(designer.fields(), (QStringList{u"Post 300,1800 3000,1800 1500"_s, u"Firm 345,645 3030,630 1500"_s,
+                                                 u"Desk 300,1200 3000,1200 1500"_s}));
+    }
+
+    void gridLines_data()
+    {
+        QTest::addColumn<float>("x");
+        QTest::addColumn<int>("step");
+        QTest::addColumn<float>("line");
+        QTest::newRow("below the middle") << 99.0F << 200 << 0.0F;
+        QTest::newRow("the middle") << 100.0F << 200 << 200.0F;
+        QTest::newRow("rounded before it is compared") << 299.6F << 200 << 400.0F;
+        QTest::newRow("rounded onto the next line") << 399.6F << 200 << 200.0F;
+        QTest::newRow("another step") << 1030.0F << 50 << 1050.0F;
+    }
+    void gridLines()
+    {
+        QFETCH(float, x);
+        QFETCH(int, step);
+        QTEST(snappedToGrid(x, qint16(step)), "line");
+    }
+
+    void pointsShowOnlyWithTheGrid()
+    {
+        m_folder->execute(twoPages);
+        OpenDesigner designer;
+        const auto isPoint = [&designer](int x, int y) {
+            const QImage shown = designer.window.Picture1->grab().toImage();
+            return shown.pixelColor(desktop::pixels(x), desktop::pixels(y)) ==
+                   designer.window.palette().color(QPalette::WindowText);
+        };
+        QVERIFY(isPoint(10200, 7000)); // the last of all, under no control
+        QVERIFY(!isPoint(10100, 7000));
+        designer.window.txtGridSize->setSelected(1);
+        QVERIFY(isPoint(10100, 7000));
+        designer.window.chkGrid->click();
+        QVERIFY(!isPoint(10200, 7000));
+    }
+
+    // Names go where the counter says, places where the control's number says: here a row apart.
+    void aNewFieldIsTwoRowsAtOnce()
+    {
+        m_folder->execute(noForm);
+        OpenDesigner designer;
+        designer.addTab(u"Contact"_s, u"How to reach"_s);
+        designer.addField(u"Phone"_s, u"With prefix"_s);
+        designer.addField(u"Fax"_s);
+        QCOMPARE(designer.fields(), (QStringList{u"Phone 240,295 3120,295 2895"_s, u"Fax 240,710 3120,710 2895"_s}));
+        QCOMPARE(designer.label(1)->toolTip(), u"With prefix"_s);
+        designer.window.cmdSave->click();
+        QCOMPARE(m_folder->rows(storedFields),
+                 (QStringList{u"Contact|Phone|With prefix|NULL|240.0|295.0|3120.0|295.0|2895.0"_s,
+                              u"Contact|Fax||NULL|240.0|710.0|3120.0|710.0|2895.0"_s}));
+        QCOMPARE(m_folder->rows(storedPages), QStringList{u"Contact|How to reach"_s});
+        designer.addTab(u"Other"_s);
+        designer.clickTab(2);
+        designer.window.cmdSave->click(); // the first row of all has no place
+        QCOMPARE(m_errors->takeNumber(), -2147217887);
+        QCOMPARE(m_folder->rows(storedFields), QStringList());
+    }
+
+    // The grid counts its columns with the counter of the rows: 52 with the size that is selected at first.
+    void theGridMovesTheNextRow()
+    {
+        m_folder->execute(twoPages);
+        OpenDesigner designer;
+        designer.clickTab(2);
+        const auto repaint = [&designer] { designer.window.Picture1->repaint(); };
+        repaint();
+        designer.addField(u"Lost"_s);
+        repaint();
+        designer.addField(u"Kept"_s); // in the row of the one before
+        QCOMPARE(designer.fields().size(), 3);
+        designer.generate(QMessageBox::No);
+        QCOMPARE(columnsOf(*m_folder, "Home"),
+                 (QStringList{u"HomeId"_s, u"PersonalInformationId"_s, u"HomeDate"_s, u"Street"_s, u"Kept"_s}));
+        designer.window.txtGridSize->setSelected(9);
+        repaint(); // leaves 21
+        designer.addField(u"Last"_s);
+        designer.clickTab(1);
+        designer.clickTab(2);
+        QCOMPARE(designer.fields().size(), 1); // what stood beyond is cut off, and "Last" has no place
+    }
+
+    void savingWritesTheFormAnew()
+    {
+        m_folder->execute(twoPages);
+        m_folder->execute("UPDATE FieldInfo SET FieldDisplayOrder = 7 WHERE FieldName = 'Street'");
+        OpenDesigner designer;
+        OpenDesigner::drag(*designer.box(3), 150, 150);
+        designer.window.cmdSave->click();
+        designer.window.cmdSave->click();
+        QCOMPARE(m_folder->rows(storedFields), (QStringList{u"Work|Post|Post|NULL|300.0|1800.0|3000.0|1800.0|1500.0"_s,
+                                                            u"Work|Firm|Firm|NULL|300.0|600.0|3000.0|600.0|1500.0"_s,
+                                                            u"Work|Desk|Desk|NULL|300.0|1200.0|3150.0|1350.0|1500.0"_s,
+                                                            u"Home|Street|Road|7|300.0|300.0|3000.0|300.0|2400.0"_s}));
+        QCOMPARE(m_folder->rows(storedPages), (QStringList{u"Work|At work"_s, u"Home|At home"_s}));
+        QCOMPARE(m_folder->row("SELECT count(*) FROM FieldInfo WHERE FieldEdit = 0"), u"14"_s);
+    }
+
+    void pagesOfOneCaptionShareTheirFields()
+    {
+        m_folder->execute(twoPages);
+        OpenDesigner designer;
+        designer.addTab(u"Home"_s);
+        designer.clickTab(3);
+        QCOMPARE(designer.fields().size(), 1);
+        designer.clickTab(1);
+        designer.window.cmdSave->click();
+        QCOMPARE(m_folder->row("SELECT count(*), count(DISTINCT TabId) FROM FieldInfo WHERE FieldName = 'Street'"),
+                 u"2|1"_s); // on the first page of that caption
+    }
+
+    void anApostropheInACaptionLosesTheForm()
+    {
+        m_folder->execute(twoPages);
+        OpenDesigner designer;
+        designer.addTab(u"Member's"_s);
+        designer.window.cmdSave->click();
+        QCOMPARE(m_errors->takeNumber(), -2147217900);
+        QCOMPARE(m_folder->rows(storedPages), (QStringList{u"Work|At work"_s, u"Home|At home"_s, u"Member's|"_s}));
+        QCOMPARE(m_folder->rows(storedFields).size(), 4); // written before it came to that page
+        QCOMPARE(m_folder->row("PRAGMA integrity_check"), u"ok"_s);
+    }
+
+    void aRowWithoutAPlaceEndsThePage()
+    {
+        m_folder->execute(twoPages);
+        m_folder->execute("UPDATE FieldInfo SET labelLeft = '' WHERE FieldName = 'Firm'");
+        OpenDesigner designer;
+        QCOMPARE(designer.fields().size(), 1);
+        QVERIFY(designer.box(2) && !designer.box(3)); // loaded and unseen
+    }
+
+    void aTableGrowsWithItsPage()
+    {
+        m_folder->execute(noForm);
+        OpenDesigner designer;
+        designer.addTab(u"Contact Details"_s);
+        designer.addField(u"Phone"_s);
+        designer.addField(u"Fax"_s);
+        designer.addField(u"Fax"_s);
+        designer.generate(QMessageBox::No);
+        QCOMPARE(m_folder->rows(storedPages), QStringList());
+        m_folder->execute("INSERT INTO \"Contact Details\" (PersonalInformationId, Phone) VALUES (1, '555')");
+        designer.addField(u"Mail"_s);
+        designer.generate(QMessageBox::Yes);
+        QCOMPARE(m_folder->rows(storedPages).size(), 1);
+        QCOMPARE(
+            m_folder->rows("SELECT * FROM (SELECT name, type, \"notnull\" FROM "
+                           "pragma_table_info('Contact Details')) WHERE name NOT LIKE '%Id'"),
+            (QStringList{u"ContactDetailsDate|DATETIME|1"_s, u"Phone|TEXT|0"_s, u"Fax|TEXT|0"_s, u"Mail|TEXT|0"_s}));
+        QCOMPARE(m_folder->row("SELECT ContactDetailsId, PersonalInformationId, ContactDetailsDate = date('now', "
+                               "'localtime') || ' 00:00:00', Phone, Mail FROM \"Contact Details\""),
+                 u"1|1|1|555|NULL"_s);
+    }
+
+    void tablesOfTheStoreGainColumnsAlone()
+    {
+        m_folder->execute(twoPages);
+        m_folder->execute("UPDATE TabInfo SET TabNam = 'MemberType' WHERE TabId = 11;"
+                          "UPDATE FieldInfo SET FieldName = 'MemberType' WHERE FieldName = 'Firm';"
+                          "CREATE VIEW Home AS SELECT 1 AS One");
+        const QString before = m_folder->row("SELECT group_concat(MemberType) FROM MemberType");
+        OpenDesigner designer;
+        designer.generate(QMessageBox::No);
+        QCOMPARE(columnsOf(*m_folder, "MemberType").sliced(2), (QStringList{u"Post"_s, u"Desk"_s}));
+        QCOMPARE(m_folder->row("SELECT group_concat(MemberType) FROM MemberType"), before);
+        QCOMPARE(m_folder->row("SELECT type FROM sqlite_master WHERE name = 'Home'"), u"view"_s);
+    }
+
+    void oddNamesBecomeTablesOrNothing()
+    {
+        m_folder->execute(noForm);
+        constexpr const char *tables = "SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY rowid";
+        const QStringList before = m_folder->rows(tables);
+        OpenDesigner designer;
+        const QStringList names{u"it's"_s, u"Select"_s, u"a \"b\" c."_s, QString(200, u'n'), u"[x]"_s};
+        for (const QString &name : names)
+            designer.addTab(name);
+        designer.addField(u"Order"_s); // on the first page
+        designer.addField(u"it's"_s);
+        designer.generate(QMessageBox::No);
+        QCOMPARE(m_folder->rows(tables).sliced(before.size()), names.first(4));
+        QCOMPARE(columnsOf(*m_folder, "it''s").sliced(3), (QStringList{u"Order"_s, u"it's"_s}));
+    }
+
+private:
+    std::optional<DataStoreFolder> m_folder;
+    std::optional<CaughtErrors> m_errors;
+};
+
+QTEST_MAIN(tst_Designer)
+#include "tst_designer.moc"

@@ -1,0 +1,339 @@
+#include "platform/data/Catalog.h"
+#include "platform/data/ProviderError.h"
+#include "support/DataFolder.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+#include <optional>
+
+using namespace Qt::Literals::StringLiterals;
+using data::Catalog;
+using data::Column;
+using data::Recordset;
+using data::Table;
+using runtime::Value;
+
+class CatalogTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+
+    void storesAGeneratedTable();
+    void refuses_data();
+    void refuses();
+    void takesAnyName();
+    void evaluatesDefaults();
+    void readsWhatIsStored();
+    void addsColumnsToAStoredTable();
+    void givesPropertiesWithACatalog();
+
+private:
+    Table described(const QString &name) const;
+    Table stored(const QString &name) const;
+    QStringList layout() const { return m_folder->rows("SELECT type, name, sql FROM sqlite_master ORDER BY name"); }
+
+    std::optional<DataFolder> m_folder;
+    Catalog m_catalog;
+    data::Connection m_connection;
+};
+
+namespace {
+
+const QString invalidName = u"-2147217900 '%1' is not a valid name.  Make sure that it does not include invalid "
+                            u"characters or punctuation and that it is not too long."_s;
+
+int errorNumberOf(auto &&call)
+{
+    return errorOf(call).section(u' ', 0, 0).toInt();
+}
+
+void set(const Column &column, QStringView property, const Value &value)
+{
+    column.Properties().Item(property).setValue(value);
+}
+
+QStringList namesOf(auto &&collection)
+{
+    QStringList names;
+    for (const auto &item : collection)
+        names << item.Name();
+    return names;
+}
+
+} // namespace
+
+void CatalogTest::init()
+{
+    m_catalog = Catalog();
+    m_connection = data::Connection();
+    m_folder.emplace(DataFolder::Content::Empty);
+    m_folder->execute("CREATE VIEW Names AS SELECT \"Last Name\" FROM \"Personal Information\"");
+    m_folder->open(m_connection);
+    m_catalog.setActiveConnection(m_folder->connectionString());
+}
+
+// As the designer describes the table of a tab.
+Table CatalogTest::described(const QString &name) const
+{
+    Table table;
+    table.setName(name);
+    table.setParentCatalog(m_catalog);
+    table.Columns().Append(u"Key"_s, data::adInteger);
+    set(table.Columns().Item(u"Key"), u"AutoIncrement", Value(true));
+    table.Columns().Append(u"Link"_s, data::adInteger);
+    table.Columns().Append(u"Day"_s, data::adDate);
+    set(table.Columns().Item(u"Day"), u"Default", Value(u"Date$()"_s));
+    table.Columns().Append(u"Phone"_s, data::adVarWChar);
+    set(table.Columns().Item(u"Phone"), u"Required", Value(false));
+    return table;
+}
+
+Table CatalogTest::stored(const QString &name) const
+{
+    for (const Table &table : m_catalog.Tables()) {
+        if (table.Name() == name)
+            return table;
+    }
+    return {};
+}
+
+void CatalogTest::storesAGeneratedTable()
+{
+    m_catalog.Tables().Append(described(u"T"_s));
+    QCOMPARE(m_folder->rows("SELECT name, type, \"notnull\", dflt_value, pk FROM pragma_table_info('T')"),
+             (QStringList{u"Key|INTEGER|0|NULL|0"_s, u"Link|INTEGER|1|NULL|0"_s,
+                          u"Day|DATETIME|1|strftime('%Y-%m-%d 00:00:00', 'now', 'localtime')|0"_s,
+                          u"Phone|TEXT|0|NULL|0"_s}));
+    QCOMPARE(m_folder->row("SELECT COUNT(*) FROM pragma_index_list('T')"), u"0"_s);
+
+    const Value before{runtime::Date(QDate::currentDate())};
+    Recordset rows;
+    rows.Open(u"select * from [T]"_s, m_connection);
+    rows.AddNew();
+    QVERIFY(errorOf([&] { rows.Update(); }).contains(u"'T.Link' cannot contain a Null value"));
+    const auto added = [&rows](const Value &key = {}) {
+        rows.AddNew();
+        rows[u"Link"].setValue(Value(17));
+        if (!key.isNull())
+            rows[u"Key"].setValue(key);
+        rows.Update();
+        return rows[u"Key"].Value();
+    };
+    rows.CancelUpdate();
+    QCOMPARE(added(), Value(1));
+    const Value day = rows[u"Day"].Value();
+    QVERIFY(day == before || day == Value(runtime::Date(QDate::currentDate()))); // midnight may have passed
+    QCOMPARE(added(), Value(2));
+    rows.Delete();
+    QCOMPARE(added(), Value(3)); // no number twice
+    QCOMPARE(added(Value(40)), Value(40));
+    QCOMPARE(added(Value(40)), Value(40)); // by hand, for it is no key
+    QCOMPARE(added(), Value(41));
+    m_folder->execute("DELETE FROM sqlite_sequence"); // as if by another tool
+    QCOMPARE(added(), Value(42));
+}
+
+void CatalogTest::refuses_data()
+{
+    QTest::addColumn<QString>("table");
+    QTest::addColumn<QString>("column");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<Value>("property"); // "AutoIncrement" or "Default"
+    QTest::addColumn<QString>("error");
+
+    const auto table = [](const QString &name, const QString &error) {
+        QTest::addRow("table '%s'", qUtf8Printable(name)) << name << u"c"_s << 202 << Value() << error.arg(name);
+    };
+    const QString exists = u"-2147217857 Table '%1' already exists."_s;
+    table(u"PERSONAL information"_s, exists);
+    table(u"Names"_s, exists);           // a view
+    table(u"FieldInfo_TabId"_s, exists); // an index
+    table(QString(), invalidName);
+    table(u"a]b"_s, invalidName);
+    table(u"SQLite_x"_s, invalidName);
+    table(u"a\0b"_s, invalidName);
+    const auto column = [](const QString &name, int type, const Value &property, const QString &error) {
+        QTest::addRow("column '%s' %d", qUtf8Printable(name), type) << u"T"_s << name << type << property << error;
+    };
+    const QString refused = u"-2147217887 Multiple-step OLE DB operation generated errors. Check each OLE DB status "
+                            u"value, if available. No work was done."_s;
+    column({}, 202, {}, invalidName.arg(QString()));
+    column(u"[c"_s, 202, {}, invalidName.arg(u"[c"));
+    column(u"_ROWID_"_s, 202, {}, invalidName.arg(u"_ROWID_")); // would hide by what the rows are found again
+    column(u"c"_s, 72, {}, u"-2147217872 Type is invalid."_s);
+    column(u"counts"_s, 202, Value(true), refused);
+    column(u"counts too"_s, 3, Value(true), refused);
+    const QString place = u" in validation expression or default value on 'T.c'."_s;
+    column(u"c"_s, 7, Value(u"=Now$()"_s), u"-2147217900 Unknown function 'Now$'"_s + place);
+    column(u"c"_s, 7, Value(u"Date() + 1"_s),
+           u"-2147217900 Syntax error (missing operator) in query expression 'Date() + 1'."_s);
+    const QString mismatch = u"-2147217913 Data type mismatch in criteria expression."_s;
+    column(u"c"_s, 202, Value(u"Date$()"_s), mismatch);
+    column(u"c"_s, 3, Value(u"\"many\""_s), mismatch);
+}
+
+void CatalogTest::refuses()
+{
+    QFETCH(QString, table);
+    QFETCH(QString, column);
+    QFETCH(int, type);
+    QFETCH(Value, property);
+    QFETCH(QString, error);
+    const auto appendTo = [&](const Table &target) {
+        Column added;
+        added.setName(column);
+        added.setParentCatalog(m_catalog);
+        if (!property.isNull())
+            set(added, property.is<bool>() ? u"AutoIncrement" : u"Default", property);
+        target.Columns().Append(added, type, 0);
+    };
+    QStringList before = layout();
+    Table refused = described(table);
+    appendTo(refused);
+    QCOMPARE(errorOf([&] { m_catalog.Tables().Append(refused); }), error);
+    QCOMPARE(layout(), before);
+    refused.setName(u"Other"_s); // it is not taken for stored
+    if (table != u"T")
+        return;
+    m_folder->execute("CREATE TABLE T (Day DATETIME)");
+    before = layout();
+    QCOMPARE(errorOf([&] { appendTo(stored(u"T"_s)); }), error);
+    QCOMPARE(layout(), before);
+}
+
+void CatalogTest::takesAnyName()
+{
+    for (const QString &name : {u"   "_s, u"O'Brien's"_s, u"say \"so\""_s, u"a.b;--"_s, u"Select"_s, u"Größe"_s, u"`"_s,
+                                u"?1 %1"_s, u"two\nlines"_s, QString(200, u'x')}) {
+        const Table table = described(name);
+        table.Columns().Append(name);
+        m_catalog.Tables().Append(table);
+        QCOMPARE(namesOf(stored(name).Columns()).last(), name);
+        Recordset rows;
+        rows.Open(u"select * from ["_s + name + u']', m_connection);
+        rows.AddNew();
+        rows[u"Link"].setValue(Value(1));
+        rows[name].setValue(name);
+        rows.Update();
+        QCOMPARE(textsOf(m_connection, u"select * from ["_s + name + u"] where Link = 1"_s, name), QStringList{name});
+    }
+}
+
+void CatalogTest::evaluatesDefaults()
+{
+    struct Default
+    {
+        int type;
+        QString expression;
+        QString stored; // by an insert: the storage and, as a pattern, the text
+    };
+    const QList<Default> defaults{
+        {7, u"date"_s, u"text 20..-..-.. 00:00:00"_s},
+        {7, u" = DATE ( ) "_s, u"text 20..-..-.. 00:00:00"_s},
+        {7, u"Now()"_s, u"text 20..-..-.. ..:..:.."_s},
+        {7, u"Time$"_s, u"text 1899-12-30 ..:..:.."_s},
+        {7, u"\"2001-01-31\""_s, u"text 2001-01-31 00:00:00"_s},
+        {3, u"-5"_s, u"integer -5"_s},
+        {2, u"2.5"_s, u"integer 2"_s}, // rounded as a field rounds it
+        {6, u"1.5"_s, u"real 1.5"_s},
+        {11, {}, u"integer 0"_s},
+        {202, u"=7"_s, u"text 7"_s},
+        {202, u"\"it's \"\"so\"\"\""_s, u"text it's \"so\""_s},
+    };
+    const Table table = described(u"T"_s);
+    for (qsizetype at = 0; at < defaults.size(); ++at) {
+        const QString name = u'c' + QString::number(at);
+        table.Columns().Append(name, defaults[at].type);
+        set(table.Columns().Item(name), u"Default", Value(defaults[at].expression));
+    }
+    m_catalog.Tables().Append(table);
+    m_folder->execute("INSERT INTO T (Link) VALUES (1)");
+    for (qsizetype at = 0; at < defaults.size(); ++at) {
+        const QByteArray name = 'c' + QByteArray::number(at);
+        const QString actual = m_folder->row("SELECT typeof(" + name + ") || ' ' || " + name + " FROM T");
+        const QRegularExpression expected(QRegularExpression::anchoredPattern(defaults[at].stored));
+        QVERIFY2(expected.match(actual).hasMatch(), qPrintable(defaults[at].expression + u" gives "_s + actual));
+    }
+}
+
+void CatalogTest::readsWhatIsStored()
+{
+    QCOMPARE(namesOf(m_catalog.Tables()),
+             m_folder->rows("SELECT name FROM sqlite_master WHERE type IN ('table', 'view') ORDER BY name"));
+    QCOMPARE(stored(u"Names"_s).Type(), u"VIEW"_s);
+    QCOMPARE(namesOf(stored(u"Names"_s).Columns()), QStringList{u"Last Name"_s});
+    QCOMPARE(stored(u"sqlite_sequence"_s).Type(), u"SYSTEM TABLE"_s);
+    QCOMPARE(stored(u"TabInfo"_s).Type(), u"TABLE"_s);
+    m_catalog.Tables().Append(described(u"T"_s));
+    const auto columns = stored(u"T"_s).Columns();
+    QCOMPARE(columns.Item(u"DAY").Type(), int(data::adDate));
+    QCOMPARE(columns.Item(u"Key").Properties().Item(u"AutoIncrement").Value(), Value(true));
+    QCOMPARE(columns.Item(u"Link").Properties().Item(u"AutoIncrement").Value(), Value(false));
+    QCOMPARE(columns.Item(u"Link").Properties().Item(u"Required").Value(), Value(true));
+}
+
+void CatalogTest::addsColumnsToAStoredTable()
+{
+    const Table table = described(u"T"_s);
+    m_catalog.Tables().Append(table);
+    m_folder->execute("INSERT INTO T (Link, Phone) VALUES (17, '555')");
+    Recordset before;
+    before.Open(u"select * from [T]"_s, m_connection);
+    QCOMPARE(before[u"Phone"].Value(), Value(u"555"_s));
+
+    Catalog another;
+    another.setActiveConnection(m_folder->connectionString());
+    Column fax;
+    fax.setName(u"Fax"_s);
+    fax.setParentCatalog(another);
+    set(fax, u"nullable", Value(true));
+    for (const Table &found : another.Tables()) {
+        if (found.Name() == u"T")
+            found.Columns().Append(fax, data::adVarWChar, 0);
+    }
+    QCOMPARE(namesOf(table.Columns()).last(), u"Fax"_s);
+    QCOMPARE(errorNumberOf([&] { before[u"Fax"].Value(); }), data::NoSuchItem); // its rows were read before
+    Recordset after;
+    after.Open(u"select * from [T]"_s, m_connection);
+    QVERIFY(after[u"Fax"].Value().isNull());
+    after[u"Fax"].setValue(u"556"_s);
+    after.Update();
+    QCOMPARE(errorOf([&] { table.Columns().Append(u"FAX"_s); }),
+             u"-2147217858 Field 'FAX' already exists in table 'T'."_s);
+    QVERIFY(!errorOf([&] { table.Columns().Append(u"c"_s); }).isEmpty()); // the row that is there has no value for it
+    QCOMPARE(m_folder->row("SELECT * FROM T").section(u'|', 3), u"555|556"_s);
+}
+
+void CatalogTest::givesPropertiesWithACatalog()
+{
+    QCOMPARE(errorNumberOf([] { Catalog().Tables(); }), data::NoConnection);
+    Table table;
+    table.setName(u"T"_s);
+    QCOMPARE(errorNumberOf([&] { m_catalog.Tables().Append(table); }), data::SyntaxError); // no column
+    table.Columns().Append(u"Key"_s, data::adInteger);
+    const Column key = table.Columns().Item(u"KEY");
+    QCOMPARE(errorNumberOf([&] { key.Properties().Item(u"AutoIncrement"); }), data::NoSuchItem);
+    QCOMPARE(errorNumberOf([&] { table.Columns().Item(u"Keys"); }), data::NoSuchItem);
+    QCOMPARE(errorNumberOf([&] { table.Columns().Append(u"key"_s); }), data::AlreadyInCollection);
+    QCOMPARE(errorNumberOf([&] { Table().Columns().Append(key, 3, 0); }), data::AlreadyInCollection);
+
+    table.setParentCatalog(m_catalog);
+    QCOMPARE(errorNumberOf([&] { key.Properties().Item(u"Seed"); }), data::NoSuchItem);
+    QCOMPARE(errorNumberOf([&] { set(key, u"AutoIncrement", Value(1)); }), data::WrongArguments);
+    QCOMPARE(errorNumberOf([&] { set(key, u"Default", Value(1)); }), data::WrongArguments);
+    m_catalog.Tables().Append(table);
+    QCOMPARE(errorNumberOf([&] { set(key, u"Nullable", Value(true)); }), data::MultipleStep); // too late
+    QCOMPARE(errorNumberOf([&] { table.setName(u"Other"_s); }), data::MultipleStep);
+
+    const QString missing = DataFolder::connectionStringFor(m_folder->path(u"none.mdb"_s));
+    QVERIFY(errorOf([&] { m_catalog.setActiveConnection(missing); }).contains(u"Could not find file"));
+    QCOMPARE(namesOf(table.Columns()), QStringList{u"Key"_s}); // the former connection is kept
+    m_catalog = Catalog();
+    QCOMPARE(errorNumberOf([&] { namesOf(table.Columns()); }), data::NoConnection);
+}
+
+QTEST_GUILESS_MAIN(CatalogTest)
+#include "tst_catalog.moc"
