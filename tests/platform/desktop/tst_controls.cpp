@@ -19,6 +19,7 @@
 using namespace Qt::Literals::StringLiterals;
 
 using runtime::RuntimeError;
+using runtime::Value;
 
 namespace {
 
@@ -141,6 +142,8 @@ private Q_SLOTS:
         QCOMPARE(list.ListItems.Count(), 2);
         QCOMPARE(list.ListItems(2).SubItems(1), u"b2"_s);
         QCOMPARE(list.ListItems(2).SubItems(9), QString());
+        QCOMPARE(errorOf([&list] { list.ListItems(2).setSubItem(0, Value()); }), 94);
+        QCOMPARE(errorOf([&list] { list.ListItems(2).setSubItem(0, Value(QByteArray())); }), 13);
         QCOMPARE(errorOf([&list] { list.ListItems(0); }), 35600);
         list.ColumnHeaders.Clear();
         QCOMPARE(list.columnCount(), 0);
