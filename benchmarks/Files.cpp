@@ -52,6 +52,22 @@ void fillDossier(const QString &path)
         file.execute(QByteArray(fiveHundred) + rows);
 }
 
+// Libraries under the root, each with its categories behind it. A document in four is of the large node; the nodes
+// behind it have ten each, as far as the documents go. Each document has a day and a time of its own.
+void fillLibrary(const QString &path)
+{
+    data::Database file;
+    file.open(path);
+    file.execute("INSERT INTO ObjectTbl VALUES (1, 0, 'Main Library', 'Root');"
+                 "WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE i < 1999)"
+                 "INSERT INTO ObjectTbl SELECT i + 2, iif(i % 50, i - i % 50 + 2, 1), 'Subject ' || i,"
+                 " iif(i % 50, 'Catagory', 'Library') FROM n;"
+                 "WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE i < 19999)"
+                 "INSERT INTO Resources (ObjectIndex, DocumentName, DocumentDate, DocuemntVersion, Document)"
+                 " SELECT iif(i % 4, 3 + i % 2000 * 3 / 4, 2), 'Document ' || i || '.doc',"
+                 " datetime('2001-01-01', (i * 3601) || ' seconds'), 1, randomblob(10240) FROM n;");
+}
+
 } // namespace
 
 QString folder()
@@ -97,6 +113,15 @@ QString largeDossier()
         options.attachmentBytes = 100'000;
         datafile::createGeneratedFile(path, options);
         fillDossier(path);
+    });
+}
+
+QString library()
+{
+    QDir(folder()).mkpath(u"library"_s);
+    return made(u"library/Tolmark.mdb"_s, [](const QString &path) {
+        datafile::createDataFile(path);
+        fillLibrary(path);
     });
 }
 

@@ -19,10 +19,16 @@ QString fewAttachments();
 // The largest organisation with 1 GB of attachments; its first member has 500 rows of each kind, the attachments of 500
 // names. In a folder of its own.
 QString largeDossier();
+// A document library of libraryNodes nodes under the root and 20,000 documents of 10 KB, documentsOfLargeNode of them
+// in largeNode. In a folder of its own.
+QString library();
 // An empty organisation in a file of its own for each name.
 QString empty(const QString &name);
 
 constexpr char largeGroup = 'X';
+constexpr int libraryNodes = 2000;
+constexpr int largeNode = 2;
+constexpr int documentsOfLargeNode = 5000;
 
 QString connectionString(const QString &path);
 // SQLite's SQL for a statement of the dialect: what the floors run.

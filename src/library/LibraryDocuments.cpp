@@ -56,7 +56,7 @@ void LibraryDocuments::ListDocuments()
     CLsDataBaseConnection store;
     data::Recordset documents =
         store.CreateRecordset(u"select * from [Resources] Where ObjectIndex = "_s + selectedIndex());
-    fillList(m_list, documents, u"DocumentId", documentColumns);
+    fillList(m_list, documents, {}, documentColumns);
     documents.Close();
     store.DbClose();
 }

@@ -73,10 +73,14 @@ void LibraryTree::save() const
     objects.Close();
 }
 
+// To select a node, the tree has to find out its place and the width of all that it holds: while the root is alone,
+// that takes no time.
 void LibraryTree::addRoot()
 {
-    setImages(m_tree.Nodes.Add(nullptr, rootName, rootName));
-    m_tree.Nodes(1).setExpanded(true);
+    Node &root = m_tree.Nodes.Add(nullptr, rootName, rootName);
+    setImages(root);
+    root.setExpanded(true);
+    m_tree.setCurrentItem(&root);
 }
 
 void LibraryTree::AddLoadedNode(const QString &type, int parentIndex, const QString &label)

@@ -14,8 +14,8 @@ public:
     LibraryTree(desktop::TreeView &tree, const desktop::ImageList &images) : m_tree(tree), m_images(images) {}
 
     enum class Labels { Plain, WithCounts }; // "Bylaws", "Bylaws     (3)" where there are documents
-    // Puts the root into the empty tree and the stored nodes under it. Error 35600 for a row whose parent does not
-    // stand above it.
+    // Puts the root into the empty tree and the stored nodes under it. The root is selected from the start, so that
+    // there is a node to which the menus apply. Error 35600 for a row whose parent does not stand above it.
     void load(Labels labels);
     // Appends a row for each node.
     void save() const;

@@ -91,12 +91,10 @@ void frmDocumentExp::setUpNodeMenus()
     desktop::on(catagory, &QMenu::aboutToShow, this, &frmDocumentExp::SetMenuState);
 }
 
-// The root is selected from the start, so that there is a node to which the menus apply.
 void frmDocumentExp::Form_Load()
 {
     m_library.load(adminFunction ? LibraryTree::Labels::Plain : LibraryTree::Labels::WithCounts);
     setMode();
-    m_panes.TreClassView->setCurrentItem(&m_panes.TreClassView->Nodes(1));
 }
 
 void frmDocumentExp::setMode()

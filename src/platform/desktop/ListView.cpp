@@ -2,6 +2,7 @@
 
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/Twips.h"
+#include "platform/runtime/Conversion.h"
 
 #include <QContextMenuEvent>
 #include <QDropEvent>
@@ -30,11 +31,18 @@ QString onOneLine(QString text)
 
 } // namespace
 
-void ListItem::setSubItem(int index, QString text)
+QString ListItem::SubItems(int index) const
 {
-    if (index >= m_texts.size())
-        m_texts.resize(index + 1);
-    m_texts[index] = std::move(text);
+    return size_t(index) < m_values.size() ? runtime::joinedText(m_values[size_t(index)]) : QString();
+}
+
+void ListItem::setSubItem(int index, runtime::Value value)
+{
+    if (value.isNull() || value.is<QByteArray>())
+        runtime::toText(value); // raises what it does now, not when the line is shown
+    if (size_t(index) >= m_values.size())
+        m_values.resize(size_t(index) + 1);
+    m_values[size_t(index)] = std::move(value);
     emitDataChanged();
 }
 
@@ -42,9 +50,9 @@ QVariant ListItem::data(int column, int role) const
 {
     if (!isText(role))
         return QTreeWidgetItem::data(column, role);
-    if (column >= m_texts.size() || m_texts[column].isNull())
+    const QString text = SubItems(column);
+    if (text.isNull())
         return {};
-    const QString &text = m_texts[column];
     return role == Qt::DisplayRole && text.contains(u'\n') ? onOneLine(text) : text;
 }
 
@@ -228,7 +236,7 @@ void ListView::dropEvent(QDropEvent *event)
 ListItem &ListFilling::Add()
 {
     auto *item = new ListItem();
-    item->m_texts.reserve(m_list.columnCount());
+    item->m_values.reserve(size_t(m_list.columnCount()));
     m_items.append(item);
     return *item;
 }

@@ -3,11 +3,13 @@
 
 #include "platform/desktop/Control.h"
 #include "platform/desktop/ObjectRef.h"
+#include "platform/runtime/Value.h"
 
 #include <QStringList>
 #include <QTreeWidget>
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 class QMimeData;
@@ -18,8 +20,8 @@ class ListView;
 
 // One line; owned by its list. Sub-items count from 1, as the columns behind the first do.
 //
-// It keeps its texts itself, one behind another: Qt's own item makes a list and a variant of each, and long lists have
-// tens of thousands.
+// It keeps its values itself, one behind another: Qt's own item makes a list and a variant of each, and long lists have
+// tens of thousands. A value becomes a text when that is shown or asked for, which for most lines is never.
 class ListItem : public QTreeWidgetItem
 {
 public:
@@ -27,15 +29,17 @@ public:
 
     QString Text() const { return SubItems(0); }
     void setText(const QString &text) { setSubItem(0, text); }
-    QString SubItems(int index) const { return m_texts.value(index); }
-    void setSubItem(int index, QString text);
+    QString SubItems(int index) const;
+    void setSubItem(int index, QString text) { setSubItem(index, runtime::Value(std::move(text))); }
+    // Errors 94 and 13 for what has no text: Null and bytes.
+    void setSubItem(int index, runtime::Value value);
 
     QVariant data(int column, int role) const override;
     void setData(int column, int role, const QVariant &value) override;
 
 private:
     friend class ListFilling;
-    QStringList m_texts; // by column, as far as there are any
+    std::vector<runtime::Value> m_values; // by column, as far as there are any; Null where none was set
 };
 
 // The lines, from 1.

@@ -1,6 +1,6 @@
 #include "platform/desktop/ListedColumns.h"
 
-#include "platform/runtime/Conversion.h"
+#include "platform/desktop/RowTexts.h"
 
 #include <QHeaderView>
 
@@ -22,12 +22,10 @@ void fillList(ListView &list, data::Recordset &rows, QStringView key, std::span<
     ListFilling filling(list);
     for (; !rows.Eof(); rows.MoveNext()) {
         ListItem &item = filling.Add();
-        item.Tag = runtime::joinedText(rows[key].Value());
-        for (size_t at = 0; at < columns.size(); ++at) {
-            runtime::Value value = rows[columns[at].column].Value();
-            if (!value.isNull())
-                item.setSubItem(int(at), runtime::toText(std::move(value)));
-        }
+        if (!key.isEmpty())
+            item.Tag = runtime::joinedText(rows[key].Value());
+        for (size_t at = 0; at < columns.size(); ++at)
+            putSubItem(item, int(at), rows[columns[at].column]);
     }
 }
 

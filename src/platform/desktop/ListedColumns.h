@@ -17,7 +17,8 @@ struct ListedColumn
 
 void setUpHeaders(ListView &list, std::span<const ListedColumn> columns);
 
-// Puts all rows in the place of the list's lines. A line's Tag is the row's key; a Null leaves its place empty.
+// Puts all rows in the place of the list's lines; a Null leaves its place empty. A line's Tag is the row's key, where
+// one is named.
 void fillList(ListView &list, data::Recordset &rows, QStringView key, std::span<const ListedColumn> columns);
 
 } // namespace desktop

@@ -5,6 +5,8 @@
 #include "platform/desktop/ListView.h"
 #include "platform/runtime/Conversion.h"
 
+#include <utility>
+
 namespace desktop {
 
 // Gives the control (a text box or a list) the field's text.
@@ -18,7 +20,7 @@ template <class Control> void putText(Control &control, const data::Field &field
 inline void putSubItem(ListItem &item, int index, const data::Field &field)
 {
     if (runtime::Value value = field.Value(); !value.isNull())
-        item.setSubItem(index, runtime::toText(std::move(value)));
+        item.setSubItem(index, std::move(value));
 }
 
 // An item for each row, from the current one to the last; all appear together.

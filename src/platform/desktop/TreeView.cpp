@@ -130,6 +130,8 @@ TreeView::TreeView(QWidget *parent, QAnyStringView name) : ControlOf(parent, nam
     setUniformRowHeights(true);
     setItemDelegate(new LabelDelegate(this));
     setLabelEdit(tvwManual);
+    for (const auto change : {&TreeView::expanded, &TreeView::collapsed})
+        connect(this, change, this, [this] { m_widthOfLabels = -1; });
 }
 
 ObjectRef<Node> TreeView::SelectedItem() const
@@ -221,8 +223,36 @@ void TreeView::keyReleaseEvent(QKeyEvent *event)
 // A long label is scrolled to instead of being cut off; shorter ones leave no part of their row that is beside it.
 void TreeView::resizeEvent(QResizeEvent *event)
 {
+    m_widthOfLabels = -1;
     QTreeWidget::resizeEvent(event);
     header()->setMinimumSectionSize(viewport()->width());
+}
+
+// Qt asks for the width again at each step of showing a tree, and each time measures up to a thousand labels.
+int TreeView::sizeHintForColumn(int column) const
+{
+    if (m_widthOfLabels < 0)
+        m_widthOfLabels = QTreeWidget::sizeHintForColumn(column);
+    return m_widthOfLabels;
+}
+
+void TreeView::doItemsLayout()
+{
+    m_widthOfLabels = -1;
+    QTreeWidget::doItemsLayout();
+}
+
+void TreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight, const QList<int> &roles)
+{
+    m_widthOfLabels = -1;
+    QTreeWidget::dataChanged(topLeft, bottomRight, roles);
+}
+
+// Other labels come into sight, which count in a long tree.
+void TreeView::scrollContentsBy(int dx, int dy)
+{
+    m_widthOfLabels = -1;
+    QTreeWidget::scrollContentsBy(dx, dy);
 }
 
 // The first focus selects the first node, so that the keyboard has a place to start from.

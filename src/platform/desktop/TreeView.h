@@ -102,6 +102,10 @@ protected:
     void keyReleaseEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void doItemsLayout() override;
+    void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight, const QList<int> &roles) override;
+    void scrollContentsBy(int dx, int dy) override;
+    int sizeHintForColumn(int column) const override;
     void commitData(QWidget *editor) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
@@ -110,6 +114,7 @@ private:
     class LabelDelegate;
 
     int m_pressedKey = 0;
+    mutable int m_widthOfLabels = -1;  // in pixels; has to be found out anew where it is negative
     Node *m_edited = nullptr;          // the last one that an editor was opened on
     std::optional<QString> m_newLabel; // between the end of an edit and the editor's closing
 };

@@ -8,6 +8,22 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace runtime {
 
+namespace {
+
+// The number that the digits are, -1 where there is something else among them.
+int numberOf(QStringView digits)
+{
+    int number = 0;
+    for (const QChar digit : digits) {
+        if (digit < u'0' || digit > u'9')
+            return -1;
+        number = number * 10 + (digit.unicode() - u'0');
+    }
+    return number;
+}
+
+} // namespace
+
 Date::Date(QDate day, QTime time)
 {
     if (!day.isValid() || !time.isValid())
@@ -30,16 +46,21 @@ Date Date::fromSerial(double serial)
     return date;
 }
 
+// Qt reads all the forms, but long lists have thousands of the usual one.
 std::optional<Date> Date::fromIsoText(QStringView text)
 {
-    const QDate day = QDate::fromString(text.first(qMin<qsizetype>(10, text.size())), Qt::ISODate);
+    const bool usual = text.size() == 19 && text[4] == u'-' && text[7] == u'-' && text[13] == u':' && text[16] == u':';
+    const auto part = [text](qsizetype at, qsizetype size) { return numberOf(text.sliced(at, size)); };
+    const QDate day = usual ? QDate(part(0, 4), part(5, 2), part(8, 2))
+                            : QDate::fromString(text.first(qMin<qsizetype>(10, text.size())), Qt::ISODate);
     if (!day.isValid() || day.year() < 100 || day.year() > 9999)
         return std::nullopt;
     if (text.size() == 10)
         return Date(day);
     if (text[10] != u' ' && text[10] != u'T')
         return std::nullopt;
-    const QTime time = QTime::fromString(text.sliced(11), Qt::ISODate);
+    const QTime time =
+        usual ? QTime(part(11, 2), part(14, 2), part(17, 2)) : QTime::fromString(text.sliced(11), Qt::ISODate);
     return time.isValid() ? std::optional(Date(day, time)) : std::nullopt;
 }
 

@@ -19,6 +19,7 @@
 using namespace Qt::Literals::StringLiterals;
 
 using runtime::RuntimeError;
+using runtime::Value;
 
 namespace {
 
@@ -97,6 +98,34 @@ private Q_SLOTS:
         QCOMPARE(errorOf([&tree] { tree.Nodes.Remove(4); }), 35600);
     }
 
+    void aTreeIsAsWideAsTheLabelsThatShow()
+    {
+        desktop::TreeView tree(nullptr, u"tree");
+        tree.resize(100, 200);
+        tree.show();
+        const auto width = [&tree] {
+            tree.grab(); // nothing is left to be laid out
+            return tree.columnWidth(0);
+        };
+        desktop::Node &root = tree.Nodes.Add(nullptr, {}, u"wider than the tree"_s);
+        root.setExpanded(true);
+        QTRY_VERIFY(width() > tree.viewport()->width());
+        const int widthOfRoot = width();
+        const QString longLabel(50, u'x');
+        desktop::Node &child = tree.Nodes.Add(&root, {}, longLabel);
+        QTRY_VERIFY(width() > widthOfRoot);
+        child.setText(u"x"_s);
+        QTRY_COMPARE(width(), widthOfRoot);
+        child.setText(longLabel);
+        QTRY_VERIFY(width() > widthOfRoot);
+        for (const bool expanded : {false, true}) {
+            root.setExpanded(expanded);
+            QTRY_COMPARE(width() > widthOfRoot, expanded);
+        }
+        tree.Nodes.Remove(2);
+        QTRY_COMPARE(width(), widthOfRoot);
+    }
+
     void f10GoesToTheMenuBarBesideTheKeyboardAndAltToNone()
     {
         QWidget window;
@@ -141,6 +170,8 @@ private Q_SLOTS:
         QCOMPARE(list.ListItems.Count(), 2);
         QCOMPARE(list.ListItems(2).SubItems(1), u"b2"_s);
         QCOMPARE(list.ListItems(2).SubItems(9), QString());
+        QCOMPARE(errorOf([&list] { list.ListItems(2).setSubItem(0, Value()); }), 94);
+        QCOMPARE(errorOf([&list] { list.ListItems(2).setSubItem(0, Value(QByteArray())); }), 13);
         QCOMPARE(errorOf([&list] { list.ListItems(0); }), 35600);
         list.ColumnHeaders.Clear();
         QCOMPARE(list.columnCount(), 0);
