@@ -177,7 +177,9 @@ CREATE TABLE Resources (
     DocuemntVersion INTEGER,
     Document BLOB -- the file's bytes and one zero byte
 );
-CREATE INDEX Resources_ObjectIndex ON Resources (ObjectIndex);
+-- All that a list of documents shows, in the order of their keys: it need not go to the pages where the files stand.
+CREATE INDEX Resources_ObjectIndex
+    ON Resources (ObjectIndex, DocumentId, DocumentName, DocumentDate, DocuemntVersion);
 
 CREATE TABLE ReferenceInfo (
     PersonalInformationId INTEGER,

@@ -268,6 +268,9 @@ void tst_datafile::prefixQueriesUseTheIndex_data()
     row("SELECT * FROM Attachments WHERE AttachmentsName = 'A.txt' ORDER BY AttachmentVersion DESC",
         u"Attachments_AttachmentsName"_s);
     row("SELECT DISTINCT AttachmentExtension FROM Attachments", u"COVERING INDEX Attachments_AttachmentExtension"_s);
+    row("SELECT DocumentId, ObjectIndex, DocumentName, DocumentDate, DocuemntVersion, NULL FROM Resources WHERE "
+        "ObjectIndex = 5",
+        u"SEARCH Resources USING COVERING INDEX Resources_ObjectIndex"_s);
     row("SELECT * FROM MemberInterest WHERE MemberId = 5", u"MemberInterest_MemberId"_s);
 }
 

@@ -101,8 +101,7 @@ void Cursor::finishPending()
     if (m_editMode != adEditNone)
         update();
     endSeries();
-    m_binaryColumn = -1;
-    m_binary.clear();
+    forgetBinary();
 }
 
 int Cursor::columnOf(QStringView name)
@@ -215,8 +214,7 @@ void Cursor::update()
     }
     m_changes.clear();
     endSeries();
-    m_binaryColumn = -1;
-    m_binary.clear();
+    forgetBinary();
 }
 
 void Cursor::cancelUpdate()
@@ -258,9 +256,7 @@ Value Cursor::value(int column)
         return {};
     const Place place = current();
     const Column &known = m_source.columns()[size_t(column)];
-    if (!known.isLength)
-        return place.rows->value(place.row, column, known.type);
-    return place.rows->isNull(place.row, column) ? Value() : Value(binary(column));
+    return known.isApart ? binary(column) : place.rows->value(place.row, column, known.type);
 }
 
 void Cursor::setValue(int column, const Value &value)
@@ -279,11 +275,8 @@ void Cursor::setValue(int column, const Value &value)
 qint64 Cursor::actualSize(int column)
 {
     touch(column);
-    const Column &known = m_source.columns()[size_t(column)];
-    if (m_editMode == adEditNone && known.isLength) {
-        const Place place = current();
-        return place.rows->isNull(place.row, column) ? 0 : place.rows->integer(place.row, column);
-    }
+    if (m_editMode == adEditNone && m_source.columns()[size_t(column)].isApart)
+        return m_source.binarySize(currentRowId(), column).value_or(0);
     const Value content = value(column);
     if (content.is<QByteArray>())
         return content.get<QByteArray>().size();
@@ -291,14 +284,21 @@ qint64 Cursor::actualSize(int column)
 }
 
 // The bytes of the current row's field, fetched once.
-const QByteArray &Cursor::binary(int column)
+const Value &Cursor::binary(int column)
 {
     if (m_binaryColumn != column) {
-        m_binary.clear();
-        m_binary = m_source.readBinary(currentRowId(), column);
+        forgetBinary();
+        if (std::optional<QByteArray> bytes = m_source.readBinary(currentRowId(), column))
+            m_binary = Value(*std::move(bytes));
         m_binaryColumn = column;
     }
     return m_binary;
+}
+
+void Cursor::forgetBinary()
+{
+    m_binaryColumn = -1;
+    m_binary = {};
 }
 
 void Cursor::endSeries()
@@ -344,10 +344,8 @@ Value Cursor::getChunk(int column, qint64 bytes)
     const qsizetype taken = qsizetype(std::min<qint64>(left, bytes));
     const QByteArray chunk = taken == whole.size() ? whole : whole.sliced(m_seriesPosition, taken);
     m_seriesPosition += taken;
-    if (m_seriesPosition >= whole.size() && m_editMode == adEditNone) { // the caller has them all
-        m_binaryColumn = -1;
-        m_binary.clear();
-    }
+    if (m_seriesPosition >= whole.size() && m_editMode == adEditNone) // the caller has them all
+        forgetBinary();
     return Value(chunk);
 }
 

@@ -48,7 +48,8 @@ private:
     };
     Place current();
     qint64 currentRowId();
-    const QByteArray &binary(int column);
+    const runtime::Value &binary(int column);
+    void forgetBinary();
     void endSeries();
     void touch(int column);
     void takeAdded(const RowSource::Added &added);
@@ -73,7 +74,7 @@ private:
     int m_seriesColumn = -1; // of AppendChunk or GetChunk
     qsizetype m_seriesPosition = 0;
     int m_binaryColumn = -1; // whose bytes of the current row are in m_binary
-    QByteArray m_binary;
+    runtime::Value m_binary;
 };
 
 } // namespace data

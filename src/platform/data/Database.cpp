@@ -91,14 +91,18 @@ void likeForSqlite(sqlite3_context *context, int, sqlite3_value **arguments)
     sqlite3_result_int(context, matchesLike(textOf(arguments[0]), textOf(arguments[1])) ? 1 : 0);
 }
 
-class Blob
+} // namespace
+
+class Database::Blob
 {
 public:
+    explicit Blob(sqlite3_blob *opened) : handle(opened) {}
+    Blob(const Blob &) = delete;
+    Blob &operator=(const Blob &) = delete;
     ~Blob() { sqlite3_blob_close(handle); }
-    sqlite3_blob *handle = nullptr;
-};
 
-} // namespace
+    sqlite3_blob *const handle; // none where there are no bytes to open
+};
 
 StoreError::StoreError(int extendedCode, const QString &message, const QString &path)
     : RuntimeError(providerAnswer(extendedCode, message, path).number, providerAnswer(extendedCode, message, path).text,
@@ -252,17 +256,30 @@ bool Database::isKey(const QByteArray &table, const QByteArray &column) const
     return code == SQLITE_OK && key != 0;
 }
 
-QByteArray Database::readBlob(const QByteArray &table, const QByteArray &column, qint64 rowId) const
+Database::Blob Database::openBlob(const QByteArray &table, const QByteArray &column, qint64 rowId) const
 {
-    Blob blob;
+    sqlite3_blob *handle = nullptr;
     const int code =
-        sqlite3_blob_open(m_handle.get(), "main", table.constData(), column.constData(), rowId, 0, &blob.handle);
-    if (code == SQLITE_ERROR) // Null and numbers have no bytes to open
-        return {};
-    check(code);
+        sqlite3_blob_open(m_handle.get(), "main", table.constData(), column.constData(), rowId, 0, &handle);
+    if (code != SQLITE_ERROR) // what has no bytes to open
+        check(code);
+    return Blob(handle);
+}
+
+std::optional<QByteArray> Database::readBlob(const QByteArray &table, const QByteArray &column, qint64 rowId) const
+{
+    const Blob blob = openBlob(table, column, rowId);
+    if (!blob.handle)
+        return std::nullopt;
     QByteArray bytes(sqlite3_blob_bytes(blob.handle), Qt::Uninitialized);
     check(sqlite3_blob_read(blob.handle, bytes.data(), int(bytes.size()), 0));
     return bytes;
+}
+
+std::optional<qint64> Database::blobSize(const QByteArray &table, const QByteArray &column, qint64 rowId) const
+{
+    const Blob blob = openBlob(table, column, rowId);
+    return blob.handle ? std::optional<qint64>(sqlite3_blob_bytes(blob.handle)) : std::nullopt;
 }
 
 void Database::provideLike()

@@ -62,8 +62,10 @@ public:
     std::optional<QByteArray> declaredType(const QByteArray &table, const QByteArray &column) const;
     bool hasTable(const QByteArray &table) const;
     bool isKey(const QByteArray &table, const QByteArray &column) const;
-    // The bytes of one binary value, read straight into the result; empty for a Null.
-    QByteArray readBlob(const QByteArray &table, const QByteArray &column, qint64 rowId) const;
+    // The bytes of one binary value, read straight into the result, and how many there are without reading them.
+    // Nothing for a Null, a number, and a row that is gone.
+    std::optional<QByteArray> readBlob(const QByteArray &table, const QByteArray &column, qint64 rowId) const;
+    std::optional<qint64> blobSize(const QByteArray &table, const QByteArray &column, qint64 rowId) const;
     // Provides the SQL function store_like(PATTERN, VALUE) of Collation.h.
     void provideLike();
 
@@ -75,6 +77,8 @@ private:
     void openWith(const QString &path, int flags);
     [[noreturn]] void fail(int code) const;
     void check(int code) const;
+    class Blob;
+    Blob openBlob(const QByteArray &table, const QByteArray &column, qint64 rowId) const;
 
     std::unique_ptr<sqlite3, Close> m_handle;
     Statement m_schemaReader; // goes before the handle

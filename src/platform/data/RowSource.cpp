@@ -68,8 +68,8 @@ void RowSource::describe(const Statement &statement)
     m_isUpdatable = m_translation->carriesRowId && std::none_of(m_columns.cbegin(), m_columns.cend(),
                                                                 [](const Column &c) { return c.origin.isEmpty(); });
     for (Column &column : m_columns) {
-        column.isLength = m_isUpdatable && column.type == ColumnType::Binary;
-        m_hasBinary = m_hasBinary || column.isLength;
+        column.isApart = m_isUpdatable && column.type == ColumnType::Binary;
+        m_hasBinary = m_hasBinary || column.isApart;
     }
 }
 
@@ -119,20 +119,18 @@ int RowSource::describedColumnOf(QStringView name)
     return column;
 }
 
-QByteArray RowSource::listOfOrigins(bool withBinaries)
+QByteArray RowSource::listOfOrigins() const
 {
     QByteArray list;
-    for (const Column &column : m_columns) {
-        const QByteArray name = quoted(column.origin);
-        list += column.isLength && !withBinaries ? "length(" + name + ")," : name + ',';
-    }
+    for (const Column &column : m_columns)
+        list += column.isApart ? "NULL," : quoted(column.origin) + ',';
     return list + "_rowid_";
 }
 
 QByteArray RowSource::readingSql()
 {
     QByteArray sql = m_translation->sql;
-    return sql.replace(m_translation->listBegin, m_translation->listLength, listOfOrigins(false));
+    return sql.replace(m_translation->listBegin, m_translation->listLength, listOfOrigins());
 }
 
 RowStore RowSource::readAll()
@@ -169,7 +167,7 @@ qint32 RowSource::count()
 bool RowSource::readRow(qint64 rowId, RowStore &rows, std::optional<qsizetype> inPlaceOf)
 {
     describeColumns();
-    Statement statement = database().prepare("SELECT " + listOfOrigins(false) + " FROM " +
+    Statement statement = database().prepare("SELECT " + listOfOrigins() + " FROM " +
                                              quoted(m_translation->table.toUtf8()) + " WHERE _rowid_=?1");
     statement.bind(1, rowId);
     if (!statement.step())
@@ -181,9 +179,14 @@ bool RowSource::readRow(qint64 rowId, RowStore &rows, std::optional<qsizetype> i
     return true;
 }
 
-QByteArray RowSource::readBinary(qint64 rowId, int column)
+std::optional<QByteArray> RowSource::readBinary(qint64 rowId, int column)
 {
     return database().readBlob(m_translation->table.toUtf8(), m_columns[size_t(column)].origin, rowId);
+}
+
+std::optional<qint64> RowSource::binarySize(qint64 rowId, int column)
+{
+    return database().blobSize(m_translation->table.toUtf8(), m_columns[size_t(column)].origin, rowId);
 }
 
 void RowSource::requireChange() const

@@ -1,7 +1,8 @@
 // A translated SELECT over an open file: what columns it has, how its rows are read, counted, changed and found again.
 //
 // The statement is prepared when the source is made, which checks its text, and run only when rows are asked for. The
-// content of a binary column is never part of a row: the row holds its length in bytes, and readBinary() fetches it.
+// content of a binary column is never part of a row, nor is its length, so that rows that an index holds are read from
+// there alone: readBinary() and binarySize() look for it.
 #pragma once
 
 #include "platform/data/ColumnType.h"
@@ -21,8 +22,8 @@ struct Column
 {
     QString name;
     ColumnType type = ColumnType::Unknown;
-    QByteArray origin;     // its name in the table; empty for an expression
-    bool isLength = false; // the row holds the length of the bytes in its place
+    QByteArray origin;    // its name in the table; empty for an expression
+    bool isApart = false; // binary: the rows hold a Null in its place
 };
 
 class RowSource
@@ -43,7 +44,9 @@ public:
     qint32 count();
     // Reads the row of the table anew behind the rows of the store or in the place of one; false when it is gone.
     bool readRow(qint64 rowId, RowStore &rows, std::optional<qsizetype> inPlaceOf = {});
-    QByteArray readBinary(qint64 rowId, int column);
+    // Nothing for a Null.
+    std::optional<QByteArray> readBinary(qint64 rowId, int column);
+    std::optional<qint64> binarySize(qint64 rowId, int column);
 
     // The values of the columns to write; those without one keep what they have, or take their default.
     using Changes = std::vector<std::optional<runtime::Value>>;
@@ -64,9 +67,9 @@ private:
     void describe(const Statement &statement);
     int describedColumnOf(QStringView name);
     void requireChange() const;
-    // The statement with the length of each binary column in its place; the statement itself where it has none.
+    // The statement with a Null in the place of each binary column; the statement itself where it has none.
     QByteArray readingSql();
-    QByteArray listOfOrigins(bool withBinaries);
+    QByteArray listOfOrigins() const;
 
     std::weak_ptr<Database> m_database;
     std::shared_ptr<const sql::Translation> m_translation;

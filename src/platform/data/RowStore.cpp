@@ -53,11 +53,6 @@ void RowStore::replace(qsizetype row, const Statement &statement, bool carriesRo
         m_rowIds[size_t(row)] = statement.integer(m_columnCount);
 }
 
-bool RowStore::isNull(qsizetype row, int column) const
-{
-    return cell(row, column).storage == Statement::Storage::Null;
-}
-
 Value RowStore::numberValue(const Cell &cell, ColumnType type) const
 {
     const bool whole = cell.storage == Statement::Storage::Integer;

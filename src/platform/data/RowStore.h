@@ -27,10 +27,7 @@ public:
     void replace(qsizetype row, const Statement &statement, bool carriesRowId);
     qint64 rowId(qsizetype row) const { return m_rowIds[size_t(row)]; }
 
-    bool isNull(qsizetype row, int column) const;
     runtime::Value value(qsizetype row, int column, ColumnType type) const;
-    // A whole number as it was delivered.
-    qint64 integer(qsizetype row, int column) const { return cell(row, column).integer; }
 
 private:
     using Cell = Statement::Content;
