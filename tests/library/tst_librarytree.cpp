@@ -68,23 +68,17 @@ private Q_SLOTS:
                               u"4 Catagory 3 under 2"_s, u"5 Library 4 under 2"_s}));
         QVERIFY(library.tree().Nodes(2).isExpanded());
         QCOMPARE(m_folder->row("SELECT count(*) FROM ObjectTbl"), u"0"_s); // nothing is written before it is saved
-    }
 
-    void aNumberThatIsTakenEndsTheProgram()
-    {
-        m_folder->execute("DELETE FROM ObjectTbl");
-        OpenLibrary library;
-        library.choose("mnuAddlib");
-        library.choose("mnuAddlib");
-        library.select(2);
+        // After a removal the number can be taken, within its type.
+        library.select(3);
         BoxAnswers boxes({QMessageBox::Yes});
-        library.choose("mnuRemoveLib");
+        library.choose("mnuRemoveCat");
         library.select(1);
         library.choose("mnuAddlib");
         QCOMPARE(m_errors->takeNumber(), 35602);
-        library.choose("mnuAddCat"); // another type has other keys
-        QCOMPARE(library.nodes(),
-                 (QStringList{u"1 Main Library under 0"_s, u"2 Library 2 under 1"_s, u"3 Catagory 2 under 1"_s}));
+        library.choose("mnuAddCat");
+        QCOMPARE(library.nodes().mid(2),
+                 (QStringList{u"3 Catagory 3 under 2"_s, u"4 Library 4 under 2"_s, u"5 Catagory 4 under 1"_s}));
     }
 
     // A second save leaves two sets of rows, and the next load finds each node twice, nested by the shifted places.
@@ -130,10 +124,6 @@ private Q_SLOTS:
         library.select(3);
         BoxAnswers boxes({QMessageBox::Yes});
         library.choose("MnuDeleteNode");
-        QCOMPARE(boxes.seen[0].text, u"You are about to delete the Catagory Bylaws\nDo you wish to continue"_s);
-        QCOMPARE(boxes.seen[0].title, u"Tolmark Lite"_s);
-        QCOMPARE(boxes.seen[0].icon, QMessageBox::NoIcon);
-        QCOMPARE(boxes.seen[0].buttons, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
         library.press(3);
         QCOMPARE(library.documents().size(), 2); // those of "Bylaws"
         QCOMPARE(library.tree().SelectedItem()->Text(), u"Main Library"_s);
@@ -162,10 +152,17 @@ private Q_SLOTS:
         BoxAnswers boxes(plan);
         library.choose("mnuRemoveCat");
         QCOMPARE(library.tree().Nodes.Count(), left);
-        if (plan.size() > 1) {
-            QCOMPARE(boxes.seen[1].text, u"Warning deleting this Library will delete all object listed under it\n"
-                                         "Do you wish to continue"_s);
-            QCOMPARE(boxes.seen[1].buttons, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+        const QStringList questions{
+            node == 2 ? u"You are about to delete the Library Office"_s
+                      : u"You are about to delete the Catagory Bylaws"_s,
+            u"Warning deleting this Library will delete all object listed under it"_s,
+        };
+        QCOMPARE(boxes.seen.size(), plan.size());
+        for (qsizetype at = 0; at < plan.size(); ++at) {
+            QCOMPARE(boxes.seen[at].text, questions[at] + u"\nDo you wish to continue"_s);
+            QCOMPARE(boxes.seen[at].title, u"Tolmark Lite"_s);
+            QCOMPARE(boxes.seen[at].icon, QMessageBox::NoIcon);
+            QCOMPARE(boxes.seen[at].buttons, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
         }
     }
 
@@ -176,7 +173,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("label");
         QTest::newRow("another") << 2 << u"Archive"_s << u"Archive"_s;
         QTest::newRow("blanks") << 2 << u" "_s << u" "_s;
-        QTest::newRow("an apostrophe") << 3 << u"Chair's"_s << u"Chair's"_s;
         QTest::newRow("the root keeps its own") << 1 << u"Archive"_s << u"Main Library"_s;
         QTest::newRow("and so does its namesake") << 4 << u"Archive"_s << u"Main Library"_s;
     }
@@ -200,7 +196,6 @@ private Q_SLOTS:
         library.rename({});
         QTRY_COMPARE(boxes.seen.size(), 1);
         QCOMPARE(boxes.seen[0].text, u"Invalid Name"_s);
-        QCOMPARE(boxes.seen[0].title, u"Tolmark Lite"_s);
         QCOMPARE(boxes.seen[0].icon, QMessageBox::NoIcon);
         QTRY_VERIFY(library.editor() && library.editor()->text() == u"Office");
         QTest::keyClicks(library.editor(), u"Desk"_s); // over the old label, which is selected
@@ -247,37 +242,32 @@ private Q_SLOTS:
         QTRY_COMPARE(manager.tree().Nodes(2).Text(), u"left"_s);
     }
 
-    void menusFollowTheSelectedNode_data()
-    {
-        QTest::addColumn<int>("node");
-        QTest::addColumn<bool>("library");
-        QTest::addColumn<bool>("catagory");
-        QTest::addColumn<bool>("changes");
-        QTest::newRow("root") << 1 << true << true << false;
-        QTest::newRow("library") << 2 << true << false << true;
-        QTest::newRow("catagory") << 3 << false << true << true;
-        QTest::newRow("the root's label") << 4 << true << true << false;
-    }
     void menusFollowTheSelectedNode()
     {
-        QFETCH(int, node);
-        QFETCH(bool, library);
-        QFETCH(bool, catagory);
-        QFETCH(bool, changes);
+        struct Enabled
+        {
+            bool library, catagory, changes;
+        };
         OpenLibrary window;
-        window.press(node == 3 ? 2 : 3);
-        window.press(node);
-        QCOMPARE(window.isEnabled("MnuLibrary"), library);
-        QCOMPARE(window.isEnabled("mnuCat"), catagory);
-        Q_EMIT child<QMenu>(window.window(), "mnuCat.menu")->aboutToShow();
-        for (const char *name : {"mnuRemoveLib", "mnuRenameLib", "mnuRemoveCat", "mnuRenameCat"})
-            QCOMPARE(window.isEnabled(name), changes);
-        window.press(node, Qt::RightButton);
         auto *popup = child<QMenu>(window.window(), "MnuLibraryOption.menu");
-        QTRY_VERIFY(popup->isVisible());
-        for (const char *name : {"MnuDeleteNode", "MnuRenameNode"})
-            QCOMPARE(window.isEnabled(name), changes);
-        popup->hide();
+        // The last node bears the root's label. Each has another kind before it, so that the menus have to change.
+        for (const auto &[node, expected] : {std::pair(3, Enabled{false, true, true}),
+                                             {1, {true, true, false}},
+                                             {2, {true, false, true}},
+                                             {3, {false, true, true}},
+                                             {4, {true, true, false}}}) {
+            window.press(node);
+            QCOMPARE(window.isEnabled("MnuLibrary"), expected.library);
+            QCOMPARE(window.isEnabled("mnuCat"), expected.catagory);
+            Q_EMIT child<QMenu>(window.window(), "mnuCat.menu")->aboutToShow();
+            for (const char *name : {"mnuRemoveLib", "mnuRenameLib", "mnuRemoveCat", "mnuRenameCat"})
+                QCOMPARE(window.isEnabled(name), expected.changes);
+            window.press(node, Qt::RightButton);
+            QTRY_VERIFY(popup->isVisible());
+            for (const char *name : {"MnuDeleteNode", "MnuRenameNode"})
+                QCOMPARE(window.isEnabled(name), expected.changes);
+            popup->hide();
+        }
     }
 
     // The right button selects nothing: the menu is for the node that was selected before.
@@ -301,21 +291,15 @@ private Q_SLOTS:
         QVERIFY(!child<QMenu>(browser.window(), "MnuLibraryOption.menu")->isVisible());
     }
 
-    void whatCannotBeLoadedGoesToTheOpener_data()
-    {
-        QTest::addColumn<QByteArray>("change");
-        QTest::addColumn<int>("error");
-        QTest::newRow("no parent above") << QByteArray("UPDATE ObjectTbl SET ObjectParentIndex = 9") << 35600;
-        QTest::newRow("a parent of Null") << QByteArray("UPDATE ObjectTbl SET ObjectParentIndex = NULL") << 94;
-        QTest::newRow("no table") << QByteArray("DROP TABLE ObjectTbl") << -2147217865;
-    }
     void whatCannotBeLoadedGoesToTheOpener()
     {
-        QFETCH(QByteArray, change);
-        QFETCH(int, error);
-        m_folder->execute(change);
-        desktop::guarded([] { OpenLibrary library; });
-        QCOMPARE(m_errors->takeNumber(), error);
+        for (const auto &[change, error] : {std::pair("UPDATE ObjectTbl SET ObjectParentIndex = 9", 35600),
+                                            {"UPDATE ObjectTbl SET ObjectParentIndex = NULL", 94},
+                                            {"DROP TABLE ObjectTbl", -2147217865}}) {
+            m_folder->execute(change);
+            desktop::guarded([] { OpenLibrary library; });
+            QCOMPARE(m_errors->takeNumber(), error);
+        }
     }
 
     void panesAndHeadlinesFollowTheWindow()
