@@ -2,9 +2,9 @@
 //
 // Static: it shows the rows as they were when first read, and its own changes. A binary field is looked up when its
 // Value, its size or a chunk is asked for, as it stands then; so opening a table in order to append costs the same
-// whatever it holds. One that a DataFactory made keeps its rows itself. Errors: 3704 when it or its connection is closed,
-// 3021 without a current record, 3251 on rows of several tables, of groups or with computed columns, 3265 for an unknown
-// field. A failing Update keeps what was pending.
+// whatever it holds. One that a DataFactory made keeps its rows itself. Errors: 3704 when it or its connection is
+// closed, 3021 without a current record, 3251 on rows of several tables, of groups or with computed columns, 3265 for
+// an unknown field. A failing Update keeps what was pending.
 #pragma once
 
 #include "platform/data/Connection.h"
