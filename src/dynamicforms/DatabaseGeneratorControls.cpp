@@ -15,7 +15,7 @@ constexpr double windowHeight = 14025;
 constexpr double canvasWidth = 10335;
 constexpr double canvasHeight = 7095;
 constexpr int listedLines = 6;
-constexpr int margin = 6;      // pixels
+constexpr int margin = 6; // pixels
 
 } // namespace
 
