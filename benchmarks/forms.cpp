@@ -1,0 +1,266 @@
+// Forms at run time: the designer's canvas, the tables that it makes and the pages of the record window, beside bare Qt
+// and SQLite's own statements.
+#include "benchmarks/Files.h"
+#include "benchmarks/RawStore.h"
+#include "datafile/Schema.h"
+#include "dynamicforms/DatabaseGenerator.h"
+#include "dynamicforms/DisplayInformation.h"
+#include "dynamicforms/TableGeneration.h"
+#include "platform/desktop/Twips.h"
+#include "platform/runtime/Application.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int fieldsOfPage = 200;
+constexpr int tables = 50;
+constexpr int fieldsOfTable = 40;
+constexpr int densest = 50; // twips between the points of a grid
+
+// Three pages of the designer's: two of 200 fields, for each of which the first person has a value, and an empty one.
+QString forms()
+{
+    QDir(files::folder()).mkpath(u"forms"_s);
+    const QString path = files::folder() + u"/forms/Tolmark.mdb"_s;
+    if (QFile::exists(path))
+        return path;
+    datafile::createDataFile(path);
+    data::Database file;
+    file.open(path);
+    file.execute(
+        "DELETE FROM FieldInfo; DELETE FROM TabInfo; INSERT INTO TabInfo (TabId, TabNam, TabDescription) VALUES"
+        " (1, 'Page 1', ''), (2, 'Page 2', ''), (3, 'Blank', '')");
+    for (const QByteArray page : {"1", "2"}) {
+        QByteArray columns;
+        QByteArray values;
+        for (int field = 1; field <= fieldsOfPage; ++field) {
+            const QByteArray number = QByteArray::number(field);
+            const QByteArray top = QByteArray::number(field % 25 * 360);
+            columns += ", \"Field " + number + "\" TEXT";
+            values += ", 'value " + number + '\'';
+            file.execute("INSERT INTO FieldInfo (TabId, FieldName, FieldDescription, FieldDisplayOrder, labelLeft, "
+                         "labelTop, fieldLeft, fieldTop, fieldWidth) VALUES (" +
+                         page + ", 'Field " + number + "', '', " + number + ", 300, " + top + ", 3000, " + top +
+                         ", 2850)");
+        }
+        file.execute("CREATE TABLE \"Page " + page + "\" (Id INTEGER PRIMARY KEY, PersonalInformationId INTEGER" +
+                     columns + "); INSERT INTO \"Page " + page + "\" VALUES (1, 1" + values + ')');
+    }
+    return path;
+}
+
+// A new empty file where the last one was.
+QString newEmpty()
+{
+    QDir(files::folder()).mkpath(u"generation"_s);
+    const QString path = files::folder() + u"/generation/Tolmark.mdb"_s;
+    QFile::remove(path);
+    QFile::copy(files::empty(u"nothing.mdb"_s), path);
+    return path;
+}
+
+// The point x, y of the canvas for every crossing of the densest grid.
+QList<QPointF> gridPoints(const desktop::PictureBox &canvas)
+{
+    QList<QPointF> points;
+    for (int y = densest; y < int(canvas.Height()); y += densest) {
+        for (int x = densest; x < int(canvas.Width()); x += densest)
+            points << QPointF(x / desktop::twipsPerPixel, y / desktop::twipsPerPixel);
+    }
+    return points;
+}
+
+class Dotted : public QFrame
+{
+public:
+    QList<QPointF> points;
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        QFrame::paintEvent(event);
+        QPainter(this).drawPoints(points.constData(), int(points.size()));
+    }
+};
+
+void gridOurs(benchmark::State &state)
+{
+    DatabaseGenerator designer;
+    designer.Show();
+    designer.txtGridSize->setSelected(0);
+    designer.TabStrip1->setSelectedItem(3); // a page without fields
+    for ([[maybe_unused]] auto _ : state)
+        designer.Picture1->grab();
+}
+BENCHMARK(gridOurs)->Name("grid/ours")->Unit(benchmark::kMillisecond);
+
+void gridFloor(benchmark::State &state)
+{
+    DatabaseGenerator designer;
+    Dotted canvas;
+    canvas.points = gridPoints(*designer.Picture1);
+    canvas.resize(designer.Picture1->size());
+    canvas.show();
+    for ([[maybe_unused]] auto _ : state)
+        canvas.grab();
+    if (canvas.points.size() < 28'000)
+        state.SkipWithError("too few points");
+}
+BENCHMARK(gridFloor)->Name("grid/floor")->Unit(benchmark::kMillisecond);
+
+// Between two pages of the same fields, one by one.
+void designerPage(benchmark::State &state)
+{
+    DatabaseGenerator designer;
+    designer.Show();
+    designer.chkGrid->setChecked(false);
+    int tab = 1;
+    for ([[maybe_unused]] auto _ : state) {
+        tab = 3 - tab;
+        designer.TabStrip1->setSelectedItem(tab);
+        designer.Picture1->grab();
+    }
+    if (!designer.Picture1->findChild<QLineEdit *>(u"Text1(%1)"_s.arg(fieldsOfPage)))
+        state.SkipWithError("a field is missing");
+}
+BENCHMARK(designerPage)->Name("designer_page/ours")->Unit(benchmark::kMillisecond);
+
+void recordPage(benchmark::State &state)
+{
+    DisplayInformation record;
+    record.RecordId = 1;
+    record.Show();
+    int tab = 1;
+    for ([[maybe_unused]] auto _ : state) {
+        tab = 3 - tab;
+        record.TabStrip1->setSelectedItem(tab);
+        record.Frame1->grab();
+    }
+    if (record.Frame1->findChild<QLineEdit *>(u"Text1(%1)"_s.arg(fieldsOfPage))->text() != u"value 200")
+        state.SkipWithError("a value is missing");
+}
+BENCHMARK(recordPage)->Name("record_page/ours")->Unit(benchmark::kMillisecond);
+
+void recordOpening(benchmark::State &state)
+{
+    for ([[maybe_unused]] auto _ : state) {
+        DisplayInformation record;
+        record.RecordId = 1;
+        record.Show();
+        record.Frame1->grab();
+    }
+}
+BENCHMARK(recordOpening)->Name("record_open/ours")->Unit(benchmark::kMillisecond);
+
+// 400 widgets, shown and painted, and the row whose values the boxes have.
+void pageFloor(benchmark::State &state)
+{
+    const QByteArray path = forms().toUtf8();
+    QWidget window;
+    window.resize(900, 600);
+    window.show();
+    for ([[maybe_unused]] auto _ : state) {
+        QWidget page(&window);
+        page.resize(window.size());
+        const raw::File file(path);
+        const raw::Statement row(file, "SELECT * FROM \"Page 1\" WHERE PersonalInformationId = 1");
+        row.step();
+        for (int field = 1; field <= fieldsOfPage; ++field) {
+            const int y = field % 25 * 24;
+            auto *label = new QLabel(u"Field %1"_s.arg(field), &page);
+            label->setGeometry(20, y, 160, 22);
+            auto *box = new QLineEdit(row.text(2 + field), &page);
+            box->setGeometry(200, y, 190, 22);
+        }
+        page.show();
+        page.grab();
+    }
+}
+BENCHMARK(pageFloor)->Name("page/floor")->Unit(benchmark::kMillisecond);
+
+QString tableName(int table)
+{
+    return u"Table %1"_s.arg(table);
+}
+
+// Runs make on a new empty file each time and counts only that.
+template <class Make> void measureOnNewFile(benchmark::State &state, Make make)
+{
+    using Clock = std::chrono::steady_clock;
+    for ([[maybe_unused]] auto _ : state) {
+        const QString path = newEmpty();
+        runtime::App::setPath(QFileInfo(path).path());
+        const auto began = Clock::now();
+        make(path);
+        state.SetIterationTime(std::chrono::duration<double>(Clock::now() - began).count());
+        const raw::File file(path.toUtf8());
+        const raw::Statement count(file, "SELECT count(*) FROM pragma_table_info('Table 50')");
+        count.step();
+        if (sqlite3_column_int(count.get(), 0) != fieldsOfTable + 3)
+            state.SkipWithError("other than 43 columns");
+    }
+    runtime::App::setPath(QFileInfo(forms()).path());
+}
+
+void generateOurs(benchmark::State &state)
+{
+    QStringList captions;
+    FieldRows rows;
+    rows.RowCounter = 1;
+    for (int table = 1; table <= tables; ++table) {
+        captions << tableName(table);
+        for (int field = 1; field <= fieldsOfTable; ++field) {
+            FieldRow row;
+            row.RowTabNam = tableName(table);
+            row.RowFieldName = u"Field %1"_s.arg(field);
+            rows.store(row);
+        }
+    }
+    measureOnNewFile(state, [&](const QString &) { generateTables(captions, rows); });
+}
+BENCHMARK(generateOurs)->Name("generate/ours")->UseManualTime()->Unit(benchmark::kMillisecond);
+
+void generateFloor(benchmark::State &state)
+{
+    measureOnNewFile(state, [](const QString &path) {
+        const raw::File file(path.toUtf8());
+        for (int table = 1; table <= tables; ++table) {
+            QString sql = u"CREATE TABLE \"%1\" (\"Table%2Id\" INTEGER PRIMARY KEY AUTOINCREMENT, "
+                          "\"PersonalInformationId\" INTEGER NOT NULL, \"Table%2Date\" DATETIME NOT NULL DEFAULT "
+                          "(strftime('%Y-%m-%d 00:00:00', 'now', 'localtime'))"_s.arg(tableName(table))
+                              .arg(table);
+            for (int field = 1; field <= fieldsOfTable; ++field)
+                sql += u", \"Field %1\" TEXT COLLATE NOCASE"_s.arg(field);
+            const raw::Statement statement(file, sql.toUtf8() + ')');
+            statement.step();
+        }
+    });
+}
+BENCHMARK(generateFloor)->Name("generate/floor")->UseManualTime()->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    desktop::setErrorReport([](const runtime::RuntimeError &error) {
+        std::fprintf(stderr, "%s\n", error.description().toLocal8Bit().constData());
+        std::abort();
+    });
+    runtime::App::setPath(QFileInfo(forms()).path());
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+}
