@@ -41,8 +41,6 @@ constexpr std::array texts{
     ErrorText{360, "Object already loaded"},
     ErrorText{362, "Can't unload controls created at design time"},
     ErrorText{341, "Invalid control array index"},
-    ErrorText{360, "Object already loaded"},
-    ErrorText{362, "Can't unload controls created at design time"},
     ErrorText{380, "Invalid property value"},
     ErrorText{424, "Object required"},
     ErrorText{438, "Object doesn't support this property or method"},
