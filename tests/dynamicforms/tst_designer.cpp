@@ -265,6 +265,8 @@ private Q_SLOTS:
                                                             u"Home|Street|Road|7|300.0|300.0|3000.0|300.0|2400.0"_s}));
         QCOMPARE(m_folder->rows(storedPages), (QStringList{u"Work|At work"_s, u"Home|At home"_s}));
         QCOMPARE(m_folder->row("SELECT count(*) FROM FieldInfo WHERE FieldEdit = 0"), u"14"_s);
+        OpenDesigner again;
+        QCOMPARE(again.fields().size(), 3); // though they have no order
     }
 
     void pagesOfOneCaptionShareTheirFields()
