@@ -15,6 +15,20 @@ std::shared_ptr<Database> opened(const std::weak_ptr<Database> &catalog)
     return file;
 }
 
+// The connection of the catalog that was last connected by this string, while it is open; else a new one.
+std::shared_ptr<Connection> sharedConnection(const QString &connectionString)
+{
+    static QString lastString;
+    static std::weak_ptr<Connection> last;
+    if (auto open = last.lock(); open && connectionString == lastString)
+        return open;
+    auto connection = std::make_shared<Connection>();
+    connection->Open(connectionString);
+    lastString = connectionString;
+    last = connection;
+    return connection;
+}
+
 } // namespace
 
 std::vector<Table>::const_iterator Tables::begin()
@@ -38,9 +52,13 @@ void Tables::Append(const Table &table) const
 
 void Catalog::setActiveConnection(const QString &connectionString)
 {
-    Connection connection;
-    connection.Open(connectionString);
-    m_connection = std::move(connection);
+    m_connection = sharedConnection(connectionString);
+}
+
+const std::shared_ptr<Database> &Catalog::database() const
+{
+    static const std::shared_ptr<Database> none;
+    return m_connection ? m_connection->database() : none;
 }
 
 Tables Catalog::Tables() const

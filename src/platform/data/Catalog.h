@@ -1,7 +1,8 @@
 // The tables of a data file as they are defined: enumerates them with their columns, and adds new ones.
 //
-// A catalog owns a connection of its own, which opens when its string is set and closes with the catalog; tables and
-// columns that came from it outlive it only as names. Other connections see what it adds as soon as it is added.
+// A catalog's connection opens when its string is set and closes with it; catalogs of one string share it, since each
+// new one would have to read all definitions of the file. Tables and columns outlive the connection only as names.
+// Other connections see what a catalog adds as soon as it is added.
 #pragma once
 
 #include "platform/data/Connection.h"
@@ -40,10 +41,10 @@ public:
     data::Tables Tables() const;
 
     // For the objects of data definition.
-    const std::shared_ptr<Database> &database() const { return m_connection.database(); }
+    const std::shared_ptr<Database> &database() const;
 
 private:
-    Connection m_connection;
+    std::shared_ptr<Connection> m_connection;
 };
 
 } // namespace data

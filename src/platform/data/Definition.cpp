@@ -5,6 +5,7 @@
 #include "platform/data/ProviderError.h"
 #include "platform/data/sql/SqlText.h"
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -124,7 +125,8 @@ bool isTaken(const Database &file, const QString &name)
 
 bool isSameName(const QString &a, const QString &b)
 {
-    return QByteArrayView(a.toUtf8()).compare(b.toUtf8(), Qt::CaseInsensitive) == 0; // of ASCII letters alone
+    const auto folded = [](QChar c) { return c >= u'A' && c <= u'Z' ? QChar(c.unicode() | 0x20) : c; };
+    return std::ranges::equal(a, b, {}, folded, folded); // as SQLite compares them: ASCII letters alone
 }
 
 runtime::RuntimeError refusedProperty()
