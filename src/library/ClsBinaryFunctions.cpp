@@ -11,6 +11,8 @@
 #include "shell/CLsDataBaseConnection.h"
 #include "shell/DataStore.h"
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 using runtime::Value;
 
@@ -156,15 +158,16 @@ void ClsBinaryFunctions::ScanAnyCase()
 }
 
 // An attempt begins with the byte behind the last one that was taken: the one that ended a failed attempt is gone. None
-// begins where the pattern would reach the file's last byte. While it runs the places stand in locals: to write them
-// down for every byte would cost more than to read it.
+// begins where the pattern would reach the file's last byte. Nearly all attempts end with their first byte, so these
+// are passed over at once, but for the very last.
 void ClsBinaryFunctions::scan(const runtime::CodePage &characters)
 {
     const QByteArrayView file = runtime::openFile(FileHandle).bytes();
     const auto *const pattern = Pattern.utf16();
     const qint64 length = PatternLength;
     const qint64 end = qMin<qint64>(FileLength, file.size()) - length;
-    const char16_t first = pattern[0]; // a zero where the pattern is empty
+    std::array<bool, 256> isFirst{}; // by byte
+    std::ranges::transform(characters, isFirst.begin(), [=](char16_t c) { return length > 0 && c == pattern[0]; });
     qint64 position = ReadPosition;
     qint64 index = 0;
     const auto nextCharacter = [&] { return OneChar = characters[uchar(file[position++])]; };
@@ -172,7 +175,9 @@ void ClsBinaryFunctions::scan(const runtime::CodePage &characters)
     while (Found == 0 && position < end) {
         index = 1;
         if (length > 0) {
-            if (nextCharacter() != first) // where most attempts end
+            while (position < end - 1 && !isFirst[uchar(file[position])])
+                ++position;
+            if (nextCharacter() != pattern[0])
                 continue;
             // From its place on, a character is found first at that place exactly when it stands there.
             while (++index <= length && nextCharacter() == pattern[index - 1]) {
