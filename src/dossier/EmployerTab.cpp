@@ -1,31 +1,27 @@
 #include "dossier/EmployerTab.h"
 
-#include "dossier/StatesList.h"
 #include "platform/desktop/ErrorReport.h"
-#include "platform/desktop/FieldGrid.h"
 #include "platform/desktop/MsgBox.h"
-#include "platform/desktop/RowTexts.h"
 #include "shell/CLsDataBaseConnection.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 EmployerTab::EmployerTab(QWidget *parent, Dossier &dossier)
-    : Frame(parent, u"Frame2", u"Employer Information"_s), m_dossier(dossier)
+    : Frame(parent, u"Frame2", u"Employer Information"_s), m_dossier(dossier), m_boxes(this)
 {
-    desktop::FieldGrid grid(this);
-    txtEmployerName = grid.addText(u"txtEmployerName", u"Employer Name"_s);
-    txtEmployerAddressOne = grid.addText(u"txtEmployerAddressOne", u"Address One"_s);
-    txtEmployerAddressTwo = grid.addText(u"txtEmployerAddressTwo", u"Address Two"_s);
-    txtEmployerCity = grid.addText(u"txtEmployerCity", u"City"_s);
-    LstEmployerState = grid.addOneLineList(u"LstEmployerState", u"State"_s, statesList());
-    txtEmployerZip = grid.addText(u"txtEmployerZip", u"Zip"_s);
-    txtEmployerPhoneNumber = grid.addText(u"txtEmployerPhoneNumber", u"Phone Number"_s);
-    txtEmployerExtension = grid.addText(u"txtEmployerExtension", u"Extension"_s);
-    txtEmail = grid.addText(u"txtEmail", u"EMail Address"_s);
-    txtWebAddress = grid.addText(u"txtWebAddress", u"Web Address"_s);
+    txtEmployerName = m_boxes.addText(u"txtEmployerName", u"Employer Name"_s, u"Name"_s);
+    txtEmployerAddressOne = m_boxes.addText(u"txtEmployerAddressOne", u"Address One"_s, u"AddressOne"_s);
+    txtEmployerAddressTwo = m_boxes.addText(u"txtEmployerAddressTwo", u"Address Two"_s, u"AddressTwo"_s);
+    txtEmployerCity = m_boxes.addText(u"txtEmployerCity", u"City"_s, u"City"_s);
+    LstEmployerState = m_boxes.addStates(u"LstEmployerState", u"State"_s);
+    txtEmployerZip = m_boxes.addText(u"txtEmployerZip", u"Zip"_s, u"Zip"_s);
+    txtEmployerPhoneNumber = m_boxes.addText(u"txtEmployerPhoneNumber", u"Phone Number"_s, u"PhoneNumber"_s);
+    txtEmployerExtension = m_boxes.addText(u"txtEmployerExtension", u"Extension"_s, u"Extension"_s);
+    txtEmail = m_boxes.addText(u"txtEmail", u"EMail Address"_s, u"EMailAddress"_s);
+    txtWebAddress = m_boxes.addText(u"txtWebAddress", u"Web Address"_s, u"WebAddress"_s);
     butEditEmployer = new desktop::CommandButton(this, u"butEditEmployer", u"Update"_s);
     butEmployerClose = new desktop::CommandButton(this, u"butEmployerClose", u"Close"_s);
-    grid.addButtons({butEditEmployer, butEmployerClose});
+    m_boxes.addButtons({butEditEmployer, butEmployerClose});
     desktop::on(butEditEmployer, &QPushButton::clicked, this, &EmployerTab::butEditEmployer_Click);
 }
 
@@ -36,16 +32,7 @@ void EmployerTab::load()
         store.CreateRecordset(u"SELECT * FROM EmployerInformation WHERE (MemberId="_s + m_dossier.member() + u")"_s);
     if (employer.Eof())
         return;
-    putText(*txtEmployerName, employer[u"Name"]);
-    putText(*txtEmployerAddressOne, employer[u"AddressOne"]);
-    putText(*txtEmployerAddressTwo, employer[u"AddressTwo"]);
-    putText(*txtEmployerCity, employer[u"City"]);
-    putText(*LstEmployerState, employer[u"State"]);
-    putText(*txtEmployerZip, employer[u"Zip"]);
-    putText(*txtEmployerPhoneNumber, employer[u"PhoneNumber"]);
-    putText(*txtEmployerExtension, employer[u"Extension"]);
-    putText(*txtEmail, employer[u"EMailAddress"]);
-    putText(*txtWebAddress, employer[u"WebAddress"]);
+    m_boxes.show(employer);
 }
 
 void EmployerTab::butEditEmployer_Click()

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "dossier/Dossier.h"
+#include "dossier/StoredBoxes.h"
 #include "platform/desktop/Controls.h"
 
 class EmployerTab : public desktop::Frame
@@ -29,4 +30,5 @@ public:
 
 private:
     Dossier &m_dossier;
+    StoredBoxes m_boxes;
 };

@@ -1,32 +1,28 @@
 #include "dossier/MemberTab.h"
 
-#include "dossier/StatesList.h"
 #include "platform/desktop/ErrorReport.h"
-#include "platform/desktop/FieldGrid.h"
 #include "platform/desktop/MsgBox.h"
-#include "platform/desktop/RowTexts.h"
 #include "shell/CLsDataBaseConnection.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 MemberTab::MemberTab(QWidget *parent, Dossier &dossier)
-    : Frame(parent, u"Frame1", u"Member Information"_s), m_dossier(dossier)
+    : Frame(parent, u"Frame1", u"Member Information"_s), m_dossier(dossier), m_boxes(this)
 {
-    desktop::FieldGrid grid(this);
-    txtFirstName = grid.addText(u"txtFirstName", u"First Name"_s);
-    txtMiddleName = grid.addText(u"txtMiddleName", u"Middle Name"_s);
-    txtLastName = grid.addText(u"txtLastName", u"Last Name"_s);
-    txtAddressOne = grid.addText(u"txtAddressOne", u"Address One"_s);
-    txtAddressTwo = grid.addText(u"txtAddressTwo", u"Address Two"_s);
-    txtCity = grid.addText(u"txtCity", u"City"_s);
-    LstState = grid.addOneLineList(u"LstState", u"State"_s, statesList());
-    txtZip = grid.addText(u"txtZip", u"Zip"_s);
-    txtHomePhone = grid.addText(u"txtHomePhone", u"Home Phone Number"_s);
-    txtCellPhone = grid.addText(u"txtCellPhone", u"Cell Phone Number"_s);
-    txtEMailAddress = grid.addText(u"txtEMailAddress", u"EMail Address"_s);
+    txtFirstName = m_boxes.addText(u"txtFirstName", u"First Name"_s, u"FirstName"_s);
+    txtMiddleName = m_boxes.addText(u"txtMiddleName", u"Middle Name"_s, u"MiddleName"_s);
+    txtLastName = m_boxes.addText(u"txtLastName", u"Last Name"_s, u"LastName"_s);
+    txtAddressOne = m_boxes.addText(u"txtAddressOne", u"Address One"_s, u"AddressOne"_s);
+    txtAddressTwo = m_boxes.addText(u"txtAddressTwo", u"Address Two"_s, u"AddressTwo"_s);
+    txtCity = m_boxes.addText(u"txtCity", u"City"_s, u"City"_s);
+    LstState = m_boxes.addStates(u"LstState", u"State"_s);
+    txtZip = m_boxes.addText(u"txtZip", u"Zip"_s, u"Zip"_s);
+    txtHomePhone = m_boxes.addText(u"txtHomePhone", u"Home Phone Number"_s, u"HomePhone"_s);
+    txtCellPhone = m_boxes.addText(u"txtCellPhone", u"Cell Phone Number"_s, u"CellPhone"_s);
+    txtEMailAddress = m_boxes.addText(u"txtEMailAddress", u"EMail Address"_s, u"EMailAddress"_s);
     butEditMember = new desktop::CommandButton(this, u"butEditMember", u"Update"_s);
     butCloseMember = new desktop::CommandButton(this, u"butCloseMember", u"Close"_s);
-    grid.addButtons({butEditMember, butCloseMember});
+    m_boxes.addButtons({butEditMember, butCloseMember});
     desktop::on(butEditMember, &QPushButton::clicked, this, &MemberTab::butEditMember_Click);
 }
 
@@ -39,17 +35,7 @@ void MemberTab::load()
                                                    m_dossier.member() + u"))"_s);
     if (member.Eof())
         return;
-    putText(*txtFirstName, member[u"FirstName"]);
-    putText(*txtMiddleName, member[u"MiddleName"]);
-    putText(*txtLastName, member[u"LastName"]);
-    putText(*txtAddressOne, member[u"AddressOne"]);
-    putText(*txtAddressTwo, member[u"AddressTwo"]);
-    putText(*txtCity, member[u"City"]);
-    putText(*LstState, member[u"State"]);
-    putText(*txtZip, member[u"Zip"]);
-    putText(*txtHomePhone, member[u"HomePhone"]);
-    putText(*txtCellPhone, member[u"CellPhone"]);
-    putText(*txtEMailAddress, member[u"EMailAddress"]);
+    m_boxes.show(member);
 }
 
 void MemberTab::butEditMember_Click()

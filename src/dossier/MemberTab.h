@@ -3,6 +3,7 @@
 #pragma once
 
 #include "dossier/Dossier.h"
+#include "dossier/StoredBoxes.h"
 #include "platform/desktop/Controls.h"
 
 class MemberTab : public desktop::Frame
@@ -31,4 +32,5 @@ public:
 
 private:
     Dossier &m_dossier;
+    StoredBoxes m_boxes;
 };
