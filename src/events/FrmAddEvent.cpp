@@ -14,7 +14,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int minutesToTheEnd = 60;
-constexpr int comfortableWidth = 440; // logical pixels
 
 QString plainTimeText(QTime time)
 {
@@ -64,6 +63,7 @@ void FrmAddEvent::setUpContent()
     grid.addButtons({cmdSave, CmdClose});
     auto *whole = new QVBoxLayout(this);
     whole->addWidget(Frame1);
+    constexpr int comfortableWidth = 440; // logical pixels
     resize(sizeHint().expandedTo({comfortableWidth, 0}));
 }
 

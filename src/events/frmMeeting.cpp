@@ -15,7 +15,6 @@ using desktop::CommandButton;
 
 namespace {
 
-constexpr int comfortableWidth = 520; // logical pixels
 constexpr int linesOfAList = 5;
 
 QString today()
@@ -76,6 +75,7 @@ void frmMeeting::setUpContent()
     cmdCancel = new CommandButton(this, u"cmdCancel", u"Cancel"_s);
     cmdPrint = new CommandButton(this, u"cmdPrint", u"Print"_s);
     grid.addButtons({cmdSave, cmdClear, cmdCancel, cmdPrint});
+    constexpr int comfortableWidth = 520; // logical pixels
     resize(sizeHint().expandedTo({comfortableWidth, 0}));
 }
 

@@ -12,7 +12,7 @@ namespace desktop {
 
 namespace {
 
-std::function<void(const runtime::RuntimeError &)> &replacement()
+std::function<void(const runtime::RuntimeError &)> &reportInstead()
 {
     static std::function<void(const runtime::RuntimeError &)> report;
     return report;
@@ -22,8 +22,8 @@ std::function<void(const runtime::RuntimeError &)> &replacement()
 
 void reportUnhandled(const runtime::RuntimeError &error)
 {
-    if (replacement())
-        return replacement()(error);
+    if (reportInstead())
+        return reportInstead()(error);
     const QString text = u"Run-time error '%1':\n\n%2"_s.arg(QString::number(error.number()), error.description());
     std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
     std::fflush(stderr);
@@ -34,7 +34,7 @@ void reportUnhandled(const runtime::RuntimeError &error)
 
 void setErrorReport(std::function<void(const runtime::RuntimeError &)> report)
 {
-    replacement() = std::move(report);
+    reportInstead() = std::move(report);
 }
 
 runtime::RuntimeError currentError()

@@ -10,7 +10,7 @@ namespace desktop {
 
 namespace {
 
-QString &replacement()
+QString &otherPath()
 {
     static QString path;
     return path;
@@ -18,8 +18,8 @@ QString &replacement()
 
 std::unique_ptr<QSettings> settings()
 {
-    if (!replacement().isEmpty())
-        return std::make_unique<QSettings>(replacement(), QSettings::IniFormat);
+    if (!otherPath().isEmpty())
+        return std::make_unique<QSettings>(otherPath(), QSettings::IniFormat);
     return std::make_unique<QSettings>(u"Tolmark"_s, u"Tolmark"_s);
 }
 
@@ -37,7 +37,7 @@ void SaveSetting(const QString &section, const QString &key, const QString &text
 
 void setSettingsFile(const QString &path)
 {
-    replacement() = path;
+    otherPath() = path;
 }
 
 } // namespace desktop

@@ -10,7 +10,7 @@ namespace runtime {
 namespace {
 
 constexpr qint64 scale = 10'000;
-constexpr int decimals = 4;
+constexpr int storedDecimals = 4;
 
 // Appends a decimal digit; error 6 when the amount leaves its range.
 void pushDigit(quint64 &scaled, int digit)
@@ -96,7 +96,7 @@ std::optional<Currency> Currency::fromPlainText(QStringView text)
     const std::optional<Decimal> number = readDecimal(text);
     if (!number)
         return std::nullopt;
-    const qsizetype kept = number->pointAt + decimals;
+    const qsizetype kept = number->pointAt + storedDecimals;
     quint64 scaled = 0;
     for (qsizetype at = 0; at < kept; ++at) {
         // Zeros before the first digit or behind the last one: an exponent may ask for very many of them.
@@ -121,7 +121,7 @@ QString Currency::toPlainText() const
     const quint64 magnitude = negative ? 0 - quint64(m_scaled) : quint64(m_scaled);
     QString text = QString::number(magnitude / quint64(scale));
     if (const quint64 fraction = magnitude % quint64(scale)) {
-        text += u'.' + QString::number(fraction).rightJustified(decimals, u'0');
+        text += u'.' + QString::number(fraction).rightJustified(storedDecimals, u'0');
         while (text.endsWith(u'0'))
             text.chop(1);
     }
