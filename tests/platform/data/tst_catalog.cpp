@@ -29,6 +29,7 @@ private Q_SLOTS:
     void readsWhatIsStored();
     void addsColumnsToAStoredTable();
     void givesPropertiesWithACatalog();
+    void sharesAConnectionToOneFileOnly();
 
 private:
     Table described(const QString &name) const;
@@ -333,6 +334,20 @@ void CatalogTest::givesPropertiesWithACatalog()
     QCOMPARE(namesOf(table.Columns()), QStringList{u"Key"_s}); // the former connection is kept
     m_catalog = Catalog();
     QCOMPARE(errorNumberOf([&] { namesOf(table.Columns()); }), data::NoConnection);
+}
+
+void CatalogTest::sharesAConnectionToOneFileOnly()
+{
+    Catalog second;
+    second.setActiveConnection(m_folder->connectionString());
+    const DataFolder otherFolder(DataFolder::Content::Empty);
+    Catalog other;
+    other.setActiveConnection(otherFolder.connectionString());
+    second.Tables().Append(described(u"T"_s));
+    QVERIFY(namesOf(m_catalog.Tables()).contains(u"T"_s));
+    QVERIFY(!namesOf(other.Tables()).contains(u"T"_s));
+    m_catalog = Catalog(); // the one that opened it
+    QVERIFY(namesOf(second.Tables()).contains(u"T"_s));
 }
 
 QTEST_GUILESS_MAIN(CatalogTest)
