@@ -2,7 +2,7 @@
 
 #include "datafile/Generator.h"
 #include "datafile/Schema.h"
-#include "platform/data/Database.h"
+#include "platform/data/engine/Database.h"
 #include "platform/data/sql/Translation.h"
 
 #include <QDir>

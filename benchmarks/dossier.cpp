@@ -3,7 +3,7 @@
 #include "benchmarks/RawStore.h"
 #include "dossier/DisplayMembers.h"
 #include "platform/runtime/Application.h"
-#include "shell/CLsDataBaseConnection.h"
+#include "shell/store/CLsDataBaseConnection.h"
 
 #include <QApplication>
 #include <QFileInfo>

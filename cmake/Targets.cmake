@@ -13,9 +13,9 @@ if(TOLMARK_SANITIZE)
     target_link_options(tolmark_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# tolmark_library(NAME LINKS target... SOURCES file...): one room of the house.
+# tolmark_room(NAME LINKS target... SOURCES file...): one room of the house.
 # Headers are included by their path under src/, so that an arrow between rooms shows in every #include.
-function(tolmark_library name)
+function(tolmark_room name)
     cmake_parse_arguments(PARSE_ARGV 1 room "" "" "LINKS;SOURCES")
     add_library(${name} STATIC ${room_SOURCES})
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)

@@ -1,7 +1,7 @@
 #include "datafile/Check.h"
 
 #include "datafile/Schema.h"
-#include "platform/data/ColumnType.h"
+#include "platform/data/engine/ColumnType.h"
 
 #include <QMap>
 

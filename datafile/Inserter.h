@@ -1,7 +1,7 @@
 // Adds rows by one prepared statement: insert(1, "Adams", nullptr). A null pointer is Null; "" is the empty text.
 #pragma once
 
-#include "platform/data/Database.h"
+#include "platform/data/engine/Database.h"
 #include "platform/runtime/Value.h"
 
 #include <concepts>

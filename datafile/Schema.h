@@ -5,7 +5,7 @@
 // 75 for one that cannot be written, and the store's errors.
 #pragma once
 
-#include "platform/data/Database.h"
+#include "platform/data/engine/Database.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,10 +1,10 @@
 #include "dossier/AssignedEventsTab.h"
 
 #include "dossier/RowDeletion.h"
+#include "parts/RowTexts.h"
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/MsgBox.h"
-#include "platform/desktop/RowTexts.h"
-#include "shell/CLsDataBaseConnection.h"
+#include "shell/store/CLsDataBaseConnection.h"
 
 #include <tuple>
 

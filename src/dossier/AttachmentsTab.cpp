@@ -1,14 +1,14 @@
 #include "dossier/AttachmentsTab.h"
 
 #include "dossier/RowDeletion.h"
+#include "parts/RowTexts.h"
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/MsgBox.h"
-#include "platform/desktop/RowTexts.h"
 #include "platform/runtime/Application.h"
 #include "platform/runtime/ErrorHandling.h"
 #include "platform/runtime/Files.h"
-#include "shell/CLsDataBaseConnection.h"
-#include "shell/DataStore.h"
+#include "shell/store/CLsDataBaseConnection.h"
+#include "shell/store/DataStore.h"
 
 #include <QFileInfo>
 #include <QHBoxLayout>

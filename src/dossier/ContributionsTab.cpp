@@ -1,12 +1,12 @@
 #include "dossier/ContributionsTab.h"
 
 #include "dossier/RowDeletion.h"
+#include "parts/RowTexts.h"
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/MsgBox.h"
-#include "platform/desktop/RowTexts.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/NumberText.h"
-#include "shell/CLsDataBaseConnection.h"
+#include "shell/store/CLsDataBaseConnection.h"
 
 #include <tuple>
 

@@ -2,7 +2,7 @@
 // its actions. Each action opens the sequence, uses it and closes it before it ends.
 #pragma once
 
-#include "shell/CommandSequence.h"
+#include "shell/store/CommandSequence.h"
 
 #include <QString>
 

@@ -2,7 +2,7 @@
 
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/MsgBox.h"
-#include "shell/CLsDataBaseConnection.h"
+#include "shell/store/CLsDataBaseConnection.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -1,9 +1,9 @@
 #include "dossier/FrmAddEditMember.h"
 
 #include "dossier/StatesList.h"
-#include "platform/desktop/FieldGrid.h"
+#include "parts/FieldGrid.h"
 #include "platform/runtime/Conversion.h"
-#include "shell/CommandSequence.h"
+#include "shell/store/CommandSequence.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -29,7 +29,7 @@ FrmAddEditMember::FrmAddEditMember()
 QWidget *FrmAddEditMember::setUpMember()
 {
     auto *frame = new desktop::Frame(SSTab1, u"Frame1", u"Member Infromation"_s);
-    desktop::FieldGrid grid(frame);
+    FieldGrid grid(frame);
     txtMemberFirstName = grid.addText(u"txtMemberFirstName", u"First Name"_s);
     txtMemberMiddleName = grid.addText(u"txtMemberMiddleName", u"Middle Name"_s);
     txtMemberLastName = grid.addText(u"txtMemberLastName", u"Last Name"_s);
@@ -48,7 +48,7 @@ QWidget *FrmAddEditMember::setUpMember()
 QWidget *FrmAddEditMember::setUpEmployer()
 {
     auto *frame = new desktop::Frame(SSTab1, u"Frame2", u"Employer Infromation"_s);
-    desktop::FieldGrid grid(frame);
+    FieldGrid grid(frame);
     txtEmployerName = grid.addText(u"txtEmployerName", u"Employer Name"_s);
     txtEmployerAddressOne = grid.addText(u"txtEmployerAddressOne", u"Address One"_s);
     txtEmployerAddressTwo = grid.addText(u"txtEmployerAddressTwo", u"Address Two"_s);

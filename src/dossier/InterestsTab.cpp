@@ -1,9 +1,9 @@
 #include "dossier/InterestsTab.h"
 
 #include "dossier/RowDeletion.h"
+#include "parts/RowTexts.h"
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/MsgBox.h"
-#include "platform/desktop/RowTexts.h"
 
 #include <tuple>
 

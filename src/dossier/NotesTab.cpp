@@ -2,13 +2,13 @@
 
 #include "dossier/RowDeletion.h"
 #include "events/StoredNotes.h"
+#include "parts/RowTexts.h"
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/MsgBox.h"
-#include "platform/desktop/RowTexts.h"
 #include "platform/runtime/DateDiff.h"
 #include "platform/runtime/Format.h"
-#include "shell/CLsDataBaseConnection.h"
+#include "shell/store/CLsDataBaseConnection.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>

@@ -1,8 +1,8 @@
 // Boxes under one another, each for a column of the store: how a tab shows the one row that it is about.
 #pragma once
 
+#include "parts/FieldGrid.h"
 #include "platform/data/Recordset.h"
-#include "platform/desktop/FieldGrid.h"
 
 #include <functional>
 #include <utility>
@@ -23,6 +23,6 @@ public:
     void show(data::Recordset &row) const;
 
 private:
-    desktop::FieldGrid m_grid;
+    FieldGrid m_grid;
     std::vector<std::pair<QString, std::function<void(const data::Field &)>>> m_boxes;
 };

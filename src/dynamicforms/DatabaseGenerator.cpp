@@ -4,7 +4,7 @@
 #include "dynamicforms/TableGeneration.h"
 #include "platform/desktop/MsgBox.h"
 #include "platform/runtime/ErrorHandling.h"
-#include "shell/DataStore.h"
+#include "shell/store/DataStore.h"
 
 #include <tuple>
 
@@ -85,8 +85,8 @@ void DatabaseGenerator::saveStoredRows(LayoutWriter &layout, const QString &capt
 void DatabaseGenerator::saveCanvas(LayoutWriter &layout)
 {
     for (int index = 1; index < m_surface->Text1.Count(); ++index) {
-        const desktop::CanvasTextBox &box = *m_surface->Text1(index);
-        const desktop::CanvasLabel &label = *m_surface->Label1(index);
+        const CanvasTextBox &box = *m_surface->Text1(index);
+        const CanvasLabel &label = *m_surface->Label1(index);
         if (!box.toolTip().isEmpty())
             layout.addField({box.toolTip(), label.toolTip(), std::nullopt, twips(box.Left()), twips(box.Top()),
                              twips(label.Left()), twips(label.Top()), twips(box.Width())});

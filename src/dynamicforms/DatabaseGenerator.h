@@ -7,7 +7,7 @@
 #pragma once
 
 #include "dynamicforms/DesignSurface.h"
-#include "platform/desktop/FieldGrid.h"
+#include "parts/FieldGrid.h"
 #include "platform/desktop/Form.h"
 #include "platform/desktop/ImageList.h"
 #include "platform/desktop/Toolbar.h"

@@ -54,7 +54,7 @@ void DatabaseGenerator::setUpToolbar()
 void DatabaseGenerator::setUpTableInformation()
 {
     Frame1 = new desktop::Frame(this, u"Frame1", u"Table Information"_s);
-    desktop::FieldGrid grid(Frame1);
+    FieldGrid grid(Frame1);
     txtTableName = grid.addText(u"txtTableName", u"Table Name"_s);
     grid.lastLabel()->setObjectName(u"lblTableName"_s);
     txtTableDescription = grid.addText(u"txtTableDescription", u"Table Description"_s);
@@ -92,7 +92,7 @@ void DatabaseGenerator::setUpDisplayOptions()
 void DatabaseGenerator::setUpColumnInformation()
 {
     Frame2 = new desktop::Frame(this, u"Frame2", u"Column Information"_s);
-    desktop::FieldGrid grid(Frame2);
+    FieldGrid grid(Frame2);
     txtFieldName = grid.addText(u"txtFieldName", u"Field Name"_s);
     grid.lastLabel()->setObjectName(u"lblFieldName"_s);
     txtFieldDescription = grid.addText(u"txtFieldDescription", u"Field Description"_s);

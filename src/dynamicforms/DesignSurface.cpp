@@ -9,8 +9,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-using desktop::CanvasLabel;
-using desktop::CanvasTextBox;
 using desktop::Control;
 using desktop::ControlArray;
 using desktop::TextBox;

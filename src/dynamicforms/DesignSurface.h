@@ -5,8 +5,8 @@
 // three arrays are templates and never shown.
 #pragma once
 
+#include "dynamicforms/CanvasControls.h"
 #include "dynamicforms/FieldRows.h"
-#include "platform/desktop/CanvasControls.h"
 #include "platform/desktop/ControlArray.h"
 #include "platform/desktop/TabStrip.h"
 
@@ -23,8 +23,8 @@ public:
     // rows, tabs and canvas are the window's and outlive the surface.
     DesignSurface(desktop::PictureBox &canvas, desktop::TabStrip &tabs, FieldRows &rows);
 
-    desktop::ControlArray<desktop::CanvasLabel> Label1;
-    desktop::ControlArray<desktop::CanvasTextBox> Text1;
+    desktop::ControlArray<CanvasLabel> Label1;
+    desktop::ControlArray<CanvasTextBox> Text1;
     desktop::ControlArray<desktop::TextBox> Text2; // hidden: each holds the display order of its field
 
     bool ObjectsLocked = false;

@@ -5,8 +5,8 @@
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/MsgBox.h"
 #include "platform/runtime/ErrorHandling.h"
-#include "shell/DataStore.h"
-#include "shell/Session.h"
+#include "shell/session/Session.h"
+#include "shell/store/DataStore.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>

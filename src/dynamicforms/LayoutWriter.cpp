@@ -1,6 +1,6 @@
 #include "dynamicforms/LayoutWriter.h"
 
-#include "shell/DataStore.h"
+#include "shell/store/DataStore.h"
 
 using namespace Qt::Literals::StringLiterals;
 

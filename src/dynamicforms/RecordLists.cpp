@@ -1,12 +1,11 @@
 #include "dynamicforms/RecordLists.h"
 
 #include "events/StoredNotes.h"
-#include "platform/desktop/RowTexts.h"
-#include "shell/CLsDataBaseConnection.h"
+#include "parts/RowTexts.h"
+#include "shell/store/CLsDataBaseConnection.h"
 
 #include <array>
 
-using desktop::ListedColumn;
 using runtime::Value;
 
 namespace {

@@ -3,15 +3,15 @@
 // Failures go to the caller: error 13 for an event whose start or end is no date, and those of the data objects.
 #pragma once
 
-#include "platform/desktop/ListedColumns.h"
+#include "parts/ListedColumns.h"
 
 struct RecordList
 {
     QStringView caption;        // of its tab
     QStringView statementStart; // the person's key follows
     QStringView statementEnd;
-    std::span<const desktop::ListedColumn> columns; // one without a column of the statement shows how long it took
-    QStringView command;                            // what the window does at the press of cmdEdit
+    std::span<const ListedColumn> columns; // one without a column of the statement shows how long it took
+    QStringView command;                   // what the window does at the press of cmdEdit
 };
 
 extern const RecordList attachmentsList;

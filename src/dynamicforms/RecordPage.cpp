@@ -1,8 +1,8 @@
 #include "dynamicforms/RecordPage.h"
 
-#include "platform/desktop/RowTexts.h"
+#include "parts/RowTexts.h"
 #include "platform/runtime/ErrorHandling.h"
-#include "shell/DataStore.h"
+#include "shell/store/DataStore.h"
 
 #include <QHash>
 

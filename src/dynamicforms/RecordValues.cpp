@@ -1,7 +1,7 @@
 #include "dynamicforms/RecordValues.h"
 
 #include "platform/runtime/RuntimeError.h"
-#include "shell/DataStore.h"
+#include "shell/store/DataStore.h"
 
 #include <utility>
 

@@ -2,7 +2,7 @@
 
 #include "platform/data/Catalog.h"
 #include "platform/runtime/ErrorHandling.h"
-#include "shell/DataStore.h"
+#include "shell/store/DataStore.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -1,7 +1,7 @@
 #include "events/ActivePeople.h"
 
 #include "platform/runtime/Conversion.h"
-#include "shell/CLsDataBaseConnection.h"
+#include "shell/store/CLsDataBaseConnection.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -1,10 +1,10 @@
 #include "events/FrmAddEvent.h"
 
 #include "events/FrmEventCalendar.h"
-#include "platform/desktop/FieldGrid.h"
+#include "parts/FieldGrid.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/Regional.h"
-#include "shell/CommandSequence.h"
+#include "shell/store/CommandSequence.h"
 
 #include <QPointer>
 #include <QVBoxLayout>
@@ -47,7 +47,7 @@ FrmAddEvent &FrmAddEvent::shared()
 void FrmAddEvent::setUpContent()
 {
     const QStringList halves{u"AM"_s, u"PM"_s};
-    desktop::FieldGrid grid(Frame1);
+    FieldGrid grid(Frame1);
     txtEventName = grid.addText(u"txtEventName", u"Event Name"_s);
     txtEventDescription = grid.addText(u"txtEventDescription", u"Description"_s);
     txtEventStartDate = grid.addText(u"txtEventStartDate", u"Start Date"_s);

@@ -11,7 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 FrmEventCalendar::FrmEventCalendar()
     : Form(Place::InFrame, u"FrmEventCalendar"),
       frEventCalendar(new desktop::Frame(this, u"frEventCalendar", u"Event Calendar"_s)),
-      Calendar1(new desktop::Calendar(frEventCalendar, u"Calendar1"))
+      Calendar1(new Calendar(frEventCalendar, u"Calendar1"))
 {
     Calendar1->setAccessibleName(u"Event Calendar"_s);
     auto *inside = new QVBoxLayout(frEventCalendar);
@@ -19,7 +19,7 @@ FrmEventCalendar::FrmEventCalendar()
     auto *whole = new QVBoxLayout(this);
     whole->addWidget(frEventCalendar);
     Calendar1->setFocus();
-    desktop::on(Calendar1, &desktop::Calendar::Click, this, &FrmEventCalendar::Calendar1_Click);
+    desktop::on(Calendar1, &Calendar::Click, this, &FrmEventCalendar::Calendar1_Click);
 }
 
 FrmAddEvent *FrmEventCalendar::frmEvent()

@@ -4,8 +4,8 @@
 // which stays unseen and goes with it unless somebody shows it.
 #pragma once
 
+#include "events/Calendar.h"
 #include "events/FrmAddEvent.h"
-#include "platform/desktop/Calendar.h"
 
 #include <QPointer>
 
@@ -21,7 +21,7 @@ public:
     void setFrmEvent(FrmAddEvent *window) { m_frmEvent = window; }
 
     desktop::Frame *frEventCalendar;
-    desktop::Calendar *Calendar1;
+    Calendar *Calendar1;
 
     void Calendar1_Click();
 

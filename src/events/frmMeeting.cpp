@@ -1,13 +1,13 @@
 #include "events/frmMeeting.h"
 
 #include "events/frmSelectClient.h"
-#include "platform/desktop/FieldGrid.h"
+#include "parts/FieldGrid.h"
 #include "platform/desktop/MsgBox.h"
 #include "platform/desktop/Printer.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/Regional.h"
-#include "shell/CLsDataBaseConnection.h"
+#include "shell/store/CLsDataBaseConnection.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -56,7 +56,7 @@ frmMeeting::frmMeeting() : Form(Place::InFrame, u"frmMeeting")
 void frmMeeting::setUpContent()
 {
     const QString presentTimePurpose = u"Fill in the present time as the %1 time"_s;
-    desktop::FieldGrid grid(this);
+    FieldGrid grid(this);
     lstEventType = grid.addList(u"lstEventType", u"Note Type"_s,
                                 {u"Phone Conversation"_s, u"Member Meeting"_s, u"Member Conference"_s}, linesOfAList);
     lstCategory =

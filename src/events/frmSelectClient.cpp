@@ -2,7 +2,7 @@
 
 #include "events/ActivePeople.h"
 #include "platform/desktop/Keys.h"
-#include "shell/CLsDataBaseConnection.h"
+#include "shell/store/CLsDataBaseConnection.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>

@@ -3,7 +3,7 @@
 // The controls belong to the window. All geometry is in twips.
 #pragma once
 
-#include "platform/desktop/SplitPanes.h"
+#include "parts/SplitPanes.h"
 #include "platform/desktop/Toolbar.h"
 
 #include <functional>
@@ -16,7 +16,7 @@ struct ExplorerTexts
     QString information; // headline of the list
 };
 
-class ExplorerPanes : public desktop::SplitPanes
+class ExplorerPanes : public SplitPanes
 {
 public:
     ExplorerPanes(desktop::Form &window, const ExplorerTexts &texts);

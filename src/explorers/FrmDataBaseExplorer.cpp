@@ -9,7 +9,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-using desktop::ListedColumn;
 using desktop::ListItem;
 using runtime::Value;
 

@@ -4,13 +4,12 @@
 #include "events/FrmAddEvent.h"
 #include "platform/desktop/Keys.h"
 #include "platform/runtime/ErrorHandling.h"
-#include "shell/Session.h"
+#include "shell/session/Session.h"
 
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
 
-using desktop::ListedColumn;
 using desktop::ListItem;
 
 namespace {

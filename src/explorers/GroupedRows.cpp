@@ -5,8 +5,8 @@
 #include "platform/desktop/Form.h"
 #include "platform/desktop/MsgBox.h"
 #include "platform/runtime/Conversion.h"
-#include "shell/CLsDataBaseConnection.h"
-#include "shell/CommandSequence.h"
+#include "shell/store/CLsDataBaseConnection.h"
+#include "shell/store/CommandSequence.h"
 
 #include <utility>
 

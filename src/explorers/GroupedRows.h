@@ -5,7 +5,7 @@
 #pragma once
 
 #include "explorers/ExplorerPanes.h"
-#include "platform/desktop/ListedColumns.h"
+#include "parts/ListedColumns.h"
 
 #include <functional>
 
@@ -13,13 +13,13 @@
 struct GroupedTable
 {
     QString name;
-    QString groupColumn;                            // a row belongs to the group with which this column begins
-    QString plural;                                 // "Members"
-    QString information;                            // headline of the list
-    QString captionStart;                           // of the window that shows a group
-    QString listStart;                              // the list's query up to the group's name
-    QString listEnd;                                // and behind it
-    std::span<const desktop::ListedColumn> columns; // the first is the key
+    QString groupColumn;                   // a row belongs to the group with which this column begins
+    QString plural;                        // "Members"
+    QString information;                   // headline of the list
+    QString captionStart;                  // of the window that shows a group
+    QString listStart;                     // the list's query up to the group's name
+    QString listEnd;                       // and behind it
+    std::span<const ListedColumn> columns; // the first is the key
     QString deleteQuestion;
     QString deleteStart; // the statement that deletes a row, up to the row's key
 };

@@ -1,15 +1,14 @@
 #include "explorers/UserTree.h"
 
-#include "platform/desktop/ListedColumns.h"
+#include "parts/ListedColumns.h"
 #include "platform/runtime/Conversion.h"
-#include "shell/CLsDataBaseConnection.h"
+#include "shell/store/CLsDataBaseConnection.h"
 #include "shell/users/frmNewUser.h"
 
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
 
-using desktop::ListedColumn;
 using desktop::Node;
 using runtime::joinedText;
 

@@ -3,7 +3,7 @@
 #include "library/StoredFile.h"
 #include "platform/desktop/Launch.h"
 #include "platform/runtime/Conversion.h"
-#include "shell/DataStore.h"
+#include "shell/store/DataStore.h"
 
 using namespace Qt::Literals::StringLiterals;
 

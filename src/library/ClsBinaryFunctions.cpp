@@ -8,8 +8,8 @@
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/ErrorHandling.h"
 #include "platform/runtime/Files.h"
-#include "shell/CLsDataBaseConnection.h"
-#include "shell/DataStore.h"
+#include "shell/store/CLsDataBaseConnection.h"
+#include "shell/store/DataStore.h"
 
 #include <algorithm>
 

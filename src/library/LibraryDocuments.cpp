@@ -1,15 +1,14 @@
 #include "library/LibraryDocuments.h"
 
 #include "library/StoredFile.h"
-#include "platform/desktop/ListedColumns.h"
+#include "parts/ListedColumns.h"
 #include "platform/runtime/Conversion.h"
-#include "shell/CLsDataBaseConnection.h"
+#include "shell/store/CLsDataBaseConnection.h"
 
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
 
-using desktop::ListedColumn;
 using runtime::Value;
 
 namespace {

@@ -15,7 +15,7 @@ using desktop::PopupMenu;
 using desktop::TreeView;
 
 frmDocumentExp::frmDocumentExp()
-    : Form(Place::InFrame, u"frmDocumentExp"), m_menuBar(new desktop::MenuBar(this, u"MenuBar")),
+    : Form(Place::InFrame, u"frmDocumentExp"), m_menuBar(new MenuBar(this, u"MenuBar")),
       m_panes(*this, {u"LblClassAndSection", u"Library Structure"_s}, {u"LblStudentInformation", u"Documents"_s}),
       MnuLibraryOption(m_menuBar->add(u"MnuLibraryOption"_s, u"Library Options"_s)),
       CommonDialog1(new desktop::CommonDialog(this, u"CommonDialog1")),

@@ -8,9 +8,9 @@
 
 #include "library/LibraryDocuments.h"
 #include "library/LibraryTree.h"
+#include "library/MenuBar.h"
+#include "parts/SplitPanes.h"
 #include "platform/desktop/Form.h"
-#include "platform/desktop/MenuBar.h"
-#include "platform/desktop/SplitPanes.h"
 
 class frmDocumentExp : public desktop::Form
 {
@@ -59,8 +59,8 @@ private:
     void LstStudenInformation_DblClick();
     void LstStudenInformation_KeyUp(int keyCode);
 
-    desktop::MenuBar *m_menuBar;
-    desktop::SplitPanes m_panes;
+    MenuBar *m_menuBar;
+    SplitPanes m_panes;
     desktop::PopupMenu *MnuLibraryOption;
     desktop::CommonDialog *CommonDialog1;
     LibraryTree m_library;

@@ -2,13 +2,13 @@
 
 #include "library/ClsBinaryFunctions.h"
 #include "library/StoredFile.h"
+#include "parts/RowTexts.h"
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/Launch.h"
 #include "platform/desktop/MsgBox.h"
-#include "platform/desktop/RowTexts.h"
 #include "platform/runtime/Conversion.h"
-#include "shell/CLsDataBaseConnection.h"
-#include "shell/DataStore.h"
+#include "shell/store/CLsDataBaseConnection.h"
+#include "shell/store/DataStore.h"
 
 #include <QGridLayout>
 #include <QHeaderView>
@@ -302,7 +302,7 @@ void frmFindInfo::searchContent(const QString &phrase)
         lstViewResults->ColumnHeaders.Add(header);
     if (hits.RecordCount() > 0)
         hits.MoveFirst();
-    desktop::addItems(*lstViewResults, hits, [](desktop::ListItem &item, data::Recordset &hit) {
+    addItems(*lstViewResults, hits, [](desktop::ListItem &item, data::Recordset &hit) {
         putSubItem(item, 0, hit[u"DocumentId"]);
         putSubItem(item, 1, hit[u"DocumentName"]);
         putSubItem(item, 2, hit[u"Version"]);

@@ -1,7 +1,7 @@
 // What the tests of the data file look at: rows as text, bytes, errors by number, and a folder of one test's own.
 #pragma once
 
-#include "platform/data/Database.h"
+#include "platform/data/engine/Database.h"
 #include "platform/runtime/RuntimeError.h"
 
 #include <QDir>

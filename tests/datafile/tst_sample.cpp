@@ -3,7 +3,7 @@
 #include "datafile/Generator.h"
 #include "datafile/Looking.h"
 #include "datafile/Sample.h"
-#include "platform/data/ColumnType.h"
+#include "platform/data/engine/ColumnType.h"
 #include "platform/runtime/Currency.h"
 #include "platform/runtime/Date.h"
 

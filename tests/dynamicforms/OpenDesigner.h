@@ -23,15 +23,15 @@ public:
     {
         return window.Picture1->findChild<ControlType *>(QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index));
     }
-    desktop::CanvasTextBox *box(int index) { return find<desktop::CanvasTextBox>("Text1", index); }
-    desktop::CanvasLabel *label(int index) { return find<desktop::CanvasLabel>("Label1", index); }
+    CanvasTextBox *box(int index) { return find<CanvasTextBox>("Text1", index); }
+    CanvasLabel *label(int index) { return find<CanvasLabel>("Label1", index); }
     // What is shown of the page: "Skills 200,400 3200,400 2800": the label's and the box's place, the box's width.
     QStringList fields()
     {
         QStringList shown;
         for (int index = 1; box(index); ++index) {
-            const desktop::CanvasLabel &name = *label(index);
-            const desktop::CanvasTextBox &value = *box(index);
+            const CanvasLabel &name = *label(index);
+            const CanvasTextBox &value = *box(index);
             if (name.isVisible() && value.isVisible())
                 shown << QStringLiteral("%1 %2,%3 %4,%5 %6")
                              .arg(name.text())

@@ -1,7 +1,7 @@
 // The record window as it opens: its pages made from the form, its lists, and the change from one to another.
 #include "dynamicforms/OpenRecord.h"
 #include "dynamicforms/frmOpenRecord.h"
-#include "shell/Session.h"
+#include "shell/session/Session.h"
 
 using namespace Qt::Literals::StringLiterals;
 

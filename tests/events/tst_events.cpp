@@ -3,8 +3,10 @@
 #include "platform/runtime/Clock.h"
 #include "support/DataStoreFolder.h"
 #include "support/Dialogs.h"
+#include "support/Outcome.h"
 
 #include <QPointer>
+#include <QSignalSpy>
 #include <QTableView>
 
 using namespace Qt::Literals::StringLiterals;
@@ -261,6 +263,51 @@ private:
         "EventEndDate, EventEndTime, EventEndTimeAmPm, Active FROM EventInformation";
 
     std::optional<DataStoreFolder> m_folder;
+
+    // Month, day and year one after another: neither the day before nor a day that is missing on the way bends the
+    // date.
+    void aCalendarIsSetByItsParts_data()
+    {
+        QTest::addColumn<QDate>("before");
+        QTest::addColumn<QDate>("day");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("from the 31st") << QDate(2026, 1, 31) << QDate(2026, 2, 3) << u"2/3/2026"_s;
+        QTest::newRow("to the 31st") << QDate(2026, 2, 28) << QDate(2026, 3, 31) << u"3/31/2026"_s;
+        QTest::newRow("to a leap day") << QDate(2025, 12, 31) << QDate(2024, 2, 29) << u"2/29/2024"_s;
+    }
+    void aCalendarIsSetByItsParts()
+    {
+        QFETCH(QDate, before);
+        QFETCH(QDate, day);
+        QFETCH(QString, text);
+        Calendar calendar(nullptr, u"calendar");
+        calendar.setSelectedDate(before);
+        calendar.setMonth(day.month());
+        calendar.setDay(day.day());
+        calendar.setYear(day.year());
+        QCOMPARE(runtime::toText(calendar.Value()), text);
+        QCOMPARE(errorNumberOf([&] { calendar.setMonth(13); }), 380);
+        QCOMPARE(errorNumberOf([&] { calendar.setDay(32); }), 380);
+        QCOMPARE(runtime::toText(calendar.Value()), text);
+    }
+
+    void aDayIsChosenByMouseOrByEnter()
+    {
+        Calendar calendar(nullptr, u"calendar");
+        calendar.setSelectedDate(QDate(2026, 1, 14));
+        calendar.show();
+        auto *days = calendar.findChild<QTableView *>();
+        QSignalSpy clicks(&calendar, &Calendar::Click);
+        QTest::keyClick(days, Qt::Key_Right);
+        QCOMPARE(clicks.size(), 0); // passing by is no choice
+        QTest::keyClick(days, Qt::Key_Return);
+        QCOMPARE(clicks.size(), 1);
+        QCOMPARE(runtime::toText(calendar.Value()), u"1/15/2026"_s);
+        const QModelIndex below = days->currentIndex().siblingAtRow(days->currentIndex().row() + 1);
+        QTest::mouseClick(days->viewport(), Qt::LeftButton, {}, days->visualRect(below).center());
+        QCOMPARE(clicks.size(), 2);
+        QCOMPARE(runtime::toText(calendar.Value()), u"1/22/2026"_s);
+    }
 };
 
 QTEST_MAIN(tst_Events)

@@ -4,7 +4,7 @@
 #include "explorers/OpenExplorer.h"
 #include "explorers/UserTree.h"
 #include "platform/desktop/Twips.h"
-#include "shell/Session.h"
+#include "shell/session/Session.h"
 #include "shell/users/frmNewUser.h"
 #include "support/DataStoreFolder.h"
 

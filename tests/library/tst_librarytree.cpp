@@ -331,6 +331,34 @@ private Q_SLOTS:
 private:
     std::optional<DataStoreFolder> m_folder;
     std::optional<CaughtErrors> m_errors;
+
+    void f10GoesToTheMenuBarBesideTheKeyboardAndAltToNone()
+    {
+        QWidget window;
+        QWidget left(&window);
+        QWidget right(&window);
+        desktop::TextBox leftBox(&left, u"left");
+        desktop::TextBox rightBox(&right, u"right");
+        MenuBar leftBar(&left, u"leftBar");
+        MenuBar rightBar(&right, u"rightBar");
+        leftBar.add(u"one"_s, u"One"_s);
+        rightBar.add(u"two"_s, u"Two"_s);
+        window.show();
+        window.activateWindow();
+        for (const auto &[box, bar] : {std::pair(&leftBox, &leftBar), std::pair(&rightBox, &rightBar)}) {
+            box->setFocus();
+            QTRY_VERIFY(box->hasFocus());
+            QTest::keyClick(box, Qt::Key_Alt, Qt::AltModifier);
+            QVERIFY(box->hasFocus());
+            QTest::keyClick(box, Qt::Key_F10);
+            QMenu *menu = bar->findChild<QMenu *>();
+            QTRY_VERIFY(menu->isVisible());
+            QTest::keyClick(menu, Qt::Key_Escape);
+            QTRY_VERIFY(bar->hasFocus());
+            QTest::keyClick(bar, Qt::Key_Escape);
+            QTRY_VERIFY(box->hasFocus());
+        }
+    }
 };
 
 QTEST_MAIN(tst_LibraryTree)

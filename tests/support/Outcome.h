@@ -30,3 +30,14 @@ template <class Call> QString outcomeOf(Call &&call)
         return QStringLiteral("error %1").arg(error.number());
     }
 }
+
+// The number of the error that the call raises, 0 when it raises none.
+template <class Call> int errorNumberOf(Call &&call)
+{
+    try {
+        call();
+        return 0;
+    } catch (const runtime::RuntimeError &error) {
+        return error.number();
+    }
+}

@@ -1,7 +1,8 @@
 #include "platform/data/Catalog.h"
 
-#include "platform/data/Definition.h"
-#include "platform/data/ProviderError.h"
+#include "platform/data/engine/Database.h"
+#include "platform/data/engine/Definition.h"
+#include "platform/runtime/ProviderError.h"
 
 namespace data {
 
@@ -11,7 +12,7 @@ std::shared_ptr<Database> opened(const std::weak_ptr<Database> &catalog)
 {
     auto file = catalog.lock();
     if (!file)
-        throw objectError(NoConnection, "ADOX.Tables");
+        throw provider::objectError(provider::NoConnection, "ADOX.Tables");
     return file;
 }
 
@@ -42,7 +43,7 @@ std::vector<Table>::const_iterator Tables::begin()
 void Tables::Append(const Table &table) const
 {
     const auto file = opened(m_file);
-    Table::Definition &added = *table.m_definition;
+    TableDefinition &added = *table.m_definition;
     storeTable(*file, added);
     for (const auto &column : added.columns)
         column->isStored = true;
@@ -55,15 +56,16 @@ void Catalog::setActiveConnection(const QString &connectionString)
     m_connection = sharedConnection(connectionString);
 }
 
-const std::shared_ptr<Database> &Catalog::database() const
+const std::shared_ptr<Database> &Catalog::database(const char *source) const
 {
-    static const std::shared_ptr<Database> none;
-    return m_connection ? m_connection->database() : none;
+    if (!m_connection)
+        throw provider::objectError(provider::NoConnection, source);
+    return m_connection->m_database;
 }
 
 Tables Catalog::Tables() const
 {
-    return data::Tables(opened(database()));
+    return data::Tables(database("ADOX.Tables"));
 }
 
 } // namespace data

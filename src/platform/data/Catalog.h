@@ -10,6 +10,8 @@
 
 namespace data {
 
+class Database;
+
 // The tables, views and system tables of a file by name.
 class Tables
 {
@@ -40,10 +42,12 @@ public:
     // Error 3709 without a connection.
     data::Tables Tables() const;
 
-    // For the objects of data definition.
-    const std::shared_ptr<Database> &database() const;
-
 private:
+    friend class Column;
+    friend class Table;
+    // Error 3709 with this source for a catalog without a connection.
+    const std::shared_ptr<Database> &database(const char *source) const;
+
     std::shared_ptr<Connection> m_connection;
 };
 

@@ -1,13 +1,13 @@
 #include "platform/data/Command.h"
 
-#include "platform/data/ProviderError.h"
+#include "platform/runtime/ProviderError.h"
 
 namespace data {
 
 Recordset Command::Execute(int)
 {
     if (!ActiveConnection)
-        throw objectError(NoConnection, "ADODB.Command");
+        throw provider::objectError(provider::NoConnection, "ADODB.Command");
     Recordset result;
     result.Open(CommandText, *ActiveConnection, adOpenStatic, adLockReadOnly);
     return result;

@@ -1,7 +1,8 @@
 #include "platform/data/Connection.h"
 
-#include "platform/data/ProviderError.h"
+#include "platform/data/engine/Database.h"
 #include "platform/runtime/Files.h"
+#include "platform/runtime/ProviderError.h"
 
 #include <QStringTokenizer>
 
@@ -27,9 +28,9 @@ QString connectionValue(const QString &connectionString, QStringView keyword)
 void Connection::Open(const QString &connectionString, const QString &, const QString &, int)
 {
     if (m_database)
-        throw objectError(ObjectOpen, "ADODB.Connection");
+        throw provider::objectError(provider::ObjectOpen, "ADODB.Connection");
     if (connectionValue(connectionString, u"Provider").isEmpty())
-        throw objectError(NoProvider, "ADODB.Connection");
+        throw provider::objectError(provider::NoProvider, "ADODB.Connection");
     auto database = std::make_shared<Database>();
     database->open(runtime::nativePath(connectionValue(connectionString, u"Data Source")));
     m_database = std::move(database);
@@ -38,7 +39,7 @@ void Connection::Open(const QString &connectionString, const QString &, const QS
 void Connection::Close()
 {
     if (!m_database)
-        throw objectError(ObjectClosed, "ADODB.Connection");
+        throw provider::objectError(provider::ObjectClosed, "ADODB.Connection");
     m_database.reset();
 }
 

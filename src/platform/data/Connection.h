@@ -6,13 +6,14 @@
 #pragma once
 
 #include "platform/data/Constants.h"
-#include "platform/data/Database.h"
 
 #include <QString>
 
 #include <memory>
 
 namespace data {
+
+class Database;
 
 class Connection
 {
@@ -35,10 +36,11 @@ public:
     // May be set at any time; every recordset of this store is static whatever it says.
     int CursorLocation = adUseServer;
 
-    // For the data objects opened over this connection; they see it expire when the connection closes.
-    const std::shared_ptr<Database> &database() const { return m_database; }
-
 private:
+    friend class Catalog;
+    friend class Recordset;
+
+    // The data objects that were opened over this connection see it expire when the connection closes.
     std::shared_ptr<Database> m_database;
 };
 

@@ -1,7 +1,7 @@
 #include "platform/data/DataFactory.h"
 
-#include "platform/data/Cursor.h"
-#include "platform/data/ProviderError.h"
+#include "platform/data/engine/Cursor.h"
+#include "platform/runtime/ProviderError.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -9,7 +9,7 @@ namespace data {
 
 namespace {
 
-QString declarationOf(const ColumnDefinition &column)
+QString declarationOf(const FieldDefinition &column)
 {
     switch (column.type) {
     case adInteger:
@@ -20,15 +20,15 @@ QString declarationOf(const ColumnDefinition &column)
     case adVarWChar:
         break;
     }
-    throw objectError(WrongArguments, "RDSServer.DataFactory");
+    throw provider::objectError(provider::WrongArguments, "RDSServer.DataFactory");
 }
 
 } // namespace
 
-Recordset DataFactory::CreateRecordset(const std::vector<ColumnDefinition> &columns) const
+Recordset DataFactory::CreateRecordset(const std::vector<FieldDefinition> &columns) const
 {
     QStringList declarations;
-    for (const ColumnDefinition &column : columns)
+    for (const FieldDefinition &column : columns)
         declarations << u'[' + column.name + u"] "_s + declarationOf(column) +
                             (column.nullable ? QString() : u" NOT NULL"_s);
     auto rows = std::make_shared<Database>();
@@ -36,7 +36,7 @@ Recordset DataFactory::CreateRecordset(const std::vector<ColumnDefinition> &colu
     try {
         rows->execute("CREATE TABLE Contents (" + declarations.join(u", "_s).toUtf8() + ')');
     } catch (const StoreError &) { // no columns, or two of one name
-        throw objectError(WrongArguments, "RDSServer.DataFactory");
+        throw provider::objectError(provider::WrongArguments, "RDSServer.DataFactory");
     }
     return Recordset(std::move(rows), u"select * from Contents"_s);
 }

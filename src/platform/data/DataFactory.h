@@ -9,7 +9,7 @@
 
 namespace data {
 
-struct ColumnDefinition
+struct FieldDefinition
 {
     QString name;
     DataTypeEnum type;
@@ -20,7 +20,7 @@ struct ColumnDefinition
 class DataFactory
 {
 public:
-    Recordset CreateRecordset(const std::vector<ColumnDefinition> &columns) const;
+    Recordset CreateRecordset(const std::vector<FieldDefinition> &columns) const;
 };
 
 } // namespace data

@@ -1,14 +1,15 @@
 #include "platform/data/Recordset.h"
 
-#include "platform/data/Cursor.h"
-#include "platform/data/ProviderError.h"
+#include "platform/data/engine/Cursor.h"
+#include "platform/data/engine/Database.h"
+#include "platform/runtime/ProviderError.h"
 
 namespace data {
 
 Recordset::Recordset() = default;
 Recordset::Recordset(std::shared_ptr<Database> rows, const QString &source)
     : m_ownRows(std::move(rows)),
-      m_cursor(std::make_unique<Cursor>(m_ownRows, sql::cachedTranslation(source), adLockOptimistic))
+      m_cursor(std::make_unique<Cursor>(m_ownRows, sql::cachedTranslation(source), Cursor::Access::ReadWrite))
 {
 }
 Recordset::Recordset(Recordset &&) noexcept = default;
@@ -18,28 +19,30 @@ Recordset::~Recordset() = default;
 Cursor &Recordset::cursor()
 {
     if (!m_cursor || !m_cursor->isConnected())
-        throw objectError(ObjectClosed, "ADODB.Recordset");
+        throw provider::objectError(provider::ObjectClosed, "ADODB.Recordset");
     return *m_cursor;
 }
 
 void Recordset::Open(const QString &source, Connection &connection, CursorTypeEnum, LockTypeEnum lockType)
 {
     if (State() == adStateOpen)
-        throw objectError(ObjectOpen, "ADODB.Recordset");
+        throw provider::objectError(provider::ObjectOpen, "ADODB.Recordset");
     if (connection.State() == adStateClosed)
-        throw objectError(NoConnection, "ADODB.Recordset");
+        throw provider::objectError(provider::NoConnection, "ADODB.Recordset");
     m_cursor.reset();
     auto translation = sql::cachedTranslation(source);
     if (translation->kind == sql::StatementKind::Select)
-        m_cursor = std::make_unique<Cursor>(connection.database(), std::move(translation), lockType);
+        m_cursor =
+            std::make_unique<Cursor>(connection.m_database, std::move(translation),
+                                     lockType == adLockReadOnly ? Cursor::Access::ReadOnly : Cursor::Access::ReadWrite);
     else
-        runAction(*connection.database(), *translation);
+        runAction(*connection.m_database, *translation);
 }
 
 void Recordset::Close()
 {
-    if (cursor().editMode() != adEditNone)
-        throw objectError(NotAllowedInContext, "ADODB.Recordset");
+    if (cursor().editMode() != Cursor::Edit::None)
+        throw provider::objectError(provider::NotAllowedInContext, "ADODB.Recordset");
     m_cursor.reset();
     m_ownRows.reset();
 }
@@ -98,14 +101,14 @@ Field Recordset::Fields(QStringView name)
 {
     const int column = cursor().columnOf(name);
     if (column < 0)
-        throw objectError(NoSuchItem, "ADODB.Fields");
+        throw provider::objectError(provider::NoSuchItem, "ADODB.Fields");
     return {m_cursor.get(), column};
 }
 
 Field Recordset::Fields(int ordinal)
 {
     if (ordinal < 0 || ordinal >= cursor().columnCount())
-        throw objectError(NoSuchItem, "ADODB.Fields");
+        throw provider::objectError(provider::NoSuchItem, "ADODB.Fields");
     return {m_cursor.get(), ordinal};
 }
 

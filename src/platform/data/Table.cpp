@@ -1,8 +1,8 @@
 #include "platform/data/Table.h"
 
 #include "platform/data/Catalog.h"
-#include "platform/data/Definition.h"
-#include "platform/data/ProviderError.h"
+#include "platform/data/engine/Definition.h"
+#include "platform/runtime/ProviderError.h"
 
 #include <algorithm>
 #include <array>
@@ -20,27 +20,20 @@ template <class Definition> Definition &changeable(const std::shared_ptr<Definit
     return *definition;
 }
 
-const std::shared_ptr<Database> &connectionOf(const Catalog &catalog)
-{
-    if (!catalog.database())
-        throw objectError(NoConnection, "ADOX.Catalog");
-    return catalog.database();
-}
-
-std::shared_ptr<Database> fileOf(const Table::Definition &table)
+std::shared_ptr<Database> fileOf(const TableDefinition &table)
 {
     auto file = table.catalog.lock();
     if (!file)
-        throw objectError(NoConnection, "ADOX.Table");
+        throw provider::objectError(provider::NoConnection, "ADOX.Table");
     return file;
 }
 
-std::vector<std::shared_ptr<Column::Definition>> columnsOf(const Table::Definition &table)
+std::vector<std::shared_ptr<ColumnDefinition>> columnsOf(const TableDefinition &table)
 {
     return table.isStored ? storedColumns(fileOf(table), table.name) : table.columns;
 }
 
-std::shared_ptr<Column::Definition> columnNamed(const Table::Definition &table, const QString &name)
+std::shared_ptr<ColumnDefinition> columnNamed(const TableDefinition &table, const QString &name)
 {
     for (auto &column : columnsOf(table)) {
         if (isSameName(column->name, name))
@@ -51,8 +44,8 @@ std::shared_ptr<Column::Definition> columnNamed(const Table::Definition &table, 
 
 } // namespace
 
-Column::Column() : m_definition(std::make_shared<Definition>()) {}
-Column::Column(std::shared_ptr<Definition> definition) : m_definition(std::move(definition)) {}
+Column::Column() : m_definition(std::make_shared<ColumnDefinition>()) {}
+Column::Column(std::shared_ptr<ColumnDefinition> definition) : m_definition(std::move(definition)) {}
 
 QString Column::Name() const
 {
@@ -76,7 +69,7 @@ void Column::setType(int type)
 
 void Column::setParentCatalog(const Catalog &catalog)
 {
-    m_definition->catalog = connectionOf(catalog);
+    m_definition->catalog = catalog.database("ADOX.Catalog");
 }
 
 Properties Column::Properties() const
@@ -84,7 +77,7 @@ Properties Column::Properties() const
     return data::Properties(m_definition);
 }
 
-Properties::Properties(std::shared_ptr<Column::Definition> column) : m_column(std::move(column)) {}
+Properties::Properties(std::shared_ptr<ColumnDefinition> column) : m_column(std::move(column)) {}
 
 Property Properties::Item(QStringView name) const
 {
@@ -97,10 +90,10 @@ Property Properties::Item(QStringView name) const
         if (hasCatalog && name.compare(QStringView(known), Qt::CaseInsensitive) == 0)
             return {m_column, kind};
     }
-    throw objectError(NoSuchItem, "ADOX.Properties");
+    throw provider::objectError(provider::NoSuchItem, "ADOX.Properties");
 }
 
-Property::Property(std::shared_ptr<Column::Definition> column, Kind kind) : m_column(std::move(column)), m_kind(kind) {}
+Property::Property(std::shared_ptr<ColumnDefinition> column, Kind kind) : m_column(std::move(column)), m_kind(kind) {}
 
 runtime::Value Property::Value() const
 {
@@ -119,9 +112,9 @@ runtime::Value Property::Value() const
 
 void Property::setValue(const runtime::Value &value)
 {
-    Column::Definition &column = changeable(m_column);
+    ColumnDefinition &column = changeable(m_column);
     if (m_kind == Kind::Default ? !value.is<QString>() : !value.is<bool>())
-        throw objectError(WrongArguments, "ADOX.Property");
+        throw provider::objectError(provider::WrongArguments, "ADOX.Property");
     switch (m_kind) {
     case Kind::Default:
         column.defaultExpression = value.get<QString>();
@@ -138,8 +131,8 @@ void Property::setValue(const runtime::Value &value)
     }
 }
 
-Table::Table() : m_definition(std::make_shared<Definition>()) {}
-Table::Table(std::shared_ptr<Definition> definition) : m_definition(std::move(definition)) {}
+Table::Table() : m_definition(std::make_shared<TableDefinition>()) {}
+Table::Table(std::shared_ptr<TableDefinition> definition) : m_definition(std::move(definition)) {}
 
 QString Table::Name() const
 {
@@ -158,7 +151,7 @@ QString Table::Type() const
 
 void Table::setParentCatalog(const Catalog &catalog)
 {
-    changeable(m_definition).catalog = connectionOf(catalog);
+    changeable(m_definition).catalog = catalog.database("ADOX.Catalog");
 }
 
 Columns Table::Columns() const
@@ -166,7 +159,7 @@ Columns Table::Columns() const
     return data::Columns(m_definition);
 }
 
-Columns::Columns(std::shared_ptr<Table::Definition> table) : m_table(std::move(table)) {}
+Columns::Columns(std::shared_ptr<TableDefinition> table) : m_table(std::move(table)) {}
 
 std::vector<Column>::const_iterator Columns::begin()
 {
@@ -180,7 +173,7 @@ Column Columns::Item(QStringView name) const
 {
     auto column = columnNamed(*m_table, name.toString());
     if (!column)
-        throw objectError(NoSuchItem, "ADOX.Columns");
+        throw provider::objectError(provider::NoSuchItem, "ADOX.Columns");
     return Column(std::move(column));
 }
 
@@ -196,10 +189,11 @@ void Columns::Append(const Column &column, int type, int) const
     const auto &added = column.m_definition;
     const bool isRepeated = columnNamed(*m_table, added->name) != nullptr;
     if (added->isStored || !added->table.expired() || (isRepeated && !m_table->isStored))
-        throw objectError(AlreadyInCollection, "ADOX.Columns");
+        throw provider::objectError(provider::AlreadyInCollection, "ADOX.Columns");
     if (isRepeated)
-        throw providerError(DuplicateColumn,
-                            QStringLiteral("Field '%1' already exists in table '%2'.").arg(added->name, m_table->name));
+        throw provider::error(
+            provider::DuplicateColumn,
+            QStringLiteral("Field '%1' already exists in table '%2'.").arg(added->name, m_table->name));
     added->type = type;
     if (m_table->isStored) {
         storeColumn(*fileOf(*m_table), *m_table, *added);

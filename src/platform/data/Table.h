@@ -22,6 +22,8 @@ namespace data {
 class Catalog;
 class Columns;
 class Properties;
+struct ColumnDefinition;
+struct TableDefinition;
 
 class Column
 {
@@ -36,13 +38,11 @@ public:
     void setParentCatalog(const Catalog &catalog);
     data::Properties Properties() const;
 
-    struct Definition;
-
 private:
     friend class Columns;
-    explicit Column(std::shared_ptr<Definition> definition);
+    explicit Column(std::shared_ptr<ColumnDefinition> definition);
 
-    std::shared_ptr<Definition> m_definition;
+    std::shared_ptr<ColumnDefinition> m_definition;
 };
 
 class Property
@@ -56,9 +56,9 @@ public:
 private:
     friend class Properties;
     enum class Kind { AutoIncrement, Default, Nullable, Required };
-    Property(std::shared_ptr<Column::Definition> column, Kind kind);
+    Property(std::shared_ptr<ColumnDefinition> column, Kind kind);
 
-    std::shared_ptr<Column::Definition> m_column;
+    std::shared_ptr<ColumnDefinition> m_column;
     Kind m_kind;
 };
 
@@ -78,9 +78,9 @@ public:
 
 private:
     friend class Column;
-    explicit Properties(std::shared_ptr<Column::Definition> column);
+    explicit Properties(std::shared_ptr<ColumnDefinition> column);
 
-    std::shared_ptr<Column::Definition> m_column;
+    std::shared_ptr<ColumnDefinition> m_column;
 };
 
 class Table
@@ -96,13 +96,11 @@ public:
     void setParentCatalog(const Catalog &catalog);
     data::Columns Columns() const;
 
-    struct Definition;
-
 private:
     friend class Tables;
-    explicit Table(std::shared_ptr<Definition> definition);
+    explicit Table(std::shared_ptr<TableDefinition> definition);
 
-    std::shared_ptr<Definition> m_definition;
+    std::shared_ptr<TableDefinition> m_definition;
 };
 
 // The columns of a table in their order.
@@ -122,10 +120,10 @@ public:
 
 private:
     friend class Table;
-    explicit Columns(std::shared_ptr<Table::Definition> table);
+    explicit Columns(std::shared_ptr<TableDefinition> table);
     std::vector<Column> read() const;
 
-    std::shared_ptr<Table::Definition> m_table;
+    std::shared_ptr<TableDefinition> m_table;
     std::vector<Column> m_enumerated;
 };
 

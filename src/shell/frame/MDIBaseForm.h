@@ -7,7 +7,7 @@
 #include "platform/desktop/StatusBar.h"
 #include "platform/desktop/Toolbar.h"
 #include "platform/runtime/Value.h"
-#include "shell/Session.h"
+#include "shell/session/Session.h"
 
 #include <QAction>
 #include <QMenu>

@@ -2,7 +2,7 @@
 
 #include "platform/desktop/Twips.h"
 #include "platform/runtime/ErrorHandling.h"
-#include "shell/Session.h"
+#include "shell/session/Session.h"
 
 #include <QComboBox>
 

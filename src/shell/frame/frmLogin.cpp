@@ -5,9 +5,9 @@
 #include "platform/desktop/MsgBox.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/Conversion.h"
-#include "shell/DataStore.h"
 #include "shell/frame/MDIBaseForm.h"
 #include "shell/frame/frmSplash.h"
+#include "shell/store/DataStore.h"
 
 #include <QApplication>
 #include <QGridLayout>

@@ -1,10 +1,10 @@
 #include "shell/users/frmNewUser.h"
 
-#include "platform/desktop/FieldGrid.h"
+#include "parts/FieldGrid.h"
 #include "platform/desktop/MsgBox.h"
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/Random.h"
-#include "shell/CLsDataBaseConnection.h"
+#include "shell/store/CLsDataBaseConnection.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -79,7 +79,7 @@ void frmNewUser::setUpContent()
 
 void frmNewUser::setUpBoxes()
 {
-    desktop::FieldGrid grid(Frame1);
+    FieldGrid grid(Frame1);
     const auto add = [&grid](QAnyStringView name, const QString &label, QAnyStringView labelName,
                              const QString &column = {}) {
         TextBox *box = grid.addText(name, label);

@@ -1,11 +1,11 @@
 #include "shell/users/frmOptions.h"
 
+#include "parts/FieldGrid.h"
 #include "platform/data/Recordset.h"
-#include "platform/desktop/FieldGrid.h"
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/MsgBox.h"
 #include "platform/desktop/Twips.h"
-#include "shell/DataStore.h"
+#include "shell/store/DataStore.h"
 
 #include <QHBoxLayout>
 #include <QShortcut>
@@ -66,7 +66,7 @@ void frmOptions::setUpPages()
 
 void frmOptions::setUpPassword()
 {
-    desktop::FieldGrid grid(fraSample1);
+    FieldGrid grid(fraSample1);
     const auto add = [&grid](QAnyStringView name, const QString &label, QAnyStringView labelName) {
         desktop::TextBox *box = grid.addText(name, label);
         box->setEchoMode(QLineEdit::Password);

@@ -1,5 +1,5 @@
 #include "platform/data/Catalog.h"
-#include "platform/data/ProviderError.h"
+#include "platform/runtime/ProviderError.h"
 #include "support/DataFolder.h"
 
 #include <QRegularExpression>
@@ -296,7 +296,7 @@ void CatalogTest::addsColumnsToAStoredTable()
             found.Columns().Append(fax, data::adVarWChar, 0);
     }
     QCOMPARE(namesOf(table.Columns()).last(), u"Fax"_s);
-    QCOMPARE(errorNumberOf([&] { before[u"Fax"].Value(); }), data::NoSuchItem); // its rows were read before
+    QCOMPARE(errorNumberOf([&] { before[u"Fax"].Value(); }), provider::NoSuchItem); // its rows were read before
     Recordset after;
     after.Open(u"select * from [T]"_s, m_connection);
     QVERIFY(after[u"Fax"].Value().isNull());
@@ -310,30 +310,30 @@ void CatalogTest::addsColumnsToAStoredTable()
 
 void CatalogTest::givesPropertiesWithACatalog()
 {
-    QCOMPARE(errorNumberOf([] { Catalog().Tables(); }), data::NoConnection);
+    QCOMPARE(errorNumberOf([] { Catalog().Tables(); }), provider::NoConnection);
     Table table;
     table.setName(u"T"_s);
-    QCOMPARE(errorNumberOf([&] { m_catalog.Tables().Append(table); }), data::SyntaxError); // no column
+    QCOMPARE(errorNumberOf([&] { m_catalog.Tables().Append(table); }), provider::SyntaxError); // no column
     table.Columns().Append(u"Key"_s, data::adInteger);
     const Column key = table.Columns().Item(u"KEY");
-    QCOMPARE(errorNumberOf([&] { key.Properties().Item(u"AutoIncrement"); }), data::NoSuchItem);
-    QCOMPARE(errorNumberOf([&] { table.Columns().Item(u"Keys"); }), data::NoSuchItem);
-    QCOMPARE(errorNumberOf([&] { table.Columns().Append(u"key"_s); }), data::AlreadyInCollection);
-    QCOMPARE(errorNumberOf([&] { Table().Columns().Append(key, 3, 0); }), data::AlreadyInCollection);
+    QCOMPARE(errorNumberOf([&] { key.Properties().Item(u"AutoIncrement"); }), provider::NoSuchItem);
+    QCOMPARE(errorNumberOf([&] { table.Columns().Item(u"Keys"); }), provider::NoSuchItem);
+    QCOMPARE(errorNumberOf([&] { table.Columns().Append(u"key"_s); }), provider::AlreadyInCollection);
+    QCOMPARE(errorNumberOf([&] { Table().Columns().Append(key, 3, 0); }), provider::AlreadyInCollection);
 
     table.setParentCatalog(m_catalog);
-    QCOMPARE(errorNumberOf([&] { key.Properties().Item(u"Seed"); }), data::NoSuchItem);
-    QCOMPARE(errorNumberOf([&] { set(key, u"AutoIncrement", Value(1)); }), data::WrongArguments);
-    QCOMPARE(errorNumberOf([&] { set(key, u"Default", Value(1)); }), data::WrongArguments);
+    QCOMPARE(errorNumberOf([&] { key.Properties().Item(u"Seed"); }), provider::NoSuchItem);
+    QCOMPARE(errorNumberOf([&] { set(key, u"AutoIncrement", Value(1)); }), provider::WrongArguments);
+    QCOMPARE(errorNumberOf([&] { set(key, u"Default", Value(1)); }), provider::WrongArguments);
     m_catalog.Tables().Append(table);
-    QCOMPARE(errorNumberOf([&] { set(key, u"Nullable", Value(true)); }), data::MultipleStep); // too late
-    QCOMPARE(errorNumberOf([&] { table.setName(u"Other"_s); }), data::MultipleStep);
+    QCOMPARE(errorNumberOf([&] { set(key, u"Nullable", Value(true)); }), provider::MultipleStep); // too late
+    QCOMPARE(errorNumberOf([&] { table.setName(u"Other"_s); }), provider::MultipleStep);
 
     const QString missing = DataFolder::connectionStringFor(m_folder->path(u"none.mdb"_s));
     QVERIFY(errorOf([&] { m_catalog.setActiveConnection(missing); }).contains(u"Could not find file"));
     QCOMPARE(namesOf(table.Columns()), QStringList{u"Key"_s}); // the former connection is kept
     m_catalog = Catalog();
-    QCOMPARE(errorNumberOf([&] { namesOf(table.Columns()); }), data::NoConnection);
+    QCOMPARE(errorNumberOf([&] { namesOf(table.Columns()); }), provider::NoConnection);
 }
 
 void CatalogTest::sharesAConnectionToOneFileOnly()

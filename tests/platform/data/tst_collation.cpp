@@ -1,4 +1,4 @@
-#include "platform/data/Collation.h"
+#include "platform/data/engine/Collation.h"
 #include "platform/data/sql/Translation.h"
 #include "support/DataFolder.h"
 

@@ -4,7 +4,7 @@
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
-using data::ColumnDefinition;
+using data::FieldDefinition;
 using data::Recordset;
 using runtime::Value;
 
@@ -22,11 +22,11 @@ private Q_SLOTS:
 
 namespace {
 
-const std::vector<ColumnDefinition> hits{{u"DocumentId"_s, data::adInteger, -1, false},
-                                         {u"DocumentName"_s, data::adChar, 255, true},
-                                         {u"Version"_s, data::adInteger, -1, true}};
+const std::vector<FieldDefinition> hits{{u"DocumentId"_s, data::adInteger, -1, false},
+                                        {u"DocumentName"_s, data::adChar, 255, true},
+                                        {u"Version"_s, data::adInteger, -1, true}};
 
-Recordset made(const std::vector<ColumnDefinition> &columns = hits)
+Recordset made(const std::vector<FieldDefinition> &columns = hits)
 {
     return data::DataFactory().CreateRecordset(columns);
 }
@@ -94,19 +94,19 @@ void DataFactoryTest::refusesValues()
 
 void DataFactoryTest::refusesDefinitions_data()
 {
-    QTest::addColumn<std::vector<ColumnDefinition>>("columns");
+    QTest::addColumn<std::vector<FieldDefinition>>("columns");
     QTest::addColumn<bool>("refused");
 
-    const ColumnDefinition id = hits.front();
-    QTest::newRow("blanks in a name") << std::vector<ColumnDefinition>{{u"a b"_s, data::adChar, 1, true}} << false;
-    QTest::newRow("none") << std::vector<ColumnDefinition>{} << true;
+    const FieldDefinition id = hits.front();
+    QTest::newRow("blanks in a name") << std::vector<FieldDefinition>{{u"a b"_s, data::adChar, 1, true}} << false;
+    QTest::newRow("none") << std::vector<FieldDefinition>{} << true;
     QTest::newRow("two of one name") << std::vector{id, id} << true;
-    QTest::newRow("another type") << std::vector<ColumnDefinition>{{u"a"_s, data::DataTypeEnum(9), 0, true}} << true;
+    QTest::newRow("another type") << std::vector<FieldDefinition>{{u"a"_s, data::DataTypeEnum(9), 0, true}} << true;
 }
 
 void DataFactoryTest::refusesDefinitions()
 {
-    QFETCH(std::vector<ColumnDefinition>, columns);
+    QFETCH(std::vector<FieldDefinition>, columns);
     QFETCH(bool, refused);
     QCOMPARE(errorOf([&] { made(columns); }).startsWith(u"3001 Arguments are of the wrong type, "), refused);
 }

@@ -1,6 +1,7 @@
 #include "platform/data/sql/Checks.h"
 
 #include "platform/data/sql/SyntaxError.h"
+#include "platform/runtime/ProviderError.h"
 
 #include <algorithm>
 #include <functional>
@@ -10,8 +11,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace sql {
 
 namespace {
-
-constexpr int notGroupedNumber = -2147217887;
 
 bool isSame(QStringView a, QStringView b)
 {
@@ -75,10 +74,9 @@ void checkAliases(const Tree &tree)
 void checkGrouping(const Tree &tree)
 {
     const auto refuse = [](const QString &what) {
-        throw runtime::RuntimeError(notGroupedNumber,
-                                    u"You tried to execute a query that does not include the specified expression "
-                                    u"'%1' as part of an aggregate function."_s.arg(what),
-                                    u"Microsoft JET Database Engine"_s);
+        throw provider::error(provider::MultipleStep,
+                              u"You tried to execute a query that does not include the specified expression '%1' as "
+                              u"part of an aggregate function."_s.arg(what));
     };
     const auto isLoose = [&tree](const Expression &part) {
         return part.kind == ExpressionKind::Column &&

@@ -1,12 +1,12 @@
 #include "platform/data/sql/SyntaxError.h"
 
+#include "platform/runtime/ProviderError.h"
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace sql {
 
 namespace {
-
-constexpr int syntaxErrorNumber = -2147217900;
 
 // "%1" is the expression.
 QString patternOf(Fault fault)
@@ -61,7 +61,7 @@ QString textOf(Clause clause)
 
 runtime::RuntimeError syntaxError(const QString &description)
 {
-    return runtime::RuntimeError(syntaxErrorNumber, description, u"Microsoft JET Database Engine"_s);
+    return provider::error(provider::SyntaxError, description);
 }
 
 runtime::RuntimeError faultIn(QStringView expression, Fault fault)

@@ -1,0 +1,38 @@
+// The label and the box that a user arranges on a canvas: they report the mouse and the focus.
+//
+// Each covers its place whole, so that the canvas is painted anew where one goes away and not where one comes.
+#pragma once
+
+#include "platform/desktop/Controls.h"
+
+// button: the sum of the buttons that are held; shift: of Shift, Ctrl and Alt; x and y in twips of the control itself.
+class CanvasLabel : public desktop::Label
+{
+    Q_OBJECT
+public:
+    CanvasLabel(QWidget *parent, QAnyStringView name);
+
+Q_SIGNALS:
+    void MouseMove(int button, int shift, float x, float y);
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+};
+
+class CanvasTextBox : public desktop::TextBox
+{
+    Q_OBJECT
+public:
+    CanvasTextBox(QWidget *parent, QAnyStringView name);
+
+Q_SIGNALS:
+    void MouseDown(int button, int shift);
+    void MouseMove(int button, int shift, float x, float y);
+    void GotFocus();
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+};

@@ -1,0 +1,62 @@
+#include "events/Calendar.h"
+
+#include "platform/runtime/Regional.h"
+#include "platform/runtime/RuntimeError.h"
+
+#include <QSignalBlocker>
+
+namespace {
+
+int within(int part, int first, int last)
+{
+    if (part < first || part > last)
+        throw runtime::RuntimeError(runtime::InvalidPropertyValue);
+    return part;
+}
+
+} // namespace
+
+Calendar::Calendar(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
+{
+    setLocale(runtime::regional());
+    setVerticalHeaderFormat(NoVerticalHeader);
+    takeOver();
+    connect(this, &QCalendarWidget::selectionChanged, this, &Calendar::takeOver);
+    connect(this, &QCalendarWidget::clicked, this, &Calendar::Click);
+    connect(this, &QCalendarWidget::activated, this, &Calendar::Click);
+}
+
+void Calendar::takeOver()
+{
+    selectedDate().getDate(&m_year, &m_month, &m_day);
+}
+
+void Calendar::showDay()
+{
+    const QSignalBlocker quiet(this); // what is shown on the way is not what was asked for
+    const int lastDay = QDate(m_year, m_month, 1).daysInMonth();
+    setSelectedDate(QDate(m_year, m_month, qMin(m_day, lastDay)));
+}
+
+void Calendar::setMonth(int month)
+{
+    m_month = within(month, 1, 12);
+    showDay();
+}
+
+void Calendar::setDay(int day)
+{
+    m_day = within(day, 1, 31);
+    showDay();
+}
+
+void Calendar::setYear(int year)
+{
+    m_year = within(year, minimumDate().year() + 1, maximumDate().year());
+    showDay();
+}
+
+runtime::Value Calendar::Value() const
+{
+    return runtime::Value(runtime::Date(selectedDate()));
+}

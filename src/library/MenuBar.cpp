@@ -1,0 +1,34 @@
+#include "library/MenuBar.h"
+
+#include <QEvent>
+#include <QShortcut>
+
+MenuBar::MenuBar(QWidget *window, QAnyStringView name) : ControlOf(window, name)
+{
+    setNativeMenuBar(false);
+    auto *shortcut = new QShortcut(Qt::Key_F10, window);
+    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(shortcut, &QShortcut::activated, this, &MenuBar::openFirst);
+}
+
+desktop::PopupMenu *MenuBar::add(const QString &name, const QString &caption)
+{
+    auto *menu = new desktop::PopupMenu(this, name + QLatin1String(".menu"), caption);
+    menu->menuAction()->setObjectName(name);
+    addMenu(menu);
+    return menu;
+}
+
+// Every bar under the frame sees the Alt key and would take the keyboard from the others.
+bool MenuBar::eventFilter(QObject *watched, QEvent *event)
+{
+    return event->type() != QEvent::ShortcutOverride && ControlOf::eventFilter(watched, event);
+}
+
+void MenuBar::openFirst()
+{
+    for (QAction *menu : actions()) {
+        if (menu->isVisible() && menu->isEnabled())
+            return setActiveAction(menu);
+    }
+}

@@ -1,0 +1,121 @@
+#include "parts/SplitPanes.h"
+
+#include "platform/desktop/Form.h"
+#include "platform/desktop/Keys.h"
+#include "platform/desktop/Twips.h"
+#include "platform/runtime/ErrorHandling.h"
+
+#include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
+
+using desktop::Form;
+using desktop::ImageList;
+using desktop::Label;
+using desktop::ListView;
+using desktop::Panel;
+using desktop::PictureBox;
+using desktop::pixels;
+using desktop::StatusBar;
+using desktop::TreeView;
+using desktop::twips;
+
+namespace {
+
+constexpr double statusBarHeight = 345;
+constexpr double panesBottom = 8115;
+constexpr double panesRight = 13770;
+constexpr double margin = 60;
+
+// What the panes leave free of the window.
+constexpr double aboveAndBelowPanes = 1720;
+constexpr double splitterBesideHeadline = 425;
+constexpr double rightOfList = 200;
+
+// A headline stands out from what it heads.
+void asHeadline(Label &label)
+{
+    label.setFrameStyle(QFrame::Panel | QFrame::Raised);
+    label.setAutoFillBackground(true);
+    label.setBackgroundRole(QPalette::Button);
+    label.setForegroundRole(QPalette::ButtonText);
+    label.setIndent(6);
+    label.setShrinksToFit();
+}
+
+} // namespace
+
+SplitPanes::SplitPanes(Form &window, const Headline &overTree, const Headline &overList)
+    : treeHeadline(new Label(&window, overTree.name, overTree.text)),
+      listHeadline(new Label(&window, overList.name, overList.text)),
+      TreClassView(new TreeView(&window, u"TreClassView")), Picture1(new PictureBox(&window, u"Picture1")),
+      LstStudenInformation(new ListView(&window, u"LstStudenInformation")),
+      StatusBar1(new StatusBar(&window, u"StatusBar1")), ImageList1(new ImageList(&window, u"ImageList1")),
+      m_window(window)
+{
+    ImageList1->add(u"OpenFolder"_s, u":/icons/folder-open.svg"_s);
+    ImageList1->add(u"ClosedFolder"_s, u":/icons/folder-closed.svg"_s);
+    asHeadline(*treeHeadline);
+    asHeadline(*listHeadline);
+    treeHeadline->setToolTip(u"Click to Refresh"_s);
+    LstStudenInformation->setAccessibleName(overList.text);
+    Picture1->setFrameStyle(QFrame::VLine | QFrame::Raised);
+    desktop::on(Picture1, &PictureBox::MouseMove, Picture1, [this](PictureBox *, int button, float x, float) {
+        runtime::endSilently([this, button, x] { dragSplitter(button, x); });
+    });
+    StatusBar1->addKeyboardAndClockPanels();
+    setUpPlaces();
+}
+
+void SplitPanes::setUpPlaces()
+{
+    treeHeadline->Move(60, 480, 2475, 375);
+    listHeadline->Move(2595, 480, 11175, 375);
+    TreClassView->Move(60, 900, 2475, 7215);
+    Picture1->Move(2580, 480, 30, 7635);
+    LstStudenInformation->Move(2595, 900, 11175, 7215);
+    Picture1->raise(); // it lies over the edge of the list
+    m_window.resize(pixels(panesRight + margin), pixels(panesBottom + statusBarHeight + margin));
+    placeStatusBar();
+}
+
+void SplitPanes::placeStatusBar()
+{
+    StatusBar1->place(0, twips(m_window.height()) - statusBarHeight, twips(m_window.width()), statusBarHeight);
+}
+
+void SplitPanes::followWindow()
+{
+    const double width = m_window.Width();
+    const double paneHeight = std::abs(m_window.Height() - aboveAndBelowPanes);
+    TreClassView->setHeight(paneHeight);
+    Picture1->setHeight(paneHeight + splitterBesideHeadline);
+    const double left = LstStudenInformation->Left();
+    listHeadline->setLeft(left);
+    listHeadline->setWidth(std::abs(width - (left + rightOfList)));
+    treeHeadline->setWidth(TreClassView->Width());
+    LstStudenInformation->setHeight(paneHeight);
+    LstStudenInformation->setWidth(listHeadline->Width());
+    for (Panel *panel : StatusBar1->Panels())
+        panel->setPanelWidth(width / double(StatusBar1->Panels().size()));
+}
+
+void SplitPanes::dragSplitter(int button, float x)
+{
+    Picture1->setCursor(Qt::SizeHorCursor);
+    if (button != desktop::vbLeftButton)
+        return;
+    const float newTreeWidth = float(TreClassView->Width()) + x;
+    const float newListLeft = newTreeWidth + 45 + float(Picture1->Width()) + 25;
+    const float reach = newTreeWidth + 25;
+    const double windowWidth = m_window.Width();
+    if (!(reach > 80 && double(reach) <= windowWidth - 335))
+        return;
+    TreClassView->setWidth(double(newTreeWidth));
+    Picture1->setLeft(double(newTreeWidth) + 45);
+    LstStudenInformation->setLeft(double(newListLeft));
+    LstStudenInformation->setWidth(std::abs(double(newListLeft) + rightOfList - windowWidth));
+    listHeadline->setLeft(LstStudenInformation->Left());
+    listHeadline->setWidth(LstStudenInformation->Width());
+    treeHeadline->setWidth(TreClassView->Width());
+}

@@ -1,0 +1,309 @@
+#include "platform/data/engine/Database.h"
+
+#include "platform/data/engine/Collation.h"
+#include "platform/runtime/ProviderError.h"
+
+#include <QFileInfo>
+
+#include <sqlite3.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace data {
+
+namespace {
+
+constexpr int busyTimeout = 2000; // milliseconds; another tool may hold the file for a moment
+
+struct NumberedText
+{
+    int number;
+    QString text;
+};
+
+QString cannotOpen(const QString &path)
+{
+    return u"The Microsoft Jet database engine cannot open the file '%1'.  It is already opened exclusively by another "
+           u"user, or you need permission to view its data."_s.arg(path);
+}
+
+// The provider's answer to a result code of SQLite, as a statement that changes rows meets it.
+NumberedText providerAnswer(int extendedCode, const QString &message, const QString &path)
+{
+    switch (extendedCode) {
+    case SQLITE_CONSTRAINT_UNIQUE:
+    case SQLITE_CONSTRAINT_PRIMARYKEY:
+    case SQLITE_CONSTRAINT_ROWID:
+        return {provider::Unspecified,
+                u"The changes you requested to the table were not successful because they would create "
+                u"duplicate values in the index, primary key, or relationship.  Change the data in the "
+                u"field or fields that contain duplicate data, remove the index, or redefine the index to "
+                u"permit duplicate entries and try again."_s};
+    case SQLITE_CONSTRAINT_NOTNULL:
+        return {provider::Unspecified,
+                u"The field '%1' cannot contain a Null value because the Required property for this field "
+                u"is set to True.  Enter a value in this field."_s.arg(message.section(u": "_s, 1))};
+    default:
+        break;
+    }
+    switch (extendedCode & 0xff) {
+    case SQLITE_NOTADB:
+    case SQLITE_CORRUPT:
+        return {provider::Unspecified, u"Unrecognized database format '%1'."_s.arg(path)};
+    case SQLITE_CANTOPEN:
+    case SQLITE_PERM:
+    case SQLITE_AUTH:
+        return {provider::Unspecified, cannotOpen(path)};
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return {provider::Unspecified, u"Could not use '%1'; file already in use."_s.arg(path)};
+    case SQLITE_READONLY:
+        return {provider::Unspecified, u"Operation must use an updateable query."_s};
+    case SQLITE_FULL:
+        return {runtime::DiskFull, runtime::errorText(runtime::DiskFull)};
+    case SQLITE_NOMEM:
+        return {runtime::OutOfMemory, runtime::errorText(runtime::OutOfMemory)};
+    default:
+        return {provider::Unspecified, message};
+    }
+}
+
+int compareForSqlite(void *, int lengthA, const void *a, int lengthB, const void *b)
+{
+    return compareTexts({static_cast<const char *>(a), lengthA}, {static_cast<const char *>(b), lengthB});
+}
+
+// SQLite asks for a collation when a statement first names it, so that opening a file does not pay for it.
+void provideCollation(void *, sqlite3 *handle, int, const char *name)
+{
+    if (qstricmp(name, "STORE") == 0)
+        sqlite3_create_collation_v2(handle, name, SQLITE_UTF8, nullptr, compareForSqlite, nullptr);
+}
+
+QByteArrayView textOf(sqlite3_value *value)
+{
+    const auto *bytes = reinterpret_cast<const char *>(sqlite3_value_text(value));
+    return {bytes, sqlite3_value_bytes(value)};
+}
+
+void likeForSqlite(sqlite3_context *context, int, sqlite3_value **arguments)
+{
+    if (sqlite3_value_type(arguments[0]) == SQLITE_NULL || sqlite3_value_type(arguments[1]) == SQLITE_NULL)
+        return sqlite3_result_null(context);
+    sqlite3_result_int(context, matchesLike(textOf(arguments[0]), textOf(arguments[1])) ? 1 : 0);
+}
+
+} // namespace
+
+class Database::Blob
+{
+public:
+    explicit Blob(sqlite3_blob *opened) : handle(opened) {}
+    Blob(const Blob &) = delete;
+    Blob &operator=(const Blob &) = delete;
+    ~Blob() { sqlite3_blob_close(handle); }
+
+    sqlite3_blob *const handle; // none where there are no bytes to open
+};
+
+StoreError::StoreError(int extendedCode, const QString &message, const QString &path)
+    : RuntimeError(providerAnswer(extendedCode, message, path).number, providerAnswer(extendedCode, message, path).text,
+                   provider::source()),
+      m_extendedCode(extendedCode)
+{
+}
+
+bool StoreError::isConstraint() const
+{
+    return (m_extendedCode & 0xff) == SQLITE_CONSTRAINT;
+}
+
+bool StoreError::isReadOnly() const
+{
+    return (m_extendedCode & 0xff) == SQLITE_READONLY;
+}
+
+void Database::Close::operator()(sqlite3 *handle) const noexcept
+{
+    sqlite3_close_v2(handle);
+}
+
+void Database::fail(int code) const
+{
+    sqlite3 *handle = m_handle.get();
+    const int extended = handle && sqlite3_errcode(handle) != SQLITE_OK ? sqlite3_extended_errcode(handle) : code;
+    throw StoreError(extended, QString::fromUtf8(handle ? sqlite3_errmsg(handle) : sqlite3_errstr(code)), m_path);
+}
+
+void Database::check(int code) const
+{
+    if (code != SQLITE_OK)
+        fail(code);
+}
+
+void Database::openWith(const QString &path, int flags)
+{
+    sqlite3 *handle = nullptr;
+    // Without locks round each call: a connection belongs to the one thread.
+    const int code = sqlite3_open_v2(path.toUtf8().constData(), &handle, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    m_schemaReader.finalize();
+    m_handle.reset(handle); // also of a failed open
+    m_path = path;
+    m_hasLike = false;
+    check(code);
+    sqlite3_extended_result_codes(handle, 1);
+    sqlite3_busy_timeout(handle, busyTimeout);
+    sqlite3_collation_needed(handle, nullptr, provideCollation);
+    // A name in double quotes is a name: a misspelt column must not turn into a text.
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+}
+
+void Database::open(const QString &path)
+{
+    close();
+    m_path = path;
+    const QFileInfo file(path);
+    if (!file.exists()) {
+        if (!QFileInfo::exists(file.path()))
+            throw provider::error(provider::Unspecified,
+                                  u"'%1' is not a valid path.  Make sure that the path name is spelled "
+                                  u"correctly and that you are connected to the server on which the file "
+                                  u"resides."_s.arg(path));
+        throw provider::error(provider::Unspecified, u"Could not find file '%1'."_s.arg(path));
+    }
+    if (file.isDir())
+        throw provider::error(provider::Unspecified, cannotOpen(path));
+    if (file.size() == 0) // SQLite would take it for a new data file
+        throw StoreError(SQLITE_NOTADB, {}, path);
+    try {
+        openWith(path, SQLITE_OPEN_READWRITE);
+        // Asking for any column reads the schema, which the first statement needs in any case.
+        const int code = sqlite3_table_column_metadata(m_handle.get(), "main", "sqlite_master", "name", nullptr,
+                                                       nullptr, nullptr, nullptr, nullptr);
+        check(code);
+    } catch (const StoreError &) {
+        m_handle.reset();
+        throw;
+    }
+}
+
+void Database::close()
+{
+    m_schemaReader.finalize();
+    m_handle.reset();
+}
+
+void Database::create(const QString &path)
+{
+    m_path = path;
+    if (QFileInfo::exists(path) || QFileInfo(path).isSymLink())
+        throw provider::error(provider::DatabaseExists, u"Database already exists."_s);
+    openWith(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_EXCLUSIVE);
+}
+
+void Database::createInMemory()
+{
+    openWith(u":memory:"_s, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+}
+
+void Database::execute(const QByteArray &sql)
+{
+    check(sqlite3_exec(m_handle.get(), sql.constData(), nullptr, nullptr, nullptr));
+}
+
+void Database::executeWhole(const QByteArray &sql)
+{
+    execute("BEGIN IMMEDIATE");
+    try {
+        execute(sql);
+        execute("COMMIT");
+    } catch (const StoreError &) {
+        sqlite3_exec(m_handle.get(), "ROLLBACK", nullptr, nullptr, nullptr); // SQLite may have done it already
+        throw;
+    }
+}
+
+Statement Database::prepare(QByteArrayView sql) const
+{
+    sqlite3_stmt *statement = nullptr;
+    check(sqlite3_prepare_v2(m_handle.get(), sql.data(), int(sql.size()), &statement, nullptr));
+    return Statement(statement, m_path);
+}
+
+qint64 Database::lastInsertRowId() const
+{
+    return sqlite3_last_insert_rowid(m_handle.get());
+}
+
+int Database::changedRows() const
+{
+    return sqlite3_changes(m_handle.get());
+}
+
+void Database::refreshSchema()
+{
+    if (!m_schemaReader.isPrepared())
+        m_schemaReader = prepare("SELECT 1 FROM sqlite_master LIMIT 0");
+    m_schemaReader.step(); // a step, unlike a preparation, looks whether the file's schema is still the one in memory
+    m_schemaReader.reset();
+}
+
+std::optional<QByteArray> Database::declaredType(const QByteArray &table, const QByteArray &column) const
+{
+    const char *declared = nullptr;
+    const int code = sqlite3_table_column_metadata(m_handle.get(), "main", table.constData(), column.constData(),
+                                                   &declared, nullptr, nullptr, nullptr, nullptr);
+    return code == SQLITE_OK ? std::optional(QByteArray(declared)) : std::nullopt;
+}
+
+bool Database::hasTable(const QByteArray &table) const
+{
+    return sqlite3_table_column_metadata(m_handle.get(), "main", table.constData(), nullptr, nullptr, nullptr, nullptr,
+                                         nullptr, nullptr) == SQLITE_OK;
+}
+
+bool Database::isKey(const QByteArray &table, const QByteArray &column) const
+{
+    int key = 0;
+    const int code = sqlite3_table_column_metadata(m_handle.get(), "main", table.constData(), column.constData(),
+                                                   nullptr, nullptr, nullptr, &key, nullptr);
+    return code == SQLITE_OK && key != 0;
+}
+
+Database::Blob Database::openBlob(const QByteArray &table, const QByteArray &column, qint64 rowId) const
+{
+    sqlite3_blob *handle = nullptr;
+    const int code =
+        sqlite3_blob_open(m_handle.get(), "main", table.constData(), column.constData(), rowId, 0, &handle);
+    if (code != SQLITE_ERROR) // what has no bytes to open
+        check(code);
+    return Blob(handle);
+}
+
+std::optional<QByteArray> Database::readBlob(const QByteArray &table, const QByteArray &column, qint64 rowId) const
+{
+    const Blob blob = openBlob(table, column, rowId);
+    if (!blob.handle)
+        return std::nullopt;
+    QByteArray bytes(sqlite3_blob_bytes(blob.handle), Qt::Uninitialized);
+    check(sqlite3_blob_read(blob.handle, bytes.data(), int(bytes.size()), 0));
+    return bytes;
+}
+
+std::optional<qint64> Database::blobSize(const QByteArray &table, const QByteArray &column, qint64 rowId) const
+{
+    const Blob blob = openBlob(table, column, rowId);
+    return blob.handle ? std::optional<qint64>(sqlite3_blob_bytes(blob.handle)) : std::nullopt;
+}
+
+void Database::provideLike()
+{
+    if (m_hasLike)
+        return;
+    check(sqlite3_create_function_v2(m_handle.get(), "store_like", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
+                                     likeForSqlite, nullptr, nullptr, nullptr));
+    m_hasLike = true;
+}
+
+} // namespace data

@@ -1,0 +1,91 @@
+// One open SQLite file: the only owner of a sqlite3 handle. It speaks SQLite's own SQL; Connection speaks the dialect.
+//
+// Every failing call raises StoreError. A failed open closes what it had opened. Not for the windows.
+#pragma once
+
+#include "platform/data/engine/Statement.h"
+#include "platform/runtime/RuntimeError.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+struct sqlite3;
+
+namespace data {
+
+// A result code of SQLite as the provider's error; the extended code is kept for who wants to tell more.
+class StoreError : public runtime::RuntimeError
+{
+public:
+    StoreError(int extendedCode, const QString &message, const QString &path);
+    int extendedCode() const { return m_extendedCode; }
+    bool isConstraint() const;
+    bool isReadOnly() const;
+
+private:
+    int m_extendedCode;
+};
+
+class Database
+{
+public:
+    Database() = default;
+    Database(Database &&) noexcept = default;
+    Database &operator=(Database &&) noexcept = default;
+    ~Database() = default;
+
+    // Opens a file that exists, for reading and writing, or for reading alone where it may not be written, and reads
+    // its schema, so that a file of another kind is refused here.
+    void open(const QString &path);
+    // Makes a new file and opens it; refuses a path at which something stands.
+    void create(const QString &path);
+    // Makes a file that lives in memory until it is closed.
+    void createInMemory();
+    void close();
+    bool isOpen() const { return m_handle != nullptr; }
+    const QString &path() const { return m_path; }
+
+    // Runs one statement or several, separated by semicolons.
+    void execute(const QByteArray &sql);
+    // The same as one change of the file: with an error none of them was run.
+    void executeWhole(const QByteArray &sql);
+    Statement prepare(QByteArrayView sql) const;
+
+    qint64 lastInsertRowId() const;
+    // How many rows the last INSERT, UPDATE or DELETE changed.
+    int changedRows() const;
+    // Takes note of tables and columns that another connection has made or changed: what is prepared and asked after
+    // this knows them.
+    void refreshSchema();
+    // The declared type of a column; empty when the table or the column does not exist.
+    std::optional<QByteArray> declaredType(const QByteArray &table, const QByteArray &column) const;
+    bool hasTable(const QByteArray &table) const;
+    bool isKey(const QByteArray &table, const QByteArray &column) const;
+    // The bytes of one binary value, read straight into the result, and how many there are without reading them.
+    // Nothing for a Null, a number, and a row that is gone.
+    std::optional<QByteArray> readBlob(const QByteArray &table, const QByteArray &column, qint64 rowId) const;
+    std::optional<qint64> blobSize(const QByteArray &table, const QByteArray &column, qint64 rowId) const;
+    // Provides the SQL function store_like(PATTERN, VALUE) of Collation.h.
+    void provideLike();
+
+private:
+    struct Close
+    {
+        void operator()(sqlite3 *handle) const noexcept;
+    };
+    void openWith(const QString &path, int flags);
+    [[noreturn]] void fail(int code) const;
+    void check(int code) const;
+    class Blob;
+    Blob openBlob(const QByteArray &table, const QByteArray &column, qint64 rowId) const;
+
+    std::unique_ptr<sqlite3, Close> m_handle;
+    Statement m_schemaReader; // goes before the handle
+    QString m_path;
+    bool m_hasLike = false;
+};
+
+} // namespace data

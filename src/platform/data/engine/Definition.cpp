@@ -1,0 +1,215 @@
+#include "platform/data/engine/Definition.h"
+
+#include "platform/data/engine/ColumnType.h"
+#include "platform/data/engine/DefaultExpression.h"
+#include "platform/data/sql/SqlText.h"
+#include "platform/runtime/ProviderError.h"
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace data {
+
+namespace {
+
+const char *declarationOf(int type)
+{
+    switch (ColumnType(type)) {
+    case ColumnType::Integer:
+        return "SMALLINT";
+    case ColumnType::Long:
+        return "INTEGER";
+    case ColumnType::Double:
+        return "DOUBLE";
+    case ColumnType::Currency:
+        return "CURRENCY";
+    case ColumnType::Date:
+        return "DATETIME";
+    case ColumnType::Boolean:
+        return "BOOLEAN";
+    case ColumnType::Text:
+        return "TEXT COLLATE NOCASE";
+    case ColumnType::Memo:
+        return "LONGTEXT COLLATE NOCASE";
+    case ColumnType::Binary:
+        return "BLOB";
+    case ColumnType::Unknown:
+        break;
+    }
+    throw provider::error(provider::InvalidType, u"Type is invalid."_s);
+}
+
+bool isSystemName(const QString &name)
+{
+    return name.startsWith(u"sqlite_", Qt::CaseInsensitive);
+}
+
+// No statement of the dialect could name what has a square bracket in its name.
+bool canBeNamed(const QString &name)
+{
+    return !name.isEmpty() && !name.contains(u'[') && !name.contains(u']') && !name.contains(QChar(u'\0'));
+}
+
+runtime::RuntimeError invalidName(const QString &name)
+{
+    return provider::error(provider::SyntaxError,
+                           u"'%1' is not a valid name.  Make sure that it does not include invalid "
+                           u"characters or punctuation and that it is not too long."_s.arg(name));
+}
+
+QByteArray columnSql(const Database &file, const TableDefinition &table, const ColumnDefinition &column)
+{
+    // By this name the store finds a row again.
+    if (!canBeNamed(column.name) || isSameName(column.name, u"_rowid_"_s))
+        throw invalidName(column.name);
+    const bool hasDefault = column.defaultExpression && !column.defaultExpression->isEmpty();
+    QByteArray sql;
+    sql::appendName(sql, column.name);
+    sql += ' ';
+    sql += declarationOf(column.type);
+    if (column.isAutoIncrement) {
+        if (ColumnType(column.type) != ColumnType::Long || hasDefault)
+            throw refusedProperty();
+        return sql; // a Null is what the counter fills in
+    }
+    if (column.isRequired)
+        sql += " NOT NULL";
+    if (hasDefault)
+        sql += " DEFAULT " +
+               defaultSql(file, *column.defaultExpression, ColumnType(column.type), table.name + u'.' + column.name);
+    else if (ColumnType(column.type) == ColumnType::Boolean)
+        sql += " DEFAULT 0";
+    return sql;
+}
+
+QByteArray tableSql(const Database &file, const TableDefinition &table)
+{
+    QByteArray sql = "CREATE TABLE ";
+    sql::appendName(sql, table.name);
+    sql += " (";
+    for (const auto &column : table.columns)
+        sql += columnSql(file, table, *column) + ", ";
+    sql.chop(2);
+    return sql + ')';
+}
+
+// Numbers the rows as AUTOINCREMENT does, in SQLite's own list of counters, for a column that is no key: a number set
+// by hand is taken, a repeated one too, and no number is given out that was there before.
+QByteArray counterSql(const TableDefinition &table, const ColumnDefinition &column)
+{
+    QByteArray name;
+    sql::appendName(name, table.name);
+    QByteArray text;
+    sql::appendQuoted(text, table.name, '\'');
+    QByteArray number;
+    sql::appendName(number, column.name);
+    const QByteArray own = " FROM sqlite_sequence WHERE name = " + text;
+    return "CREATE TRIGGER " + name + " AFTER INSERT ON " + name + " BEGIN INSERT INTO sqlite_sequence (name, seq)" +
+           " SELECT " + text + ", coalesce((SELECT max(" + number + ") FROM " + name +
+           "), 0) WHERE NOT EXISTS (SELECT 1" + own + "); UPDATE sqlite_sequence SET seq = CASE WHEN NEW." + number +
+           " IS NULL THEN seq + 1 ELSE max(seq, CAST(NEW." + number + " AS INTEGER)) END WHERE name = " + text +
+           "; UPDATE " + name + " SET " + number + " = (SELECT seq" + own + ") WHERE _rowid_ = NEW._rowid_ AND " +
+           number + " IS NULL; END";
+}
+
+// The names of indexes count too: SQLite has one space for all of them.
+bool isTaken(const Database &file, const QString &name)
+{
+    Statement taken = file.prepare("SELECT 1 FROM sqlite_master WHERE name = ?1 COLLATE NOCASE AND type <> 'trigger'");
+    taken.bindText(1, name.toUtf8());
+    return taken.step();
+}
+
+} // namespace
+
+bool isSameName(const QString &a, const QString &b)
+{
+    const auto folded = [](QChar c) { return c >= u'A' && c <= u'Z' ? QChar(c.unicode() | 0x20) : c; };
+    return std::ranges::equal(a, b, {}, folded, folded); // as SQLite compares them: ASCII letters alone
+}
+
+runtime::RuntimeError refusedProperty()
+{
+    return provider::error(provider::MultipleStep,
+                           u"Multiple-step OLE DB operation generated errors. Check each OLE DB status "
+                           u"value, if available. No work was done."_s);
+}
+
+std::vector<std::shared_ptr<TableDefinition>> storedTables(const std::shared_ptr<Database> &file)
+{
+    std::vector<std::shared_ptr<TableDefinition>> tables;
+    Statement rows =
+        file->prepare("SELECT name, type FROM sqlite_master WHERE type IN ('table', 'view') ORDER BY name");
+    while (rows.step()) {
+        auto table = std::make_shared<TableDefinition>();
+        table->name = QString::fromUtf8(rows.text(0));
+        if (rows.text(1) == "view")
+            table->type = u"VIEW"_s;
+        else if (isSystemName(table->name))
+            table->type = u"SYSTEM TABLE"_s;
+        table->isStored = true;
+        table->catalog = file;
+        tables.push_back(std::move(table));
+    }
+    return tables;
+}
+
+std::vector<std::shared_ptr<ColumnDefinition>> storedColumns(const std::shared_ptr<Database> &file,
+                                                             const QString &table)
+{
+    std::vector<std::shared_ptr<ColumnDefinition>> columns;
+    // Its step looks at sqlite_master and so notices what other connections have changed.
+    Statement rows =
+        file->prepare("SELECT c.name, c.type, c.\"notnull\", c.dflt_value, "
+                      "(c.pk AND t.sql LIKE '%AUTOINCREMENT%') OR EXISTS (SELECT 1 FROM sqlite_master AS n "
+                      "WHERE n.type = 'trigger' AND n.name = t.name AND "
+                      "instr(n.sql, 'NEW.\"' || replace(c.name, '\"', '\"\"') || '\" IS NULL')) "
+                      "FROM sqlite_master AS t, pragma_table_info(t.name) AS c "
+                      "WHERE t.name = ?1 AND t.type IN ('table', 'view') ORDER BY c.cid");
+    rows.bindText(1, table.toUtf8());
+    while (rows.step()) {
+        auto column = std::make_shared<ColumnDefinition>();
+        column->name = QString::fromUtf8(rows.text(0));
+        column->type = int(columnTypeOfDeclaration(rows.text(1)));
+        column->isRequired = rows.integer(2) != 0;
+        if (rows.storage(3) != Statement::Storage::Null)
+            column->defaultExpression = QString::fromUtf8(rows.text(3));
+        column->isAutoIncrement = rows.integer(4) != 0;
+        column->isStored = true;
+        column->catalog = file;
+        columns.push_back(std::move(column));
+    }
+    return columns;
+}
+
+void storeTable(Database &file, const TableDefinition &table)
+{
+    if (!canBeNamed(table.name) || isSystemName(table.name))
+        throw invalidName(table.name);
+    if (isTaken(file, table.name))
+        throw provider::error(provider::DuplicateTable, u"Table '%1' already exists."_s.arg(table.name));
+    if (table.columns.empty())
+        throw provider::error(provider::SyntaxError, u"No field defined--cannot append TableDef or Index."_s);
+    QByteArray sql = tableSql(file, table);
+    bool isCounted = false;
+    for (const auto &column : table.columns) {
+        if (column->isAutoIncrement && std::exchange(isCounted, true))
+            throw refusedProperty();
+        if (column->isAutoIncrement)
+            sql += "; " + counterSql(table, *column);
+    }
+    file.executeWhole(sql);
+}
+
+void storeColumn(Database &file, const TableDefinition &table, const ColumnDefinition &column)
+{
+    if (column.isAutoIncrement) // the rows that the table has would have to be numbered
+        throw refusedProperty();
+    QByteArray sql = "ALTER TABLE ";
+    sql::appendName(sql, table.name);
+    file.execute(sql + " ADD COLUMN " + columnSql(file, table, column));
+}
+
+} // namespace data

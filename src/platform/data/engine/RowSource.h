@@ -1,0 +1,87 @@
+// A translated SELECT over an open file: what columns it has, how its rows are read, counted, changed and found again.
+//
+// The statement is prepared when the source is made, which checks its text, and run only when rows are asked for. The
+// content of a binary column is never part of a row, nor is its length, so that rows that an index holds are read from
+// there alone: readBinary() and binarySize() look for it.
+#pragma once
+
+#include "platform/data/engine/ColumnType.h"
+#include "platform/data/engine/Database.h"
+#include "platform/data/engine/RowStore.h"
+#include "platform/data/sql/Translation.h"
+
+#include <QString>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace data {
+
+struct SourceColumn
+{
+    QString name;
+    ColumnType type = ColumnType::Unknown;
+    QByteArray origin;    // its name in the table; empty for an expression
+    bool isApart = false; // binary: the rows hold a Null in its place
+};
+
+class RowSource
+{
+public:
+    RowSource(std::weak_ptr<Database> file, std::shared_ptr<const sql::Translation> translation);
+
+    const std::vector<SourceColumn> &columns();
+    // The column of a name, without regard to case; -1 when there is none. Until the rows are read there may come more
+    // columns behind those known before.
+    int columnOf(QStringView name);
+    // Rows can be added, changed and deleted: they are rows of one table, and no column is computed.
+    bool isUpdatable();
+
+    // Runs the statement to its end; afterwards nothing of it stays open.
+    RowStore readAll();
+    // Counts the rows without reading them.
+    qint32 count();
+    // Reads the row of the table anew behind the rows of the store or in the place of one; false when it is gone.
+    bool readRow(qint64 rowId, RowStore &rows, std::optional<qsizetype> inPlaceOf = {});
+    // Nothing for a Null.
+    std::optional<QByteArray> readBinary(qint64 rowId, int column);
+    std::optional<qint64> binarySize(qint64 rowId, int column);
+
+    // The values of the columns to write; those without one keep what they have, or take their default.
+    using Changes = std::vector<std::optional<runtime::Value>>;
+    struct Added
+    {
+        qint64 rowId;
+        bool isNew; // false where the table passed over it, for it has a row of that key: then it is that row
+    };
+    Added insertRow(const Changes &changes);
+    // Both raise error 3021 when the row is gone.
+    void updateRow(qint64 rowId, const Changes &changes);
+    void deleteRow(qint64 rowId);
+
+private:
+    Database &database() const;
+    Statement &prepared();
+    void describeColumns();
+    void describe(const Statement &statement);
+    int describedColumnOf(QStringView name);
+    void requireChange() const;
+    // The statement with a Null in the place of each binary column; the statement itself where it has none.
+    QByteArray readingSql();
+    QByteArray listOfOrigins() const;
+
+    std::weak_ptr<Database> m_database;
+    std::shared_ptr<const sql::Translation> m_translation;
+    Statement m_statement;
+    std::vector<SourceColumn> m_columns;
+    bool m_described = false;
+    bool m_hasBinary = false;
+    bool m_isUpdatable = false;
+    int m_nextGuess = 0; // handlers ask for the columns row by row in the same order
+};
+
+// Runs an INSERT, UPDATE or DELETE.
+void runAction(Database &database, const sql::Translation &translation);
+
+} // namespace data

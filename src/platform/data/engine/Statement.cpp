@@ -1,0 +1,166 @@
+#include "platform/data/engine/Statement.h"
+
+#include "platform/data/engine/Database.h"
+
+#include <new>
+#include <sqlite3.h>
+#include <utility>
+
+namespace data {
+
+namespace {
+
+QByteArrayView viewOf(const char *text)
+{
+    return text ? QByteArrayView(text) : QByteArrayView();
+}
+
+} // namespace
+
+void Statement::Finalize::operator()(sqlite3_stmt *statement) const noexcept
+{
+    sqlite3_finalize(statement);
+}
+
+Statement::Statement(sqlite3_stmt *statement, QString path)
+    : m_statement(statement), m_columnCount(sqlite3_column_count(statement)), m_path(std::move(path))
+{
+}
+
+void Statement::check(int code) const
+{
+    if (code != SQLITE_OK && code != SQLITE_ROW && code != SQLITE_DONE) {
+        sqlite3 *handle = sqlite3_db_handle(m_statement.get());
+        throw StoreError(sqlite3_extended_errcode(handle), QString::fromUtf8(sqlite3_errmsg(handle)), m_path);
+    }
+}
+
+void Statement::bind(int parameter, qint64 number)
+{
+    check(sqlite3_bind_int64(m_statement.get(), parameter, number));
+}
+
+void Statement::bindText(int parameter, QByteArrayView utf8)
+{
+    // A text without characters may have no address, which SQLite would take for Null.
+    check(sqlite3_bind_text64(m_statement.get(), parameter, utf8.isEmpty() ? "" : utf8.data(),
+                              sqlite3_uint64(utf8.size()), SQLITE_TRANSIENT, SQLITE_UTF8));
+}
+
+void Statement::bind(int parameter, const runtime::Value &value)
+{
+    using Type = runtime::Value::Type;
+    switch (value.type()) {
+    case Type::Null:
+        check(sqlite3_bind_null(m_statement.get(), parameter));
+        break;
+    case Type::Boolean:
+        bind(parameter, qint64(value.get<bool>() ? -1 : 0));
+        break;
+    case Type::Integer:
+        bind(parameter, qint64(value.get<qint16>()));
+        break;
+    case Type::Long:
+        bind(parameter, qint64(value.get<qint32>()));
+        break;
+    case Type::Double:
+        check(sqlite3_bind_double(m_statement.get(), parameter, value.get<double>()));
+        break;
+    case Type::Currency:
+        bindText(parameter, value.get<runtime::Currency>().toPlainText().toLatin1());
+        break;
+    case Type::Date:
+        bindText(parameter, value.get<runtime::Date>().toIsoText().toLatin1());
+        break;
+    case Type::Text:
+        bindText(parameter, value.get<QString>().toUtf8());
+        break;
+    case Type::Binary: {
+        const QByteArray &bytes = value.get<QByteArray>();
+        // An empty array has no address, which SQLite would take for Null.
+        check(sqlite3_bind_blob64(m_statement.get(), parameter, bytes.isEmpty() ? "" : bytes.constData(),
+                                  sqlite3_uint64(bytes.size()), SQLITE_STATIC));
+        break;
+    }
+    }
+}
+
+bool Statement::step()
+{
+    const int code = sqlite3_step(m_statement.get());
+    check(code);
+    m_columnCount = sqlite3_column_count(m_statement.get());
+    return code == SQLITE_ROW;
+}
+
+void Statement::reset()
+{
+    sqlite3_reset(m_statement.get());
+}
+
+QByteArrayView Statement::columnName(int column) const
+{
+    return viewOf(sqlite3_column_name(m_statement.get(), column));
+}
+
+QByteArrayView Statement::declaredType(int column) const
+{
+    return viewOf(sqlite3_column_decltype(m_statement.get(), column));
+}
+
+QByteArrayView Statement::originTable(int column) const
+{
+    return viewOf(sqlite3_column_table_name(m_statement.get(), column));
+}
+
+QByteArrayView Statement::originColumn(int column) const
+{
+    return viewOf(sqlite3_column_origin_name(m_statement.get(), column));
+}
+
+Statement::Storage Statement::storage(int column) const
+{
+    return Storage(sqlite3_column_type(m_statement.get(), column));
+}
+
+qint64 Statement::integer(int column) const
+{
+    return sqlite3_column_int64(m_statement.get(), column);
+}
+
+QByteArrayView Statement::text(int column) const
+{
+    const auto *bytes = reinterpret_cast<const char *>(sqlite3_column_text(m_statement.get(), column));
+    return {bytes, sqlite3_column_bytes(m_statement.get(), column)};
+}
+
+// Through the value, which is looked up once. Only the thread that steps may do this.
+Statement::Content Statement::content(int column) const
+{
+    sqlite3_value *value = sqlite3_column_value(m_statement.get(), column);
+    Content content;
+    content.storage = Storage(sqlite3_value_type(value));
+    switch (content.storage) {
+    case Storage::Integer:
+        content.integer = sqlite3_value_int64(value);
+        break;
+    case Storage::Real:
+        content.real = sqlite3_value_double(value);
+        break;
+    case Storage::Text:
+        content.bytes = reinterpret_cast<const char *>(sqlite3_value_text(value));
+        content.size = quint32(sqlite3_value_bytes(value));
+        if (!content.bytes)
+            throw std::bad_alloc();
+        break;
+    case Storage::Blob: // without an address when it is empty
+        content.bytes = static_cast<const char *>(sqlite3_value_blob(value));
+        content.size = quint32(sqlite3_value_bytes(value));
+        break;
+    case Storage::Null:
+        break;
+    }
+    return content;
+}
+
+} // namespace data

@@ -1,0 +1,57 @@
+#include "platform/data/engine/StatementError.h"
+
+#include "platform/data/engine/ColumnType.h"
+#include "platform/runtime/ProviderError.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace data {
+
+namespace {
+
+// Raises the error anew in the dialect's own words; one that has none there stays as it is.
+[[noreturn]] void raiseDialectError(const StoreError &error)
+{
+    const QString &message = error.description();
+    const QString name = message.section(u": "_s, 1);
+    if (message.startsWith(u"no such table"))
+        throw provider::error(provider::NoSuchTable,
+                              u"The Microsoft Jet database engine cannot find the input table or query "
+                              u"'%1'.  Make sure it exists and that its name is spelled correctly."_s.arg(
+                                  name.startsWith(u"main.") ? name.sliced(5) : name));
+    if (message.startsWith(u"no such column"))
+        throw provider::error(provider::NoSuchColumn, u"No value given for one or more required parameters."_s);
+    if (message.startsWith(u"ambiguous column name"))
+        throw provider::error(provider::Unspecified,
+                              u"The specified field '%1' could refer to more than one table listed in the "
+                              u"FROM clause of your SQL statement."_s.arg(name));
+    throw; // as it is: this is called while it is handled
+}
+
+} // namespace
+
+Statement prepareChecked(Database &database, const sql::Translation &translation, QByteArrayView sql)
+{
+    if (translation.callsLike)
+        database.provideLike();
+    try {
+        return database.prepare(sql);
+    } catch (const StoreError &error) {
+        raiseDialectError(error);
+    }
+}
+
+void checkComparisons(const Database &database, const sql::Translation &translation)
+{
+    for (const sql::Comparison &comparison : translation.comparisons) {
+        const QString &table = comparison.column.table.isEmpty() ? translation.table : comparison.column.table;
+        const auto declared = database.declaredType(table.toUtf8(), comparison.column.column.toUtf8());
+        const ColumnType type = declared ? columnTypeOfDeclaration(*declared) : ColumnType::Unknown;
+        if (type == ColumnType::Unknown || type == ColumnType::Binary)
+            continue;
+        if (isText(type) != comparison.withText)
+            throw provider::error(provider::CriteriaMismatch, u"Data type mismatch in criteria expression."_s);
+    }
+}
+
+} // namespace data

@@ -1,0 +1,24 @@
+#include "shell/store/CommandSequence.h"
+
+#include "shell/store/DataStore.h"
+
+void CommandSequence::open()
+{
+    m_connection = data::Connection(); // what a failure left open
+    openDataStore(m_connection);
+    m_connection.CursorLocation = data::adUseClient;
+    command.ActiveConnection = &m_connection;
+}
+
+data::Recordset CommandSequence::execute(const QString &statement)
+{
+    command.CommandText = statement;
+    return command.Execute(data::adOptionUnspecified);
+}
+
+void CommandSequence::close()
+{
+    command.Cancel();
+    m_connection.Close();
+    m_connection.Cancel();
+}
