@@ -135,6 +135,8 @@ Date toDate(const Value &value)
     if (value.is<QString>()) {
         if (const auto date = parseDate(value.get<QString>()))
             return *date;
+        if (!mayCountDays(value.get<QString>()))
+            throw RuntimeError(TypeMismatch);
     }
     return Date::fromSerial(toDouble(value));
 }

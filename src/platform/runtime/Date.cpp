@@ -33,6 +33,11 @@ Date::Date(QDate day, QTime time)
     m_seconds = (day.toJulianDay() - dayZero) * secondsPerDay + time.msecsSinceStartOfDay() / 1000;
 }
 
+Date Date::timeAlone(QTime time)
+{
+    return Date(Date().day(), time);
+}
+
 Date Date::fromSerial(double serial)
 {
     if (!(serial > -657'435.0 && serial < 2'958'466.0))

@@ -18,6 +18,8 @@ public:
     Date() = default;
     // Raises error 6 (Overflow) for a day outside the range and error 13 for an invalid day or time.
     explicit Date(QDate day, QTime time = QTime(0, 0));
+    // The time of day on day 0. Error 13 for an invalid one.
+    static Date timeAlone(QTime time);
     // Whole part: days from day 0; fraction: time of day, which counts forward also on days before day 0.
     static Date fromSerial(double serial);
     // Reads the store's form "yyyy-mm-dd", optionally followed by a blank or "T" and "hh:mm:ss".
@@ -46,5 +48,11 @@ private:
 
     qint64 m_seconds = 0;
 };
+
+// The year that two digits mean: 2000 to 2029, 1930 to 1999.
+constexpr int yearOfTwoDigits(int digits)
+{
+    return digits < 30 ? 2000 + digits : 1900 + digits;
+}
 
 } // namespace runtime

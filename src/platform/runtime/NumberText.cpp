@@ -66,6 +66,13 @@ Trimmings trimmed(QStringView text, const QString &currencySign)
     return out;
 }
 
+// The one that amounts are shown with: a currency without a sign has its code.
+QString currencySign(const QLocale &locale)
+{
+    const QString sign = locale.currencySymbol();
+    return plainlyTyped(sign.isEmpty() ? locale.currencySymbol(QLocale::CurrencyIsoCode) : sign);
+}
+
 std::optional<QString> plainDigits(QStringView text, const QString &decimalSign, const QString &groupSign)
 {
     QString plain;
@@ -105,13 +112,14 @@ std::optional<QString> plainDigits(QStringView text, const QString &decimalSign,
 
 std::optional<QString> plainNumber(QStringView text)
 {
-    if (auto radix = plainRadixNumber(text.trimmed()))
+    const QString typed = plainlyTyped(text);
+    if (auto radix = plainRadixNumber(QStringView(typed).trimmed()))
         return radix;
     const QLocale locale = regional();
-    const Trimmings number = trimmed(text, locale.currencySymbol());
+    const Trimmings number = trimmed(typed, currencySign(locale));
     if (!number.valid)
         return std::nullopt;
-    auto plain = plainDigits(number.rest, locale.decimalPoint(), locale.groupSeparator());
+    auto plain = plainDigits(number.rest, plainlyTyped(locale.decimalPoint()), plainlyTyped(locale.groupSeparator()));
     if (plain && number.negative)
         plain->prepend(u'-');
     return plain;

@@ -25,14 +25,6 @@ QVarLengthArray<int, 4> numbersBetween(QStringView text, QChar separator)
     return numbers;
 }
 
-// Two digits mean 2000 to 2029 and 1930 to 1999.
-int fullYear(int year, bool shortForm)
-{
-    if (!shortForm)
-        return year;
-    return year < 30 ? 2000 + year : 1900 + year;
-}
-
 // Month, day, year; day, month, year where that is impossible; or year, month, day with hyphens.
 QDate dayOf(QStringView text)
 {
@@ -41,7 +33,8 @@ QDate dayOf(QStringView text)
     const auto parts = numbersBetween(text, u'/');
     if (parts.size() != 3)
         return {};
-    const int year = fullYear(parts[2], text.size() - text.lastIndexOf(u'/') <= 3);
+    const bool twoDigits = text.size() - text.lastIndexOf(u'/') <= 3;
+    const int year = twoDigits ? runtime::yearOfTwoDigits(parts[2]) : parts[2];
     const QDate usual(year, parts[0], parts[1]);
     return usual.isValid() ? usual : QDate(year, parts[1], parts[0]);
 }
@@ -63,11 +56,6 @@ QTime timeOf(QStringView text)
         hour = hour % 12 + (afternoon ? 12 : 0);
     }
     return QTime(hour, parts.size() > 1 ? parts[1] : 0, parts.size() > 2 ? parts[2] : 0);
-}
-
-QDate dayZero()
-{
-    return QDate::fromJulianDay(2'415'019);
 }
 
 } // namespace
@@ -101,7 +89,7 @@ std::optional<runtime::Date> dateValue(QStringView written)
     const QTime time = rest.isEmpty() && day.isValid() ? QTime(0, 0) : timeOf(rest);
     if (!time.isValid() || (day.isValid() && day.year() < 100))
         return std::nullopt;
-    return runtime::Date(day.isValid() ? day : dayZero(), time);
+    return day.isValid() ? runtime::Date(day, time) : runtime::Date::timeAlone(time);
 }
 
 } // namespace sql
