@@ -30,7 +30,7 @@ Value nextVersion(data::Recordset &versions)
     if (versions.Eof())
         return Value(qint16(1));
     const Value newest = versions[u"AttachmentVersion"].Value();
-    return newest.isNull() ? Value() : Value(runtime::toInteger(Value(runtime::toLong(newest) + 1)));
+    return newest.isNull() ? Value() : Value(runtime::toInteger(Value(runtime::sum(runtime::toLong(newest), 1))));
 }
 
 } // namespace
@@ -161,8 +161,8 @@ void AttachmentsTab::MnuView_Click()
 {
     data::Connection connection;
     data::Recordset attachment = selectedAttachment(connection, *lstAttachement, member());
-    if (!runtime::folderExists(runtime::App::Path() + u"\\temp"_s))
-        runtime::MkDir(runtime::App::Path() + u"\\Temp"_s);
+    if (!runtime::folderExists(runtime::App::folder(u"\\temp")))
+        runtime::MkDir(runtime::App::folder(u"\\Temp"));
     viewAttachment(connection, attachment, lstAttachement->SelectedItem()->Text());
 }
 

@@ -33,7 +33,9 @@ void Calendar::takeOver()
 
 void Calendar::showDay()
 {
-    const QSignalBlocker quiet(this); // what is shown on the way is not what was asked for
+    // While year, month and day are set one after another, the day shown may be another than the one asked for; it must
+    // not be taken over.
+    const QSignalBlocker quiet(this);
     const int lastDay = QDate(m_year, m_month, 1).daysInMonth();
     setSelectedDate(QDate(m_year, m_month, qMin(m_day, lastDay)));
 }

@@ -1,7 +1,7 @@
 // A month calendar that is set to a day by its parts and reports the day that is chosen, by mouse or by Enter.
 //
-// The parts may be set one after another in any order: a day that the month on the way does not have is kept in mind
-// until month and year have it. A part that no month has raises error 380.
+// Year, month and day may be set in any order: day 31 set while a shorter month is shown is remembered until a month
+// that has it is set. Error 380 for a day, month or year outside the calendar.
 #pragma once
 
 #include "platform/desktop/Control.h"
@@ -30,5 +30,5 @@ private:
 
     int m_year = 0;
     int m_month = 0;
-    int m_day = 0; // as it was asked for
+    int m_day = 0; // as set, also where the month shown is shorter
 };

@@ -3,6 +3,7 @@
 #include "library/StoredFile.h"
 #include "platform/desktop/Launch.h"
 #include "platform/runtime/Conversion.h"
+#include "platform/runtime/Files.h"
 #include "shell/store/DataStore.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -49,7 +50,7 @@ data::Recordset selectedAttachment(data::Connection &connection, const desktop::
 
 void saveAttachment(data::Recordset &attachment, desktop::CommonDialog &dialog)
 {
-    dialog.FileName = runtime::toText(attachment[u"AttachmentsName"].Value());
+    dialog.FileName = runtime::fileName(runtime::toText(attachment[u"AttachmentsName"].Value()));
     if (dialog.ShowSave())
         fetchInto(attachment[u"Attachments"], dialog.FileName);
 }

@@ -31,7 +31,8 @@ bool uploadAttachment(data::Connection &connection, desktop::CommonDialog &dialo
 data::Recordset selectedAttachment(data::Connection &connection, const desktop::ListView &list,
                                    const AttachmentOwner &owner);
 
-// Writes the file where the user says; nothing when he cancels.
+// Writes the file where the user says; nothing when he cancels. Error 75 for a stored name that is no file name: the
+// dialog would suggest a place that the data file chose.
 void saveAttachment(data::Recordset &attachment, desktop::CommonDialog &dialog);
 
 // Writes a copy under the name to the temp folder, closes the connection and opens the copy.

@@ -33,7 +33,8 @@ qint16 nextVersionOf(const QString &fileName)
     return version;
 }
 
-QString withoutBlanks(QStringView text)
+// Other white space stays.
+QString withoutOuterBlanks(QStringView text)
 {
     while (text.startsWith(u' '))
         text = text.sliced(1);
@@ -137,7 +138,7 @@ bool ClsBinaryFunctions::ScanFile()
 
 void ClsBinaryFunctions::PrepareSearchText()
 {
-    Pattern = withoutBlanks(Text2Text);
+    Pattern = withoutOuterBlanks(Text2Text);
     PatternLength = runtime::toInteger(Value(qint32(Pattern.size())));
     if (Pattern.endsWith(u'"') && Pattern.startsWith(u'"') && PatternLength > 2) {
         Pattern = Pattern.sliced(1).chopped(1);

@@ -2,9 +2,8 @@
 
 #include "platform/runtime/Application.h"
 #include "platform/runtime/BinaryFile.h"
+#include "platform/runtime/Files.h"
 #include "platform/runtime/RuntimeError.h"
-
-using namespace Qt::Literals::StringLiterals;
 
 FileToStore::FileToStore(const QString &path) : m_handle(runtime::FreeFile())
 {
@@ -31,10 +30,10 @@ void fetchInto(data::Field field, const QString &path)
 
 QString temporaryPath(const QString &storedName)
 {
-    return runtime::App::Path() + u"\\temp\\"_s + storedName;
+    return runtime::pathInFolder(runtime::App::folder(u"\\temp"), storedName);
 }
 
 QString scanPath(const QString &storedName)
 {
-    return runtime::App::Path() + u"\\temp\\Search\\"_s + storedName;
+    return runtime::pathInFolder(runtime::App::folder(u"\\temp\\Search"), storedName);
 }

@@ -1,8 +1,8 @@
 // How a whole file goes into a binary field and comes out of it: what every window that keeps files does in its own
 // handler.
 //
-// The stored value is the file and one zero byte, which nothing takes off again on the way out. Each file goes through
-// the next free number. Whoever fails before it is closed leaves it open, as the run-time does, and the number taken.
+// The stored value is the file and one zero byte, which is not removed when the file is written out again. Each file is
+// opened under the next free number; a failure before it is closed leaves it open and the number taken.
 // Errors: those of BinaryFile.h, and 94 for a field without a value.
 #pragma once
 
@@ -11,7 +11,7 @@
 #include <QByteArray>
 #include <QString>
 
-// On its way in: AppendChunk takes bytes() in one piece, close() comes after Update.
+// Reads a file to be stored: pass bytes() to AppendChunk in one piece, and close() after Update.
 class FileToStore
 {
 public:
@@ -31,6 +31,7 @@ private:
 void fetchInto(data::Field field, const QString &path);
 
 // Where the copy of a stored file goes in order to be opened, or to be scanned. The stored name decides alone: two
-// versions of one name share a path.
+// versions of one name share a path. Error 75 for a name that is no plain file name, so that a data file cannot lead
+// out of the folder, and where a link stands at that place.
 QString temporaryPath(const QString &storedName);
 QString scanPath(const QString &storedName);

@@ -89,19 +89,20 @@ private Q_SLOTS:
         QTest::addColumn<int>("error");
         QTest::newRow("apostrophe") << u"it's.txt"_s << -2147217900;
         QTest::newRow("version 32767 is the last") << u"full.txt"_s << 6;
+        QTest::newRow("version of another tool, the last of 32 bits") << u"over.txt"_s << 6;
     }
     void whatCannotBeAddedEndsInTheReport()
     {
         QFETCH(QString, name);
         QFETCH(int, error);
         m_folder->execute("INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion) VALUES"
-                          " (2, 'full.txt', 32767)");
+                          " (2, 'full.txt', 32767), (2, 'over.txt', 2147483647)");
         CaughtErrors errors;
         OpenDossier dossier;
         FileAnswers files({m_folder->write(name, "x")});
         dossier->Frame4->butAddAttachement->click();
         QCOMPARE(errors.takeNumber(), error);
-        QCOMPARE(m_folder->row("SELECT count(*) FROM Attachments"), u"1"_s);
+        QCOMPARE(m_folder->row("SELECT count(*) FROM Attachments"), u"2"_s);
         QCOMPARE(m_folder->row("PRAGMA integrity_check"), u"ok"_s);
     }
 
@@ -111,6 +112,8 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("content");
         QTest::newRow("empty") << u"empty.bin"_s << QByteArray();
         QTest::newRow("zeros inside") << u"zeros.bin"_s << QByteArray("\0a\0\0", 4);
+        QTest::newRow("a backslash") << u"report\\2001.txt"_s << QByteArray("y");
+        QTest::newRow("a dot first") << u".profile"_s << QByteArray("z");
         QTest::newRow("outside ASCII") << u"Grüße 日本.txt"_s << QByteArray("x");
         QTest::newRow("255 characters") << QString(251, u'n') + u".txt"_s << QByteArray("long");
     }
@@ -129,10 +132,12 @@ private Q_SLOTS:
         QCOMPARE(launches.paths, QStringList(m_folder->path(u"temp/"_s + name)));
         QCOMPARE(contentOf(launches.paths[0]), content + '\0');
         const QString saved = m_folder->path(u"saved"_s);
+        m_folder->write(u"SAVED"_s, "another's");
         FileAnswers files({saved});
         choose(*tab.MnuViewOptions, "MnuSaveAs");
         QCOMPARE(files.name, name);
         QCOMPARE(contentOf(saved), content + '\0');
+        QCOMPARE(contentOf(m_folder->path(u"SAVED"_s)), "another's");
     }
 
     void aLongerFileKeepsItsTailAndTheTempFolderIsMade()
@@ -190,6 +195,33 @@ private Q_SLOTS:
         QCOMPARE(errors.takeNumber(), 3021); // the row is gone
     }
 
+    void aStoredNameLeadsNowhereElse_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::newRow("the data file") << QByteArray("../Tolmark.mdb");
+        QTest::newRow("a new file") << QByteArray("../evil.txt");
+        QTest::newRow("a link in the folder") << QByteArray("link");
+    }
+    void aStoredNameLeadsNowhereElse()
+    {
+        QFETCH(QByteArray, name);
+        QVERIFY(QFile::link(m_folder->file(), m_folder->path(u"temp/link"_s)));
+        m_folder->execute("INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion, Attachments) VALUES"
+                          " (1, '" +
+                          name + "', 1, x'00')");
+        CaughtErrors errors;
+        Launches launches;
+        OpenDossier dossier;
+        select(*dossier->Frame4->lstAttachement, 1);
+        choose(*dossier->Frame4->MnuViewOptions, "MnuView");
+        QCOMPARE(errors.takeNumber(), 75);
+        QCOMPARE(launches.paths, QStringList());
+        QVERIFY(!QFile::exists(m_folder->path(u"evil.txt"_s)));
+        QCOMPARE(m_folder->row("PRAGMA integrity_check"), u"ok"_s);
+        if (name != "link")
+            choose(*dossier->Frame4->MnuViewOptions, "MnuSaveAs"); // no dialog suggests it
+    }
+
     void aCopyThatCannotBeWrittenEndsTheViewInTheReport()
     {
         m_folder->execute("INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion, Attachments) VALUES"
@@ -220,7 +252,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("left");
         QTest::newRow("no file list") << u"just a text"_s << u"0"_s;
         QTest::newRow("folder") << u"folder"_s << u"1"_s;
-        QTest::newRow("missing file") << u"missing.txt"_s << u"1"_s;
+        QTest::newRow("missing file beside its like") << u"gone.txt"_s << u"1"_s;
         QTest::newRow("apostrophe") << u"it's.txt"_s << u"1"_s;
     }
     void whatCannotBeTakenInADropGivesTheMessage()
@@ -228,6 +260,7 @@ private Q_SLOTS:
         QFETCH(QString, second);
         QFETCH(QString, left);
         m_folder->write(u"it's.txt"_s, "x");
+        m_folder->write(u"GONE.txt"_s, "x");
         QDir(m_folder->folder()).mkdir(u"folder"_s);
         CaughtErrors errors;
         BoxAnswers boxes({QMessageBox::Ok});

@@ -149,7 +149,7 @@ private Q_SLOTS:
     {
         m_folder->execute("INSERT INTO Attachments (AttachmentsName, Attachments) VALUES ('a.txt', x'6100'), "
                           "('a.txt', x'6100')");
-        make(u"temp/Search/A.TXT"_s, "something longer");
+        make(u"temp/Search/a.txt"_s, "something longer");
         QCOMPARE(ClsBinaryFunctions().cmdOpendb(u"longe"_s, allAttachments).RecordCount(), 1);
         QCOMPARE(filesToScan(), QStringList{});
     }
@@ -169,7 +169,8 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("row");
         QTest::addColumn<QString>("error");
         QTest::addColumn<int>("open"); // files that stay so
-        QTest::newRow("no folder for it") << QByteArray("'none\\a.txt', x'00'") << u"76 Path not found"_s << 0;
+        QTest::newRow("the data file") << QByteArray("'../../Tolmark.mdb', x'00'") << u"75 Path/File access error"_s
+                                       << 0;
         QTest::newRow("no name") << QByteArray("NULL, x'00'") << u"75 Path/File access error"_s << 0;
         QTest::newRow("no content") << QByteArray("'a.txt', NULL") << u"94 Invalid use of Null"_s << 1;
         QTest::newRow("no byte at all") << QByteArray("'a.txt', x''") << u"94 Invalid use of Null"_s << 1;
@@ -182,6 +183,7 @@ private Q_SLOTS:
         ClsBinaryFunctions search;
         QTEST(errorOf([&] { search.cmdOpendb(u"a"_s, allAttachments); }), "error");
         closeLeftOpen(open);
+        m_folder->execute("UPDATE Attachments SET AttachmentsName = 'a.txt'");
         QVERIFY(QDir(m_folder->path(u"temp/Search"_s)).removeRecursively());
         QVERIFY(errorOf([&] { search.cmdOpendb(u"a"_s, allAttachments); }).startsWith(u"76 "));
     }
@@ -255,9 +257,9 @@ private Q_SLOTS:
         rows.MoveNext();
         ClsBinaryFunctions functions;
         QVERIFY(!functions.DownLoadDoc(rows, m_folder->path(u"none/target"_s)));
-        make(u"Target"_s, "0123456");
-        QVERIFY(functions.DownLoadDoc(rows, m_folder->path(u"target"_s))); // the same name
-        QFile target(m_folder->path(u"Target"_s));
+        make(u"target"_s, "0123456");
+        QVERIFY(functions.DownLoadDoc(rows, m_folder->path(u"target"_s)));
+        QFile target(m_folder->path(u"target"_s));
         QVERIFY(target.open(QIODevice::ReadOnly));
         QCOMPARE(target.readAll(), QByteArray("bb\0003456", 7));
         QCOMPARE(rows[u"AttachmentsId"].Value(), Value(qint32(2))); // where it stood

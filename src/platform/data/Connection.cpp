@@ -1,7 +1,6 @@
 #include "platform/data/Connection.h"
 
 #include "platform/data/engine/Database.h"
-#include "platform/runtime/Files.h"
 #include "platform/runtime/ProviderError.h"
 
 #include <QStringTokenizer>
@@ -32,7 +31,7 @@ void Connection::Open(const QString &connectionString, const QString &, const QS
     if (connectionValue(connectionString, u"Provider").isEmpty())
         throw provider::objectError(provider::NoProvider, "ADODB.Connection");
     auto database = std::make_shared<Database>();
-    database->open(runtime::nativePath(connectionValue(connectionString, u"Data Source")));
+    database->open(connectionValue(connectionString, u"Data Source").replace(u'\\', u'/'));
     m_database = std::move(database);
 }
 

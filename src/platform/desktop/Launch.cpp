@@ -1,7 +1,5 @@
 #include "platform/desktop/Launch.h"
 
-#include "platform/runtime/Files.h"
-
 #include <QDesktopServices>
 #include <QUrl>
 
@@ -9,7 +7,7 @@ namespace desktop {
 
 void ShellExecute(const QString &path)
 {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(runtime::nativePath(path)));
+    QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
 } // namespace desktop

@@ -5,7 +5,7 @@
 
 namespace desktop {
 
-// The path is written with backslashes or slashes. Whether a program is registered is not told.
+// Whether a program is registered is not told.
 void ShellExecute(const QString &path);
 
 } // namespace desktop

@@ -1,6 +1,8 @@
 #include "platform/runtime/Application.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QRegularExpression>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -14,6 +16,18 @@ QString &replacement()
     return folder;
 }
 
+// The name of the folder in the parent, which may differ by case; the one of exactly that name goes first.
+QString existingName(const QString &parent, const QString &name)
+{
+    if (QFileInfo(parent + u'/' + name).isDir())
+        return name;
+    const QStringList folders = QDir(parent).entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+    const qsizetype at =
+        folders.indexOf(QRegularExpression(QRegularExpression::anchoredPattern(QRegularExpression::escape(name)),
+                                           QRegularExpression::CaseInsensitiveOption));
+    return at < 0 ? name : folders[at];
+}
+
 } // namespace
 
 QString Path()
@@ -24,6 +38,14 @@ QString Path()
 void setPath(const QString &folder)
 {
     replacement() = folder;
+}
+
+QString folder(QStringView behindPath)
+{
+    QString found = Path();
+    for (const QStringView name : behindPath.tokenize(u'\\', Qt::SkipEmptyParts))
+        found += u'/' + existingName(found, name.toString());
+    return found;
 }
 
 QString Title()

@@ -1,6 +1,5 @@
 #include "platform/runtime/BinaryFile.h"
 
-#include "platform/runtime/Files.h"
 #include "platform/runtime/RuntimeError.h"
 
 #include <QFileInfo>
@@ -15,7 +14,7 @@ namespace {
 
 constexpr size_t lastNumber = 511;
 
-// By number; the first place stays empty.
+// Indexed by number; place 0 is never used.
 std::array<std::unique_ptr<BinaryFile>, lastNumber + 1> &openFiles()
 {
     static std::array<std::unique_ptr<BinaryFile>, lastNumber + 1> files;
@@ -29,10 +28,10 @@ std::unique_ptr<BinaryFile> &placeOf(qint16 handle)
     return openFiles()[size_t(handle)];
 }
 
-// Nothing but a plain file is opened: a pipe would hold the program up.
-void refuseUnlessPlain(const QString &native, BinaryAccess access)
+// Only plain files are opened: a pipe would block the program.
+void requirePlainFile(const QString &path, BinaryAccess access)
 {
-    const QFileInfo file(native);
+    const QFileInfo file(path);
     if (file.exists()) {
         if (!file.isFile())
             throw RuntimeError(PathFileAccess);
@@ -45,11 +44,9 @@ void refuseUnlessPlain(const QString &native, BinaryAccess access)
 
 } // namespace
 
-BinaryFile::BinaryFile(const QString &path, BinaryAccess access) : m_file(nativePath(path))
+BinaryFile::BinaryFile(const QString &path, BinaryAccess access) : m_file(path)
 {
-    if (path.endsWith(u'\\') || path.endsWith(u'/')) // the native path of a missing folder has lost this
-        throw RuntimeError(folderExists(path) ? PathFileAccess : PathNotFound);
-    refuseUnlessPlain(m_file.fileName(), access);
+    requirePlainFile(path, access);
     const QIODevice::OpenMode mode = access == BinaryAccess::Read ? QIODevice::ReadOnly : QIODevice::ReadWrite;
     // Whole files go through here at once: a buffer in between would only be another copy.
     if (!m_file.open(mode | QIODevice::Unbuffered))
@@ -88,11 +85,11 @@ void BinaryFile::put(qint64 position, const QByteArray &bytes)
     if (!m_file.isWritable())
         throw RuntimeError(BadFileMode);
     seek(position);
-    const qint64 written = m_file.write(bytes);
-    if (written == bytes.size())
+    const qint64 accepted = m_file.write(bytes);
+    if (accepted == bytes.size())
         return;
-    // What a plain file takes in part found no room for the rest.
-    throw RuntimeError(written > 0 || m_file.error() == QFile::ResourceError ? DiskFull : DeviceError);
+    // A plain file that accepts a part only has no room for the rest.
+    throw RuntimeError(accepted > 0 || m_file.error() == QFile::ResourceError ? DiskFull : DeviceError);
 }
 
 qint16 FreeFile()
@@ -122,7 +119,7 @@ BinaryFile &openFile(qint16 handle)
 
 void CloseFile(qint16 handle)
 {
-    openFile(handle); // there has to be one
+    openFile(handle); // raises error 52 where none is open
     placeOf(handle).reset();
 }
 

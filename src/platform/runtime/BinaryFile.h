@@ -3,7 +3,7 @@
 //
 // The table of open files belongs to the process. A number stays taken until CloseFile: a handler that fails on its way
 // there leaves its file open. Error 52 for a number under which nothing is open, 63 for a position before the first
-// byte. Trap: a file that was read bytewise is mapped into memory, and no other program may shorten it while it is
+// byte. Trap: a file that was read bytewise is mapped into memory; no other program may shorten it while it is
 // open.
 #pragma once
 
@@ -16,19 +16,19 @@ namespace runtime {
 
 enum class BinaryAccess { Read, ReadWrite };
 
-// What is open under a number.
+// An open file.
 class BinaryFile
 {
 public:
-    // As OpenBinary.
+    // Opens the file; errors as OpenBinary.
     BinaryFile(const QString &path, BinaryAccess access);
 
     // In bytes.
     qint64 size() const { return m_file.size(); }
-    // Fills the buffer from the position on. What would lie behind the end of the file stays as it was.
+    // Reads as many bytes as the buffer has; where the file ends before, the rest of the buffer keeps its content.
     void get(qint64 position, QByteArray &buffer);
-    // The file as it stands, for who takes it byte by byte; mapped into memory, so that a byte costs one access to it.
-    // It goes when the file is closed or its bytes are asked for anew.
+    // The whole file, mapped into memory so that reading it byte by byte is cheap. The view ends with the file, or when
+    // bytes() is called again.
     QByteArrayView bytes();
     // Error 54 on a file that is open for reading, 61 when the disk is full, 57 when it fails otherwise.
     void put(qint64 position, const QByteArray &bytes);
@@ -38,7 +38,7 @@ private:
 
     QFile m_file;
     uchar *m_mapped = nullptr;
-    QByteArray m_content; // where the file system does not map
+    QByteArray m_content; // what bytes() shows where the file system cannot map
 };
 
 // The lowest number from 1 to 511 that is not taken; error 67 when all are. It is not taken before a file is opened.

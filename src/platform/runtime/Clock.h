@@ -14,7 +14,7 @@ double Timer();
 // The present moment to the second.
 Date clockNow();
 
-// Puts a clock of the caller's in place of the system's; an empty function puts the system's back.
+// For tests: another clock; an empty function goes back to the system's.
 void setClock(std::function<QDateTime()> clock);
 
 } // namespace runtime

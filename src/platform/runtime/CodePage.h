@@ -1,8 +1,8 @@
 // The single-byte code page by which bytes of a file are read as characters: Windows-1252, what most of the files that
 // members hand in were written with. Its five unused bytes are the control characters of the same number.
 //
-// Upper case is its own: a letter whose capital it does not have (ß, µ, ƒ) stays as it is, and so does a character
-// outside of it.
+// Upper case stays within the page: a letter whose capital is not on it (ß, µ, ƒ) keeps its form, and so does a
+// character that is not on it itself.
 #pragma once
 
 #include <QString>

@@ -190,6 +190,11 @@ bool IsNumeric(const Value &value)
     }
 }
 
+qint32 sum(qint32 left, qint32 right)
+{
+    return rounded<qint32>(double(left) + double(right));
+}
+
 QString joinedText(const Value &value)
 {
     return value.isNull() ? QString() : toText(value);

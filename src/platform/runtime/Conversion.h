@@ -26,6 +26,9 @@ QString singleText(float number);
 // Whether the value is a number, a Boolean, or a text that can be read as a number. Raises nothing.
 bool IsNumeric(const Value &value);
 
+// Error 6 where the sum is no 32-bit number.
+qint32 sum(qint32 left, qint32 right);
+
 // The value's text, the empty text for Null: what joining it to a text gives.
 QString joinedText(const Value &value);
 

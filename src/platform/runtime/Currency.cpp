@@ -2,6 +2,8 @@
 
 #include "platform/runtime/RuntimeError.h"
 
+#include <QtNumeric>
+
 #include <cmath>
 #include <limits>
 
@@ -84,11 +86,15 @@ bool roundsUp(const QString &digits, qsizetype at, bool odd)
 
 Currency Currency::fromDouble(double amount)
 {
-    const double scaled = std::nearbyint(amount * double(scale));
-    constexpr double limit = 9223372036854775808.0;
-    if (!(scaled >= -limit && scaled < limit))
+    // Whole and fraction by themselves: their product with the scale would have more digits than a double.
+    const double whole = std::trunc(amount);
+    if (!(std::abs(whole) <= double(std::numeric_limits<qint64>::max() / scale)))
         throw RuntimeError(Overflow);
-    return fromScaled(qint64(scaled));
+    const auto fraction = qint64(std::nearbyint((amount - whole) * double(scale)));
+    qint64 scaled = 0;
+    if (qAddOverflow(qint64(whole) * scale, fraction, &scaled))
+        throw RuntimeError(Overflow);
+    return fromScaled(scaled);
 }
 
 std::optional<Currency> Currency::fromPlainText(QStringView text)

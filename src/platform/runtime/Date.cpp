@@ -10,7 +10,7 @@ namespace runtime {
 
 namespace {
 
-// The number that the digits are, -1 where there is something else among them.
+// -1 when there is anything but digits.
 int numberOf(QStringView digits)
 {
     int number = 0;
@@ -51,7 +51,7 @@ Date Date::fromSerial(double serial)
     return date;
 }
 
-// Qt reads all the forms, but long lists have thousands of the usual one.
+// The usual form is read by hand: long lists have thousands of them, and Qt is much slower.
 std::optional<Date> Date::fromIsoText(QStringView text)
 {
     const bool usual = text.size() == 19 && text[4] == u'-' && text[7] == u'-' && text[13] == u':' && text[16] == u':';

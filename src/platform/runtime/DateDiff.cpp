@@ -8,7 +8,7 @@ namespace runtime {
 
 namespace {
 
-// Whole units up to the moment; also before day 0 a boundary lies at the start of a unit.
+// Units that ended before the moment, counted from day 0; rounded towards the past, so that days before it count alike.
 qint64 unitsUpTo(const Date &moment, qint64 secondsInUnit)
 {
     const qint64 seconds = moment.seconds();

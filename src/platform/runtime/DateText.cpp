@@ -70,7 +70,7 @@ const Forms &regionalForms()
         const QString hourAlone = halfOfDayPattern().replace(u"<am>"_s, u"<am2>"_s).replace(u"<pm>"_s, u"<pm2>"_s);
         forms = Forms{regional(),
                       QRegularExpression(QRegularExpression::anchoredPattern(patternOf(shortDateForm()))),
-                      {wholeWords(patternOf(longTimeForm())), wholeWords(patternOf(shortTimeForm())),
+                      {wholeWords(patternOf(shortTimeForm())), wholeWords(patternOf(longTimeForm())),
                        wholeWords(typed.arg(halfOfDayPattern(), hourAlone))}};
     }
     return *forms;

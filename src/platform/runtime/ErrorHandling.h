@@ -1,5 +1,5 @@
-// The error styles of a handler that does not simply let a failure escape to the report, as they read at the place of
-// use. The style that reports error 7 alone needs a message box and lives in the desktop room.
+// How a handler deals with failures that it does not let escape to the report. A third way, to report error 7 and
+// ignore all others, needs a message box: see desktop/ErrorReport.h.
 #pragma once
 
 #include "platform/runtime/RuntimeError.h"
@@ -14,7 +14,7 @@ template <class... Steps> void everyStep(Steps &&...steps)
     const auto run = [](auto &step) {
         try {
             step();
-        } catch (const std::exception &) { // this style passes over every failure
+        } catch (const std::exception &) { // ignored on purpose
         }
     };
     (run(steps), ...);
@@ -26,7 +26,7 @@ template <class Body> bool endSilently(Body &&body)
     try {
         body();
         return true;
-    } catch (const std::exception &) { // this style tells nobody
+    } catch (const std::exception &) { // not reported on purpose
         return false;
     }
 }

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <cerrno>
 #include <filesystem>
@@ -19,7 +20,7 @@ namespace {
 struct Enumeration
 {
     QString folder;
-    QStringList names; // still to come
+    QStringList names; // not yet returned
 };
 
 std::optional<Enumeration> &running()
@@ -28,12 +29,23 @@ std::optional<Enumeration> &running()
     return enumeration;
 }
 
+// Exactly as they stand: only * and ? are wildcards, and case counts.
+QStringList namesIn(const QString &folder, const QString &filter)
+{
+    QString pattern = QRegularExpression::escape(filter);
+    pattern.replace(u"\\*"_s, u".*"_s).replace(u"\\?"_s, u"."_s);
+    const auto options = QRegularExpression::DotMatchesEverythingOption;
+    const QRegularExpression whole(QRegularExpression::anchoredPattern(pattern), options);
+    const QDir directory(folder.isEmpty() ? u"."_s : folder);
+    return directory.entryList(QDir::Files | QDir::Hidden, QDir::Name).filter(whole);
+}
+
 QString nextName()
 {
     auto &enumeration = running();
     while (!enumeration->names.isEmpty()) {
         QString name = enumeration->names.takeFirst();
-        if (QFileInfo(enumeration->folder + u'/' + name).isFile())
+        if (QFileInfo(enumeration->folder + name).isFile())
             return name;
     }
     enumeration.reset();
@@ -42,39 +54,14 @@ QString nextName()
 
 } // namespace
 
-QString nativePath(const QString &path)
-{
-    QString native = path;
-    native.replace(u'\\', u'/');
-    if (QFileInfo::exists(native))
-        return native;
-    QString resolved = native.startsWith(u'/') ? u"/"_s : QString();
-    const QStringList pieces = native.split(u'/', Qt::SkipEmptyParts);
-    for (const QString &piece : pieces) {
-        QString name = piece;
-        if (!QFileInfo::exists(resolved + piece)) {
-            const QStringList alike =
-                QDir(resolved.isEmpty() ? u"."_s : resolved).entryList({}, QDir::AllEntries | QDir::Hidden);
-            const auto found = std::find_if(alike.cbegin(), alike.cend(), [&piece](const QString &entry) {
-                return entry.compare(piece, Qt::CaseInsensitive) == 0;
-            });
-            if (found != alike.cend())
-                name = *found;
-        }
-        resolved += name + u'/';
-    }
-    return resolved.isEmpty() || resolved == u'/' ? resolved : resolved.chopped(1);
-}
-
 QString Dir(const QString &pattern)
 {
-    const qsizetype end = qMax(pattern.lastIndexOf(u'\\'), pattern.lastIndexOf(u'/'));
-    const QString folder = nativePath(pattern.first(qMax<qsizetype>(0, end)));
+    const qsizetype end = pattern.lastIndexOf(u'/');
+    const QString folder = pattern.first(end + 1);
     QString filter = pattern.sliced(end + 1);
     if (filter == u"*.*")
-        filter = u"*"_s;              // the classic pattern for every name, with a dot or without
-    filter.replace(u"["_s, u"[[]"_s); // only * and ? are wildcards
-    running() = Enumeration{folder, QDir(folder).entryList({filter}, QDir::Files, QDir::Name)};
+        filter = u"*"_s; // the classic pattern for every name, with a dot or without
+    running() = Enumeration{folder, namesIn(folder, filter)};
     return nextName();
 }
 
@@ -87,7 +74,7 @@ QString Dir()
 
 qint64 FileLen(const QString &path)
 {
-    const QFileInfo file(nativePath(path));
+    const QFileInfo file(path);
     if (!file.isFile())
         throw RuntimeError(FileNotFound);
     return file.size();
@@ -95,12 +82,12 @@ qint64 FileLen(const QString &path)
 
 bool folderExists(const QString &path)
 {
-    return QFileInfo(nativePath(path)).isDir();
+    return QFileInfo(path).isDir();
 }
 
 void MkDir(const QString &path)
 {
-    const QFileInfo folder(nativePath(path));
+    const QFileInfo folder(path);
     if (!QFileInfo(folder.path()).isDir())
         throw RuntimeError(PathNotFound);
     if (!QDir().mkdir(folder.filePath()))
@@ -110,14 +97,31 @@ void MkDir(const QString &path)
 void Kill(const QString &path)
 {
     std::error_code error;
-    const QString native = nativePath(path);
-    if (!QFileInfo(native).isFile())
+    if (!QFileInfo(path).isFile())
         throw RuntimeError(FileNotFound);
-    std::filesystem::remove(native.toStdString(), error);
+    std::filesystem::remove(QFile::encodeName(path).toStdString(), error);
     if (error == std::errc::text_file_busy || error == std::errc::device_or_resource_busy)
         throw RuntimeError(PermissionDenied);
     if (error)
         throw RuntimeError(PathFileAccess);
+}
+
+QString fileName(const QString &name)
+{
+    constexpr qsizetype longestName = 255; // bytes, in every file system that this program meets
+    const bool plain = !name.isEmpty() && name != u"." && name != u".." && !name.contains(u'/') &&
+                       !name.contains(QChar(u'\0')) && QFile::encodeName(name).size() <= longestName;
+    if (!plain)
+        throw RuntimeError(PathFileAccess);
+    return name;
+}
+
+QString pathInFolder(const QString &folder, const QString &name)
+{
+    QString path = folder + u'/' + fileName(name);
+    if (QFileInfo(path).isSymLink())
+        throw RuntimeError(PathFileAccess);
+    return path;
 }
 
 } // namespace runtime

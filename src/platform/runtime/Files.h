@@ -1,16 +1,13 @@
-// The run-time's file operations. Paths are written with backslashes, as the windows compose them; names in them do not
-// differ by case.
+// The run-time's file operations. Paths are this system's own, taken exactly as they stand: case counts, and a
+// backslash is a character of a name.
 #pragma once
 
 #include <QString>
 
 namespace runtime {
 
-// The path as this system writes it. Where no file of exactly that name stands, one that differs by case is taken.
-QString nativePath(const QString &path);
-
-// The name of the first plain file that matches the pattern ("folder\*.*"), empty when none does or there is no such
-// folder. Begins a new enumeration and forgets the running one.
+// The name of the first plain file that matches the pattern ("folder/*.*"), empty when none does or there is no such
+// folder; a name that begins with a dot counts as any other. Begins a new enumeration and forgets the running one.
 QString Dir(const QString &pattern);
 // The next name of the running enumeration, empty at its end; after that, and before any, error 5.
 QString Dir();
@@ -21,7 +18,14 @@ bool folderExists(const QString &path);
 // Makes one folder. Error 75: something of that name stands there or it may not be made; 76: there is no folder to make
 // it in.
 void MkDir(const QString &path);
-// Deletes one file. Error 53: there is none; 70: another program holds it; 75: it may not be deleted.
+// Deletes one file; of a link to one the link alone. Error 53: there is none; 70: another program holds it; 75: it may
+// not be deleted.
 void Kill(const QString &path);
+
+// The name itself. Error 75 for one that could lead out of a folder or that no file can bear: empty, "." or "..", with
+// a slash or a zero character, longer than 255 bytes.
+QString fileName(const QString &name);
+// Where a file of that name goes in the folder. Error 75 as before, and where a link stands in its place.
+QString pathInFolder(const QString &folder, const QString &name);
 
 } // namespace runtime

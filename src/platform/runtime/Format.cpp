@@ -46,7 +46,7 @@ int regionalDecimals(const QLocale &locale)
     return qBound(0, int(zeros) - 1, currencyDecimals);
 }
 
-// The number in the region's digits with its grouping. The locale's own way leads over a double, which is not exact.
+// The number in the region's digits with its grouping. QLocale formats decimals only from a double, which is not exact.
 QString groupedText(QLocale locale, quint64 number, int decimals)
 {
     const quint64 one = powerOfTen(decimals);
@@ -59,8 +59,8 @@ QString groupedText(QLocale locale, quint64 number, int decimals)
     return text;
 }
 
-// The form of the amount one, in whose place any other can be set. The locale knows the form of bookkeeping, with
-// brackets in many regions; of those only the United States use brackets in everyday amounts.
+// The region's text for the amount 1, in which FormatCurrency replaces the 1 by another amount. Qt gives negative
+// amounts the brackets of bookkeeping in many regions; only the United States use them in everyday amounts.
 QString regionalForm(const QLocale &locale, bool negative)
 {
     QString form = locale.toCurrencyString(qlonglong(negative ? -1 : 1));

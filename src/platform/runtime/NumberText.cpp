@@ -108,8 +108,7 @@ std::optional<QString> plainDigits(QStringView text, const QString &decimalSign,
     return plain;
 }
 
-} // namespace
-
+// The number in the plain form "-1200.50e3".
 std::optional<QString> plainNumber(QStringView text)
 {
     const QString typed = plainlyTyped(text);
@@ -124,6 +123,8 @@ std::optional<QString> plainNumber(QStringView text)
         plain->prepend(u'-');
     return plain;
 }
+
+} // namespace
 
 std::optional<double> parseDouble(QStringView text)
 {

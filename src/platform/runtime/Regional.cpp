@@ -28,7 +28,8 @@ QString formOf(const QList<FormPiece> &pieces)
 
 bool hasField(const QList<FormPiece> &pieces, QStringView field)
 {
-    return std::any_of(pieces.cbegin(), pieces.cend(), [field](const FormPiece &piece) { return piece.field == field; });
+    return std::any_of(pieces.cbegin(), pieces.cend(),
+                       [field](const FormPiece &piece) { return piece.field == field; });
 }
 
 // Without the zone, and without the comma, brackets or blanks that part it from the time.

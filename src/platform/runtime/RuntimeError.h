@@ -41,7 +41,6 @@ enum ErrorNumber : int {
     WrongDataFormat = 461,
     PrinterError = 482,
     IndexOutOfBounds = 35600,
-    ElementNotFound = 35601,
     KeyNotUnique = 35602,
 };
 

@@ -35,7 +35,7 @@ QStringList textLines(const QString &path)
     QString text = decoded(bytes);
     text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
     QStringList lines = text.split(u'\n');
-    if (lines.constLast().isEmpty()) // behind the end of the last line there is no further one
+    if (lines.constLast().isEmpty()) // the end of the last line begins no further one
         lines.removeLast();
     return lines;
 }

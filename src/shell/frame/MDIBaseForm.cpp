@@ -121,8 +121,8 @@ void MDIBaseForm::Form_Resize()
 
 void MDIBaseForm::Form_Unload()
 {
-    const QString folder = runtime::App::Path() + u"\\temp\\"_s;
-    QString name = runtime::Dir(runtime::App::Path() + u"\\temp\\*.*"_s);
+    const QString folder = runtime::App::folder(u"\\temp") + u'/';
+    QString name = runtime::Dir(folder + u"*.*"_s);
     while (!name.isEmpty()) {
         runtime::Kill(folder + name);
         name = runtime::Dir();

@@ -74,7 +74,7 @@ void frmTip::Form_Load()
     }
     chkLoadTipsAtStartup->setChecked(true);
     runtime::Randomize();
-    if (!LoadTips(runtime::App::Path() + u'\\' + tipsFile))
+    if (!LoadTips(runtime::App::Path() + u'/' + tipsFile))
         lblTipText->setText(u"That the "_s + tipsFile + u" file was not found? \n\nCreate a text file named "_s +
                             tipsFile +
                             u" using NotePad with 1 tip per line. Then place it in the same directory as the "

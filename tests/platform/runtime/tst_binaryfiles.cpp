@@ -80,14 +80,15 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("toRead");
         QTest::addColumn<QString>("toWrite");
-        QTest::newRow("file, nothing is cut off") << u"letter.DOC"_s << u"10"_s << u"10"_s;
+        QTest::newRow("file, nothing is cut off") << u"Letter.doc"_s << u"10"_s << u"10"_s;
+        QTest::newRow("another case, a backslash") << u"letter\\DOC"_s << u"error 53"_s << u"0"_s;
         QTest::newRow("missing") << u"none"_s << u"error 53"_s << u"0"_s;
         QTest::newRow("too long a name") << QString(256, u'x') << u"error 53"_s << u"error 75"_s;
-        QTest::newRow("missing folder") << u"none\\Letter.doc"_s << u"error 76"_s << u"error 76"_s;
-        QTest::newRow("below a file") << u"Letter.doc\\none"_s << u"error 76"_s << u"error 76"_s;
-        QTest::newRow("folder") << u"folder"_s << u"error 75"_s << u"error 75"_s;
+        QTest::newRow("missing folder") << u"none/Letter.doc"_s << u"error 76"_s << u"error 76"_s;
+        QTest::newRow("below a file") << u"Letter.doc/none"_s << u"error 76"_s << u"error 76"_s;
+        QTest::newRow("folder") << u"Folder"_s << u"error 75"_s << u"error 75"_s;
         QTest::newRow("no name") << u""_s << u"error 75"_s << u"error 75"_s;
-        QTest::newRow("no name in a missing folder") << u"none\\"_s << u"error 76"_s << u"error 76"_s;
+        QTest::newRow("no name in a missing folder") << u"none/"_s << u"error 76"_s << u"error 76"_s;
         QTest::newRow("pipe") << u"pipe"_s << u"error 75"_s << u"error 75"_s;
     }
     void opens()
@@ -223,7 +224,7 @@ private Q_SLOTS:
     }
 
 private:
-    QString inFolder(const QString &name) const { return m_folder->path() + u'\\' + name; }
+    QString inFolder(const QString &name) const { return m_folder->path() + u'/' + name; }
     void make(const QString &name, const QByteArray &content) const
     {
         QFile file(m_folder->filePath(name));

@@ -242,8 +242,9 @@ void ConversionTest::makesAmountsOfNumbers_data()
     QTest::newRow("exact half to even") << Value(1.0 / 32) << u"0.0312"_s;
     QTest::newRow("exact half to even, up") << Value(3.0 / 32) << u"0.0938"_s;
     QTest::newRow("true") << Value(true) << u"-1"_s;
-    QTest::newRow("lowest") << Value(-922337203685477.5808) << u"-922337203685477.5808"_s;
-    QTest::newRow("too low") << Value(-922337203685478.0) << u"error 6"_s;
+    QTest::newRow("more digits than a double multiplies") << Value(90071992547409.9375) << u"90071992547409.9375"_s;
+    QTest::newRow("lowest") << Value(-922337203685477.5) << u"-922337203685477.5"_s;
+    QTest::newRow("too low") << Value(-922337203685477.625) << u"error 6"_s;
     QTest::newRow("too high") << Value(922337203685477.625) << u"error 6"_s;
     QTest::newRow("no number") << Value(std::numeric_limits<double>::quiet_NaN()) << u"error 6"_s;
     QTest::newRow("Null") << Value() << u"error 94"_s;

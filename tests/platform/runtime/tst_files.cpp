@@ -1,3 +1,4 @@
+#include "platform/runtime/Application.h"
 #include "platform/runtime/Files.h"
 #include "platform/runtime/TextFile.h"
 #include "support/OrdinaryUser.h"
@@ -19,8 +20,10 @@ class FilesTest : public QObject
 private Q_SLOTS:
     void init();
 
-    void findsNamesWhateverTheirCase_data();
-    void findsNamesWhateverTheirCase();
+    void findsItsOwnFoldersWhateverTheirCase();
+    void staysInTheFolder_data();
+    void staysInTheFolder();
+    void deletesALinkAlone();
     void listsPlainFiles_data();
     void listsPlainFiles();
     void passesOverWhatWasDeletedMeanwhile();
@@ -48,7 +51,7 @@ void FilesTest::init()
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(QDir(m_folder->path()).mkpath(u"Temp/Search"_s));
     QVERIFY(QDir(m_folder->path()).mkpath(u"Temp/a folder.doc"_s));
-    for (const char *name : {"Letter.doc", "notes", "plan.DOC", "it's [1].doc"}) {
+    for (const char *name : {".hidden", "Letter.doc", "notes", "plan.DOC", "it's [1].doc"}) {
         QFile file(inFolder(u"/Temp/"_s + QString::fromLatin1(name)));
         QVERIFY(file.open(QIODevice::WriteOnly));
     }
@@ -62,23 +65,51 @@ QStringList FilesTest::listed(const QString &pattern) const
     return names;
 }
 
-void FilesTest::findsNamesWhateverTheirCase_data()
+void FilesTest::findsItsOwnFoldersWhateverTheirCase()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("native");
-
-    QTest::newRow("as it stands") << u"\\Temp\\Letter.doc"_s << u"/Temp/Letter.doc"_s;
-    QTest::newRow("folder and file in another case") << u"\\TEMP\\letter.DOC"_s << u"/Temp/Letter.doc"_s;
-    QTest::newRow("both separators") << u"/temp\\search"_s << u"/Temp/Search"_s;
-    QTest::newRow("file that is not there yet") << u"\\temp\\New.doc"_s << u"/Temp/New.doc"_s;
-    QTest::newRow("folder that is not there") << u"\\none\\New.doc"_s << u"/none/New.doc"_s;
+    runtime::App::setPath(m_folder->path());
+    QCOMPARE(runtime::App::folder(u"\\temp\\SEARCH"), inFolder(u"/Temp/Search"_s));
+    QCOMPARE(runtime::App::folder(u"\\Temp\\notes"), inFolder(u"/Temp/notes"_s)); // no folder of that name
+    QVERIFY(QDir(m_folder->path()).mkdir(u"temp"_s));
+    QCOMPARE(runtime::App::folder(u"\\temp\\Search"), inFolder(u"/temp/Search"_s));
+    runtime::App::setPath({});
 }
 
-void FilesTest::findsNamesWhateverTheirCase()
+// The names come from a data file, which anybody may have made.
+void FilesTest::staysInTheFolder_data()
 {
-    QFETCH(QString, path);
-    QFETCH(QString, native);
-    QCOMPARE(runtime::nativePath(inFolder(path)), inFolder(native));
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("path");
+
+    const auto row = [](const char *name, const QString &path) {
+        QTest::newRow(name) << QString::fromUtf8(name) << path;
+    };
+    row("Letter.doc", u"/Temp/Letter.doc"_s);
+    row("letter.DOC", u"/Temp/letter.DOC"_s);
+    row("..\\evil.txt", u"/Temp/..\\evil.txt"_s); // one name here
+    row("...", u"/Temp/..."_s);
+    for (const char *name :
+         {"", ".", "..", "../evil.txt", "../../Tolmark.mdb", "/etc/passwd", "Search/x", "x/", "link"})
+        row(name, u"error 75"_s);
+    QTest::newRow("zero character") << u"a\0b"_s.append(QChar(u'\0')) << u"error 75"_s;
+    QTest::newRow("longest") << QString(127, u'é') + u'x' << u"/Temp/"_s + QString(127, u'é') + u'x';
+    QTest::newRow("too long") << QString(128, u'é') << u"error 75"_s;
+}
+
+void FilesTest::staysInTheFolder()
+{
+    QVERIFY(QFile::link(inFolder(u"/Tolmark.mdb"_s), inFolder(u"/Temp/link"_s)));
+    QFETCH(QString, name);
+    QTEST(outcomeOf([&] { return runtime::pathInFolder(inFolder(u"/Temp"_s), name); }).remove(m_folder->path()),
+          "path");
+}
+
+void FilesTest::deletesALinkAlone()
+{
+    const QString target = inFolder(u"/Temp/notes"_s);
+    QVERIFY(QFile::link(target, inFolder(u"/Temp/link"_s)));
+    runtime::Kill(inFolder(u"/Temp/link"_s));
+    QVERIFY(QFile::exists(target) && !QFileInfo(inFolder(u"/Temp/link"_s)).isSymLink());
 }
 
 void FilesTest::listsPlainFiles_data()
@@ -86,15 +117,13 @@ void FilesTest::listsPlainFiles_data()
     QTest::addColumn<QString>("pattern");
     QTest::addColumn<QStringList>("names");
 
-    QTest::newRow("all, with a dot or without")
-        << u"\\Temp\\*.*"_s << QStringList{u"Letter.doc"_s, u"it's [1].doc"_s, u"notes"_s, u"plan.DOC"_s};
-    QTest::newRow("by extension, folder in another case")
-        << u"\\temp\\*.doc"_s << QStringList{u"Letter.doc"_s, u"it's [1].doc"_s, u"plan.DOC"_s};
-    QTest::newRow("written with slashes") << u"/Temp/letter.doc"_s << QStringList{u"Letter.doc"_s};
-    QTest::newRow("one file") << u"\\Temp\\letter.doc"_s << QStringList{u"Letter.doc"_s};
-    QTest::newRow("one file with brackets") << u"\\Temp\\it's [1].doc"_s << QStringList{u"it's [1].doc"_s};
-    QTest::newRow("empty folder") << u"\\Temp\\Search\\*.*"_s << QStringList{};
-    QTest::newRow("no such folder") << u"\\none\\*.*"_s << QStringList{};
+    QTest::newRow("all, with a dot or without, also at the beginning")
+        << u"/Temp/*.*"_s << QStringList{u".hidden"_s, u"Letter.doc"_s, u"it's [1].doc"_s, u"notes"_s, u"plan.DOC"_s};
+    QTest::newRow("by extension") << u"/Temp/*.doc"_s << QStringList{u"Letter.doc"_s, u"it's [1].doc"_s};
+    QTest::newRow("one file with brackets") << u"/Temp/it's [?].doc"_s << QStringList{u"it's [1].doc"_s};
+    QTest::newRow("another case") << u"/Temp/letter.doc"_s << QStringList{};
+    QTest::newRow("empty folder") << u"/Temp/Search/*.*"_s << QStringList{};
+    QTest::newRow("no such folder") << u"/none/*.*"_s << QStringList{};
 }
 
 void FilesTest::listsPlainFiles()
@@ -107,27 +136,27 @@ void FilesTest::listsPlainFiles()
 
 void FilesTest::passesOverWhatWasDeletedMeanwhile()
 {
-    const QString first = runtime::Dir(inFolder(u"\\Temp\\*.*"_s));
+    const QString first = runtime::Dir(inFolder(u"/Temp/*.*"_s));
     QVERIFY(!first.isEmpty());
-    for (const char *name : {"Letter.doc", "notes", "plan.DOC", "it's [1].doc"}) {
+    for (const char *name : {".hidden", "Letter.doc", "notes", "plan.DOC", "it's [1].doc"}) {
         if (first != QString::fromLatin1(name))
-            runtime::Kill(inFolder(u"\\Temp\\"_s + QString::fromLatin1(name)));
+            runtime::Kill(inFolder(u"/Temp/"_s + QString::fromLatin1(name)));
     }
     QCOMPARE(runtime::Dir(), QString());
 }
 
 void FilesTest::forgetsTheFormerEnumeration()
 {
-    QVERIFY(!runtime::Dir(inFolder(u"\\Temp\\*.*"_s)).isEmpty());
-    QCOMPARE(runtime::Dir(inFolder(u"\\Temp\\notes"_s)), u"notes"_s);
+    QVERIFY(!runtime::Dir(inFolder(u"/Temp/*.*"_s)).isEmpty());
+    QCOMPARE(runtime::Dir(inFolder(u"/Temp/notes"_s)), u"notes"_s);
     QCOMPARE(runtime::Dir(), QString());
 }
 
 void FilesTest::refusesToGoOnAfterTheEnd()
 {
-    listed(u"\\Temp\\*.*"_s);
+    listed(u"/Temp/*.*"_s);
     QCOMPARE(outcomeOf([] { return runtime::Dir(); }), u"error 5"_s);
-    QCOMPARE(runtime::Dir(inFolder(u"\\none\\*.*"_s)), QString());
+    QCOMPARE(runtime::Dir(inFolder(u"/none/*.*"_s)), QString());
     QCOMPARE(outcomeOf([] { return runtime::Dir(); }), u"error 5"_s);
 }
 
@@ -136,23 +165,24 @@ void FilesTest::kills_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("outcome");
 
-    QTest::newRow("file in another case") << u"\\TEMP\\letter.doc"_s << u"gone"_s;
-    QTest::newRow("no such file") << u"\\Temp\\none.doc"_s << u"error 53"_s;
-    QTest::newRow("no such folder") << u"\\none\\Letter.doc"_s << u"error 53"_s;
-    QTest::newRow("folder") << u"\\Temp\\Search"_s << u"error 53"_s;
+    QTest::newRow("file") << u"/Temp/Letter.doc"_s << u"gone"_s;
+    QTest::newRow("another case") << u"/Temp/letter.doc"_s << u"error 53"_s;
+    QTest::newRow("no such file") << u"/Temp/none.doc"_s << u"error 53"_s;
+    QTest::newRow("no such folder") << u"/none/Letter.doc"_s << u"error 53"_s;
+    QTest::newRow("folder") << u"/Temp/Search"_s << u"error 53"_s;
 }
 
 void FilesTest::kills()
 {
     QFETCH(QString, path);
     QFETCH(QString, outcome);
-    const qsizetype before = listed(u"\\Temp\\*.*"_s).size();
+    const qsizetype before = listed(u"/Temp/*.*"_s).size();
     QCOMPARE(outcomeOf([&] {
                  runtime::Kill(inFolder(path));
                  return u"gone"_s;
              }),
              outcome);
-    QCOMPARE(listed(u"\\Temp\\*.*"_s).size(), before - (outcome == u"gone" ? 1 : 0));
+    QCOMPARE(listed(u"/Temp/*.*"_s).size(), before - (outcome == u"gone" ? 1 : 0));
     QVERIFY(QDir(inFolder(u"/Temp/Search"_s)).exists());
 }
 
@@ -167,7 +197,7 @@ void FilesTest::doesNotKillWhereItMayNot()
         if (!user.isInEffect())
             QSKIP("The system lets this user delete every file.");
         QCOMPARE(outcomeOf([&] {
-                     runtime::Kill(inFolder(u"\\Temp\\notes"_s));
+                     runtime::Kill(inFolder(u"/Temp/notes"_s));
                      return u"gone"_s;
                  }),
                  u"error 75"_s);
@@ -181,9 +211,9 @@ void FilesTest::tellsLengths_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("outcome");
 
-    QTest::newRow("file in another case") << u"\\TEMP\\letter.doc"_s << u"6"_s;
-    QTest::newRow("no such file") << u"\\Temp\\none.doc"_s << u"error 53"_s;
-    QTest::newRow("folder") << u"\\Temp\\Search"_s << u"error 53"_s;
+    QTest::newRow("file") << u"/Temp/Letter.doc"_s << u"6"_s;
+    QTest::newRow("another case") << u"/Temp/letter.doc"_s << u"error 53"_s;
+    QTest::newRow("folder") << u"/Temp/Search"_s << u"error 53"_s;
 }
 
 void FilesTest::tellsLengths()
@@ -201,10 +231,10 @@ void FilesTest::makesFolders_data()
     QTest::addColumn<QString>("outcome");
     QTest::addColumn<bool>("stands"); // afterwards
 
-    QTest::newRow("new") << u"\\temp\\New"_s << u"made"_s << true;
-    QTest::newRow("folder in another case") << u"\\temp\\SEARCH"_s << u"error 75"_s << true;
-    QTest::newRow("name of a file") << u"\\temp\\Notes"_s << u"error 75"_s << false;
-    QTest::newRow("in no folder") << u"\\none\\New"_s << u"error 76"_s << false;
+    QTest::newRow("new") << u"/Temp/New"_s << u"made"_s << true;
+    QTest::newRow("folder that stands") << u"/Temp/Search"_s << u"error 75"_s << true;
+    QTest::newRow("name of a file") << u"/Temp/notes"_s << u"error 75"_s << false;
+    QTest::newRow("in no folder") << u"/none/New"_s << u"error 76"_s << false;
 }
 
 void FilesTest::makesFolders()
@@ -240,8 +270,8 @@ void FilesTest::readsLines()
     QFile file(inFolder(u"/Temp/notes"_s));
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     file.close();
-    QTEST(runtime::textLines(inFolder(u"\\temp\\NOTES"_s)), "lines");
-    QCOMPARE(outcomeOf([&] { return runtime::textLines(inFolder(u"\\Temp\\none"_s)).join(u'|'); }), u"error 53"_s);
+    QTEST(runtime::textLines(inFolder(u"/Temp/notes"_s)), "lines");
+    QCOMPARE(outcomeOf([&] { return runtime::textLines(inFolder(u"/Temp/none"_s)).join(u'|'); }), u"error 53"_s);
 }
 
 QTEST_APPLESS_MAIN(FilesTest)

@@ -5,6 +5,8 @@
 
 #include <QTest>
 
+#include <limits>
+
 using namespace Qt::Literals::StringLiterals;
 using runtime::Currency;
 using runtime::Date;
@@ -42,62 +44,94 @@ private Q_SLOTS:
 
     void readsItsOwnMoments()
     {
-        for (const QTime &time : {QTime(0, 0), QTime(0, 5, 1), QTime(9, 0), QTime(10, 42, 7), QTime(12, 0, 59),
-                                  QTime(22, 24), QTime(22, 42), QTime(23, 59, 59)}) {
-            const Date alone = Date::timeAlone(time);
-            const Date moment(QDate(2001, 12, 5), time);
-            const Date toTheMinute = Date::timeAlone(QTime(time.hour(), time.minute()));
-            inEachRegion([&] {
+        inEachRegion([this] {
+            for (const QTime &time : {QTime(0, 0), QTime(0, 5, 1), QTime(10, 42, 7), QTime(12, 0, 59), QTime(22, 24)}) {
+                const Date alone = Date::timeAlone(time);
                 readsAs(runtime::longTimeText(time), alone);
-                readsAs(runtime::shortTimeText(time), toTheMinute);
+                readsAs(runtime::shortTimeText(time), Date::timeAlone(QTime(time.hour(), time.minute())));
                 readsAs(runtime::toText(Value(alone)), alone);
+                const Date moment(QDate(2001, 12, 5), time);
                 readsAs(runtime::toText(Value(moment)), moment);
-            });
-        }
-    }
-
-    void readsItsOwnDays()
-    {
-        for (const QDate &day : {QDate(100, 1, 1), QDate(1899, 12, 30), QDate(1999, 12, 31), QDate(2001, 2, 3),
-                                 QDate(2010, 11, 12), QDate(9999, 10, 9)})
-            inEachRegion([&] { readsAs(runtime::shortDateText(day), Date(day)); });
+            }
+            for (const QDate &day : {QDate(100, 1, 1), QDate(1999, 12, 31), QDate(2001, 2, 3), QDate(9999, 10, 9)})
+                readsAs(runtime::shortDateText(day), Date(day));
+        });
     }
 
     void readsItsOwnNumbers()
     {
-        for (const double number : {0.0, -0.5, 1234567.25, 1e20, -2.5e-9})
-            inEachRegion([&] { numberReadsAs(runtime::toText(Value(number)), number); });
-        inEachRegion([&] { numberReadsAs(runtime::singleText(-12.25F), -12.25); });
-        inEachRegion([&] { numberReadsAs(runtime::Format(Value(qint32(-7)), u"00"), -7.0); });
+        inEachRegion([this] {
+            for (const double number : {0.0, -0.5, 1234567.25, 1e20, -2.5e-9})
+                numberReadsAs(runtime::toText(Value(number)), number);
+            numberReadsAs(runtime::singleText(-12.25F), -12.25);
+            numberReadsAs(runtime::Format(Value(qint32(-1234)), u"00"), -1234.0);
+        });
     }
 
     void readsItsOwnAmounts()
     {
-        for (const qint64 scaled : {qint64(0), qint64(50'000), qint64(-120'000), qint64(12'345'670'000),
-                                    qint64(-922'337'203'685'470'000)}) {
-            const Currency amount = Currency::fromScaled(scaled);
-            inEachRegion([&] {
-                for (const QString &text : typings(runtime::FormatCurrency(Value(amount)))) {
-                    tell(text, asText(runtime::IsNumeric(Value(text))), u"True"_s);
-                    tell(text, amountOf(text), amount.toPlainText());
-                }
-            });
-        }
-        for (const qint64 scaled : {qint64(-1), qint64(125'000), std::numeric_limits<qint64>::max()}) {
-            const Currency amount = Currency::fromScaled(scaled);
-            inEachRegion([&] {
-                const QString text = runtime::toText(Value(amount));
-                tell(text, amountOf(text), amount.toPlainText());
-            });
-        }
+        inEachRegion([this] {
+            for (const qint64 scaled : {qint64(0), qint64(50'000), qint64(-120'000), qint64(-922'337'203'685'470'000)})
+                amountReadsAs(runtime::FormatCurrency(Value(Currency::fromScaled(scaled))), scaled);
+            for (const qint64 scaled : {qint64(-1), qint64(125'000), std::numeric_limits<qint64>::max()})
+                amountReadsAs(runtime::toText(Value(Currency::fromScaled(scaled))), scaled);
+        });
+    }
+
+    // In the region's own pattern, with seconds where they are asked for.
+    void showsTimes_data()
+    {
+        QTest::addColumn<QString>("region");
+        QTest::addColumn<QString>("withSeconds");
+        QTest::addColumn<QString>("without");
+        const auto row = [](const char *region, const char *withSeconds, const char *without) {
+            QTest::newRow(region) << QString::fromLatin1(region) << QString::fromUtf8(withSeconds)
+                                  << QString::fromUtf8(without);
+        };
+        row("en_US", "10:05:33 PM", "10:05 PM");
+        row("de_DE", "22:05:33", "22:05");
+        row("da_DK", "22.05.33", "22.05");
+        row("fr_CA", "22 h 05 min 33 s", "22 h 05");
+        row("bg_BG", "22:05:33 ч.", "22:05 ч.");
+        row("nds_DE", "Kl. 22.05.33", "Kl. 22.05");
+        row("ko_KR", "오후 10:05:33", "오후 10:05");
+        row("zh_TW", "下午10:05:33", "下午10:05");
+    }
+    void showsTimes()
+    {
+        QFETCH(QString, region);
+        QLocale::setDefault(QLocale(region));
+        QTEST(runtime::longTimeText(QTime(22, 5, 33)), "withSeconds");
+        QTEST(runtime::shortTimeText(QTime(22, 5, 33)), "without");
+    }
+
+    // A mistyped time or day is no number of days: its signs would pass for thousands signs or for the decimal sign.
+    void readsWhatPeopleType_data()
+    {
+        QTest::addColumn<QString>("region");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("moment");
+        QTest::newRow("time") << u"da_DK"_s << u"22.24"_s << u"1899-12-30 22:24:00"_s;
+        QTest::newRow("time, not a day with two digits of its year")
+            << u"da_DK"_s << u"10.05.03"_s << u"1899-12-30 10:05:03"_s;
+        QTest::newRow("no time") << u"da_DK"_s << u"22.60"_s << u"error 13"_s;
+        QTest::newRow("no day") << u"de_DE"_s << u"31.02.99"_s << u"error 13"_s;
+        QTest::newRow("point of times and of decimals") << u"as_IN"_s << u"22.60"_s << u"error 13"_s;
+        QTest::newRow("days") << u"da_DK"_s << u"36922,25"_s << u"2001-01-31 06:00:00"_s;
+        QTest::newRow("day and time of a region of points")
+            << u"da_DK"_s << u"1.12.01 9.05"_s << u"2001-12-01 09:05:00"_s;
+        QTest::newRow("time typed as elsewhere") << u"fr_CA"_s << u"22:5"_s << u"1899-12-30 22:05:00"_s;
+        QTest::newRow("half of the day typed as elsewhere") << u"ko_KR"_s << u"5 pm"_s << u"1899-12-30 17:00:00"_s;
+    }
+    void readsWhatPeopleType()
+    {
+        QFETCH(QString, region);
+        QFETCH(QString, text);
+        QLocale::setDefault(QLocale(region));
+        QTEST(outcomeOf([&] { return runtime::toDate(Value(text)).toIsoText(); }), "moment");
     }
 
 private:
-    static QString amountOf(const QString &text)
-    {
-        return outcomeOf([&] { return runtime::toCurrency(Value(text)).toPlainText(); });
-    }
-
     template <class Body> void inEachRegion(Body &&body)
     {
         m_faults.clear();
@@ -110,19 +144,28 @@ private:
 
     void tell(const QString &text, const QString &actual, const QString &expected)
     {
-        if (actual != expected)
+        if (actual != expected && m_faults.size() < 20)
             m_faults << u"%1: \"%2\" reads as %3, not as %4"_s.arg(QLocale().name(), text, actual, expected);
     }
 
-    void readsAs(const QString &written, const Date &moment)
+    void amountReadsAs(const QString &shown, qint64 scaled)
     {
-        for (const QString &text : typings(written))
+        for (const QString &text : typings(shown)) {
+            tell(text, asText(runtime::IsNumeric(Value(text))), u"True"_s);
+            tell(text, outcomeOf([&] { return runtime::toCurrency(Value(text)).toPlainText(); }),
+                 Currency::fromScaled(scaled).toPlainText());
+        }
+    }
+
+    void readsAs(const QString &shown, const Date &moment)
+    {
+        for (const QString &text : typings(shown))
             tell(text, outcomeOf([&] { return runtime::toDate(Value(text)).toIsoText(); }), moment.toIsoText());
     }
 
-    void numberReadsAs(const QString &written, double number)
+    void numberReadsAs(const QString &shown, double number)
     {
-        for (const QString &text : typings(written)) {
+        for (const QString &text : typings(shown)) {
             tell(text, outcomeOf([&] { return runtime::toDouble(Value(text)); }), asText(number));
             tell(text, asText(runtime::IsNumeric(Value(text))), u"True"_s);
         }

@@ -309,11 +309,11 @@ private Q_SLOTS:
         CaughtErrors errors;
         MDIBaseForm &frame = MDIBaseForm::frame();
         frame.Show();
-        for (const char *name : {"a.txt", "no extension", "Search/kept.txt"})
+        for (const char *name : {"a.txt", "no extension", ".hidden", "a\\b", "Search/kept.txt"})
             write(QString::fromLatin1(name));
         item("mnuExit").trigger();
         QVERIFY(!frame.isVisible());
-        QCOMPARE(QDir(m_folder->path(u"temp"_s)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+        QCOMPARE(QDir(m_folder->path(u"temp"_s)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
                  QStringList{u"Search"_s});
         QVERIFY(QFile::exists(m_folder->path(u"temp/Search/kept.txt"_s)));
     }
