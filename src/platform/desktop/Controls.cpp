@@ -9,7 +9,6 @@
 #include <QListView>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScrollBar>
 #include <QShortcut>
 #include <QStyleOptionFocusRect>
 #include <QVBoxLayout>

@@ -39,7 +39,7 @@ QString ListItem::SubItems(int index) const
 void ListItem::setSubItem(int index, runtime::Value value)
 {
     if (value.isNull() || value.is<QByteArray>())
-        runtime::toText(value); // raises what it does now, not when the line is shown
+        runtime::toText(value); // raises its error now and not when the line is painted
     if (size_t(index) >= m_values.size())
         m_values.resize(size_t(index) + 1);
     m_values[size_t(index)] = std::move(value);
@@ -207,28 +207,29 @@ void ListView::setTakesDrops()
     viewport()->setAcceptDrops(true);
 }
 
+bool ListView::takes(QDropEvent &drag) const
+{
+    if (m_takesDrops) {
+        drag.setDropAction(Qt::CopyAction);
+        drag.accept();
+    }
+    return m_takesDrops;
+}
+
 void ListView::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (!m_takesDrops)
-        return;
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
+    takes(*event);
 }
 
 void ListView::dragMoveEvent(QDragMoveEvent *event)
 {
-    if (!m_takesDrops)
-        return;
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
+    takes(*event);
 }
 
 void ListView::dropEvent(QDropEvent *event)
 {
-    if (!m_takesDrops)
+    if (!takes(*event))
         return;
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
     QMetaObject::invokeMethod(
         this, [this, data = DataObject(*event->mimeData())] { Q_EMIT OLEDragDrop(data); }, Qt::QueuedConnection);
 }

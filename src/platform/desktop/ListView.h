@@ -131,6 +131,9 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
+    // Accepts the drag as a copy. False where the list takes no drops.
+    bool takes(QDropEvent &drag) const;
+
     bool m_takesDrops = false;
     int m_pressedKey = 0;
 };

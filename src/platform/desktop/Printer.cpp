@@ -37,9 +37,9 @@ std::unique_ptr<QPrinter> openPrinter()
     return printer;
 }
 
-void orPrinterError(bool done)
+void raisePrinterErrorUnless(bool succeeded)
 {
-    if (!done)
+    if (!succeeded)
         throw runtime::RuntimeError(runtime::PrinterError);
 }
 
@@ -58,7 +58,7 @@ void layOut(QTextLayout &paragraph, const QPrinter &printer)
 void printText(const QString &text, QPrinter &printer)
 {
     QPainter painter;
-    orPrinterError(painter.begin(&printer));
+    raisePrinterErrorUnless(painter.begin(&printer));
     const double bottom = printer.pageRect(QPrinter::DevicePixel).height();
     double y = 0;
     for (const QString &paragraphText : text.split(u'\n')) {
@@ -67,14 +67,14 @@ void printText(const QString &text, QPrinter &printer)
         for (int at = 0; at < paragraph.lineCount(); ++at) {
             const QTextLine line = paragraph.lineAt(at);
             if (y + line.height() > bottom) {
-                orPrinterError(printer.newPage());
+                raisePrinterErrorUnless(printer.newPage());
                 y = 0;
             }
             line.draw(&painter, QPointF(0, y - line.y()));
             y += line.height();
         }
     }
-    orPrinterError(painter.end());
+    raisePrinterErrorUnless(painter.end());
 }
 
 } // namespace
@@ -87,7 +87,7 @@ void setPrintFile(const QString &file)
 void Printer::Print(const QString &text)
 {
     if (m_text.isEmpty())
-        orPrinterError(isAtHand());
+        raisePrinterErrorUnless(isAtHand());
     m_text += text + u'\n';
 }
 
@@ -96,8 +96,8 @@ void Printer::EndDoc()
     QString text = std::exchange(m_text, {});
     if (text.isEmpty())
         return;
-    orPrinterError(isAtHand()); // Qt would print into the void
-    text.chop(1);               // the last line's end begins no further line
+    raisePrinterErrorUnless(isAtHand()); // Qt would print into the void
+    text.chop(1);                        // the last line's end begins no further line
     const std::unique_ptr<QPrinter> printer = openPrinter();
     printer->setDocName(runtime::App::Title());
     printText(text, *printer);

@@ -4,7 +4,6 @@
 #include "platform/desktop/Twips.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/Regional.h"
-#include "platform/runtime/RuntimeError.h"
 
 #include <QTimer>
 
@@ -62,7 +61,7 @@ void Panel::update()
     }
 }
 
-StatusBar::StatusBar(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
+StatusBar::StatusBar(QWidget *parent, QAnyStringView name) : DockedBar(parent, name)
 {
     setSizeGripEnabled(false);
 }
@@ -79,16 +78,6 @@ void StatusBar::addKeyboardAndClockPanels()
     using Style = Panel::Style;
     for (const Style style : {Style::CapsLock, Style::NumLock, Style::Insert, Style::Time, Style::Date})
         addPanel(style);
-}
-
-void StatusBar::Move(double, double, double, double)
-{
-    throw runtime::RuntimeError(runtime::PropertyNotSupported);
-}
-
-void StatusBar::setFontSize(double)
-{
-    throw runtime::RuntimeError(runtime::PropertyNotSupported);
 }
 
 } // namespace desktop

@@ -19,8 +19,6 @@
 #include "shell/users/frmNewUser.h"
 #include "shell/users/frmOptions.h"
 
-#include <QApplication>
-#include <QMdiArea>
 #include <QPointer>
 #include <QScreen>
 

@@ -70,9 +70,7 @@ private:
 
     using Handler = void (MDIBaseForm::*)();
     QMenu *addMenu(const char *name, const QString &caption, bool visible);
-    // An item without handler belongs to a window that is still to come.
-    QAction *addItem(QMenu *menu, const char *name, const QString &caption, Handler handler = nullptr,
-                     bool visible = true);
+    void addItem(QMenu *menu, const char *name, const QString &caption, Handler handler, bool visible = true);
     static void addSeparator(QMenu *menu, const char *name);
 
     Session &m_session;
