@@ -4,7 +4,10 @@
 // a layout places it is the pixels' worth.
 #pragma once
 
+#include "platform/desktop/PlainText.h"
+
 #include <QAnyStringView>
+#include <QHelpEvent>
 #include <QString>
 #include <QWidget>
 
@@ -61,6 +64,14 @@ public:
     ControlOf(QWidget *parent, QAnyStringView name) : Widget(parent) { this->setObjectName(name.toString()); }
     QWidget &widget() override { return *this; }
     using Control::widget;
+
+protected:
+    bool event(QEvent *event) override
+    {
+        const bool shown = event->type() == QEvent::ToolTip &&
+                           showMarkedUpToolTip(this->toolTip(), *static_cast<QHelpEvent *>(event), this);
+        return shown || Widget::event(event);
+    }
 };
 
 // A bar that is docked to its window, which gives it its place, as the system gives it its font: Move and setFontSize

@@ -19,7 +19,7 @@ Form::Form(Place place, QAnyStringView className) : m_place(place)
 void Form::setCaption(const QString &caption)
 {
     Load();
-    setWindowTitle(caption);
+    setTitle(*this, caption);
 }
 
 void Form::Load()

@@ -5,7 +5,7 @@
 
 namespace desktop {
 
-// The path is written with backslashes or slashes. Whether a program is registered is not told.
+// The path is written with backslashes or slashes. No error tells that no program is registered.
 void ShellExecute(const QString &path);
 
 } // namespace desktop

@@ -22,6 +22,7 @@ Panel::Panel(StatusBar *bar, Style style, int number) : QLabel(bar), m_style(sty
     setObjectName(u"%1.Panels(%2)"_s.arg(bar->objectName()).arg(number));
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     setAlignment(Qt::AlignCenter);
+    setTextFormat(Qt::PlainText);
     setMinimumWidth(fontMetrics().horizontalAdvance(u"CAPS"_s) + 8);
     if (style == Style::Time || style == Style::Date) {
         auto *timer = new QTimer(this);
@@ -43,7 +44,7 @@ void Panel::update()
     const KeyboardState &keyboard = KeyboardState::instance();
     const auto show = [this](const QString &text, bool on) {
         setText(text);
-        setEnabled(on); // a toggle that is off stands there in grey
+        setEnabled(on); // a toggle that is off is drawn in grey
     };
     switch (m_style) {
     case Style::Text:

@@ -2,6 +2,7 @@
 // controls and empties the temp folder when it closes. Its life is the life of the process.
 #pragma once
 
+#include "platform/desktop/CommonDialog.h"
 #include "platform/desktop/ImageList.h"
 #include "platform/desktop/MdiForm.h"
 #include "platform/desktop/StatusBar.h"
@@ -38,6 +39,7 @@ public:
     desktop::Toolbar *Toolbar1;
     desktop::StatusBar *StatusBar1;
     desktop::ImageList *ImageList1;
+    desktop::CommonDialog *CommonDialog1;
 
     void mnuNewUser_Click();
     void MnuNewClient_Click();
