@@ -36,7 +36,7 @@ void CanvasLabel::mouseMoveEvent(QMouseEvent *event)
     reportMove(*this, *event);
 }
 
-CanvasTextBox::CanvasTextBox(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
+CanvasTextBox::CanvasTextBox(QWidget *parent, QAnyStringView name) : TextBox(parent, name)
 {
     setAutoFillBackground(true);
 }

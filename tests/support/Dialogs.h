@@ -3,6 +3,7 @@
 
 #include "platform/desktop/ErrorReport.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>

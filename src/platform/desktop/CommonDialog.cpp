@@ -1,5 +1,7 @@
 #include "platform/desktop/CommonDialog.h"
 
+#include "platform/desktop/PlainText.h"
+
 #include <QFileDialog>
 #include <QFileInfo>
 
@@ -30,7 +32,7 @@ bool CommonDialog::show(QFileDialog &dialog)
 {
     dialog.setObjectName(objectName());
     if (!DialogTitle.isEmpty())
-        dialog.setWindowTitle(DialogTitle);
+        setTitle(dialog, DialogTitle);
     if (!Filter.isEmpty())
         dialog.setNameFilters(nameFilters());
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())

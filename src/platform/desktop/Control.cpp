@@ -1,6 +1,7 @@
 #include "platform/desktop/Control.h"
 
 #include "platform/desktop/Twips.h"
+#include "platform/runtime/RuntimeError.h"
 
 namespace desktop {
 
@@ -26,6 +27,11 @@ void Control::setFontSize(double points)
     QFont font = widget().font();
     font.setPointSizeF(points);
     widget().setFont(font);
+}
+
+void refuseProperty()
+{
+    throw runtime::RuntimeError(runtime::PropertyNotSupported);
 }
 
 void setTabOrder(std::initializer_list<QWidget *> widgets)

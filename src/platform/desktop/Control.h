@@ -4,7 +4,10 @@
 // a layout places it is the pixels' worth.
 #pragma once
 
+#include "platform/desktop/PlainText.h"
+
 #include <QAnyStringView>
+#include <QHelpEvent>
 #include <QString>
 #include <QWidget>
 
@@ -36,7 +39,7 @@ public:
     void setTop(double top) { Move(Left(), top, Width(), Height()); }
     void setWidth(double width) { Move(Left(), Top(), width, Height()); }
     void setHeight(double height) { Move(Left(), Top(), Width(), height); }
-    // A control whose place is its window's (a docked bar) refuses with error 438.
+    // A docked bar refuses with error 438.
     virtual void Move(double left, double top, double width, double height);
 
     // Points. Error 438 for a control without a font of its own.
@@ -48,6 +51,9 @@ private:
     std::array<std::optional<double>, 4> m_place; // left, top, width, height
 };
 
+// Raises error 438: the control does not have the property.
+[[noreturn]] void refuseProperty();
+
 // Tab visits the widgets in this order.
 void setTabOrder(std::initializer_list<QWidget *> widgets);
 
@@ -58,6 +64,28 @@ public:
     ControlOf(QWidget *parent, QAnyStringView name) : Widget(parent) { this->setObjectName(name.toString()); }
     QWidget &widget() override { return *this; }
     using Control::widget;
+
+protected:
+    bool event(QEvent *event) override
+    {
+        const bool shown = event->type() == QEvent::ToolTip &&
+                           showMarkedUpToolTip(this->toolTip(), *static_cast<QHelpEvent *>(event), this);
+        return shown || Widget::event(event);
+    }
+};
+
+// A bar that is docked to its window, which gives it its place, as the system gives it its font: Move and setFontSize
+// raise error 438.
+template <class Widget> class DockedBar : public ControlOf<Widget>
+{
+public:
+    using ControlOf<Widget>::ControlOf;
+
+    void Move(double, double, double, double) override { refuseProperty(); }
+    void setFontSize(double) override { refuseProperty(); }
+
+    // For a window that does not dock the bar and gives it a place of its own. Twips.
+    void place(double left, double top, double width, double height) { Control::Move(left, top, width, height); }
 };
 
 } // namespace desktop

@@ -26,8 +26,8 @@ public:
         m_elements.emplace(index, element);
         return element;
     }
-    // Makes an element in the place of element 0, beside it and locked as it is, not visible yet and otherwise as new.
-    // Error 360 for an index that has one.
+    // Makes a hidden element that has the parent, the place and the read-only state of element 0 and is otherwise like
+    // any new control. Error 360 for an index that has an element already.
     ControlType *Load(int index)
     {
         if (m_elements.contains(index))

@@ -9,15 +9,18 @@
 #include <QListView>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScrollBar>
 #include <QShortcut>
 #include <QStyleOptionFocusRect>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <limits>
 
 namespace desktop {
 
 Label::Label(QWidget *parent, QAnyStringView name, const QString &caption) : ControlOf(parent, name)
 {
+    setTextFormat(Qt::PlainText);
     setText(caption);
 }
 
@@ -77,12 +80,69 @@ void Label::paintEvent(QPaintEvent *event)
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
 }
 
+TextBox::TextBox(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
+{
+    setMaxLength(std::numeric_limits<int>::max()); // Qt's own limit cuts what is loaded
+}
+
+void TextBox::setMasked()
+{
+    setEchoMode(QLineEdit::Password);
+    setStyleSheet(QStringLiteral("lineedit-password-character: %1").arg(int('*')));
+}
+
 MultilineTextBox::MultilineTextBox(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
 {
     setTabChangesFocus(true);
     setLineWrapMode(QPlainTextEdit::NoWrap);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+}
+
+namespace {
+
+// The place in a text that was loaded, for a place in what is shown of it.
+qsizetype placeIn(QStringView loaded, qsizetype shown)
+{
+    qsizetype place = 0;
+    for (; shown > 0 && place < loaded.size(); --shown)
+        place += loaded.sliced(place).startsWith(u"\r\n") ? 2 : 1;
+    return place;
+}
+
+} // namespace
+
+void MultilineTextBox::setText(const QString &text)
+{
+    setPlainText(text);
+    m_loaded = text;
+    m_shown = document()->toRawText();
+}
+
+// Not by the document's own plain text, in which a no-break space has become a blank.
+QString MultilineTextBox::text() const
+{
+    const QString shown = document()->toRawText();
+    if (shown == m_shown)
+        return m_loaded;
+    const qsizetype shorter = qMin(shown.size(), m_shown.size());
+    const qsizetype before =
+        std::mismatch(shown.begin(), shown.begin() + shorter, m_shown.begin()).first - shown.begin();
+    const qsizetype behind =
+        std::mismatch(shown.rbegin(), shown.rbegin() + shorter - before, m_shown.rbegin()).first - shown.rbegin();
+    QString changed = shown.sliced(before, shown.size() - before - behind);
+    changed.replace(QChar::ParagraphSeparator, QStringLiteral("\r\n"));
+    return m_loaded.first(placeIn(m_loaded, before)) + changed +
+           m_loaded.sliced(placeIn(m_loaded, m_shown.size() - behind));
+}
+
+// Shift with Enter breaks the line as Enter does; Qt has a character of its own for it, which no other program expects.
+void MultilineTextBox::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::InsertLineSeparator) && !isReadOnly())
+        textCursor().insertBlock();
+    else
+        QPlainTextEdit::keyPressEvent(event);
 }
 
 void MultilineTextBox::wrapLines()
@@ -95,6 +155,15 @@ CommandButton::CommandButton(QWidget *parent, QAnyStringView name, const QString
 {
     setText(caption);
     setAutoDefault(false);
+}
+
+// Qt has this too, for dialogs, but presses again and again while the key is held down.
+void CommandButton::keyPressEvent(QKeyEvent *event)
+{
+    if (keyCode(*event) != vbKeyReturn)
+        QPushButton::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        click();
 }
 
 CheckBox::CheckBox(QWidget *parent, QAnyStringView name, const QString &caption) : ControlOf(parent, name)

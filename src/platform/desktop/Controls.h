@@ -17,7 +17,8 @@
 
 namespace desktop {
 
-// A caption. One that is clickable takes the focus too, so that the keyboard can click it by Space or Enter.
+// A caption, shown as plain text. One that is clickable takes the focus too, so that the keyboard can click it by Space
+// or Enter.
 class Label : public ControlOf<QLabel>
 {
     Q_OBJECT
@@ -42,23 +43,44 @@ private:
     double m_fullSize = 0; // points; 0 while the font stays as it is
 };
 
-using TextBox = ControlOf<QLineEdit>;
+// One line of text of any length: what is loaded and left alone is given back as it was, with its line breaks too.
+class TextBox : public ControlOf<QLineEdit>
+{
+public:
+    TextBox(QWidget *parent, QAnyStringView name);
+    // Shows a * for each character.
+    void setMasked();
+};
 
 // Several lines with both scroll bars. Tab leaves the box, as it does everywhere in a window of many boxes.
+//
+// A text that was set and left alone is given back as it was. After an edit the stretches before and behind what has
+// changed are; between them each line break is CR LF.
 class MultilineTextBox : public ControlOf<QPlainTextEdit>
 {
 public:
     MultilineTextBox(QWidget *parent, QAnyStringView name);
-    QString text() const { return toPlainText(); }
-    void setText(const QString &text) { setPlainText(text); }
+    QString text() const;
+    void setText(const QString &text);
     // Breaks long lines at the box's edge, so that it needs no bar below it.
     void wrapLines();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    QString m_loaded; // as it was set
+    QString m_shown;  // what the document made of it: one character for each line break
 };
 
+// Space and Enter press it.
 class CommandButton : public ControlOf<QPushButton>
 {
 public:
     CommandButton(QWidget *parent, QAnyStringView name, const QString &caption);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
 };
 
 class CheckBox : public ControlOf<QCheckBox>
@@ -98,7 +120,7 @@ public:
     void addPage(QWidget *content, const QString &caption);
 
 private:
-    // The keyboard goes on in the first box of the page.
+    // Shows the page and moves the focus into its first box.
     void turnTo(int page);
 };
 

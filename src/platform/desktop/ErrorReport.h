@@ -1,4 +1,4 @@
-// The end of every handler that lets a failure escape, and the guard that no exception passes on its way to Qt.
+// What becomes of an error that a handler does not catch, and the guard that keeps every exception away from Qt.
 #pragma once
 
 #include "platform/runtime/RuntimeError.h"

@@ -19,7 +19,7 @@ Form::Form(Place place, QAnyStringView className) : m_place(place)
 void Form::setCaption(const QString &caption)
 {
     Load();
-    setWindowTitle(caption);
+    setTitle(*this, caption);
 }
 
 void Form::Load()
@@ -126,7 +126,7 @@ void Form::resizeEvent(QResizeEvent *event)
 void Form::takeKeptSize()
 {
     auto *host = qobject_cast<QMdiSubWindow *>(outer());
-    if (host && host->isMaximized()) // which it has to become whole before it can be undone
+    if (host && host->isMaximized()) // undone only afterwards: the window is still busy becoming maximised
         QMetaObject::invokeMethod(
             host, [host] { MdiForm::frame()->restoreChild(*host); }, Qt::QueuedConnection);
     else
@@ -135,7 +135,8 @@ void Form::takeKeptSize()
 
 void Form::closeEvent(QCloseEvent *event)
 {
-    // The frame also closes the shared windows that are closed already.
+    // When the frame closes, Qt sends this event to every child, also to a shared window that is closed and only
+    // hidden: that one has unloaded already.
     if (std::exchange(m_state, State::Unloaded) != State::Unloaded)
         guarded([this] { Form_Unload(); });
     QWidget::closeEvent(event);

@@ -1,8 +1,9 @@
 // A window: a child inside the frame, or one that stands alone.
 //
 // Its load handler runs once, at the first touch that loads it: Show, or setting its caption. Public fields set before
-// are in place by then. A failure of the load handler goes to whoever touched the window. Closing a window deletes it,
-// unless it is shared; a shared one loads again at its next touch.
+// are in place by then. Setting one of its controls loads nothing: who does that from outside calls Load first, so that
+// the load handler does not wipe it out later. A failure of the load handler goes to whoever touched the window.
+// Closing a window deletes it, unless it is shared; a shared one loads again at its next touch.
 #pragma once
 
 #include "platform/desktop/Control.h"
@@ -26,9 +27,10 @@ public:
 
     QString Tag;
 
-    QString Caption() const { return windowTitle(); }
+    QString Caption() const { return titleOf(*this); }
     void setCaption(const QString &caption);
 
+    // Runs the load handler unless the window is loaded.
     void Load();
     bool isLoaded() const { return m_state == State::Loaded; }
     void Show();
@@ -52,7 +54,7 @@ protected:
     // The window has been shown as the active one, or has become it again.
     virtual void Form_Activate() {}
     // The caption that the design gives the window; it loads nothing.
-    void setDesignCaption(const QString &caption) { setWindowTitle(caption); }
+    void setDesignCaption(const QString &caption) { setTitle(*this, caption); }
     void setShared() { m_shared = true; }
     // For the load handler: the window comes up in the middle of the screen.
     void centreOnScreen();

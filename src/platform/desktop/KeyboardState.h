@@ -1,7 +1,8 @@
 // The toggles of the keyboard: Caps Lock, Num Lock and Insert.
 //
-// The locks are asked of the display where it can tell, and else followed from the keys that come by. Insert is off at
-// start and changes with each press of its key in this program. One object lives as long as the application.
+// The locks are asked of the display where it can tell, and else counted from the keys that are pressed in this
+// program. Insert is off at start and changes with each press of its key in this program. One object lives as long as
+// the application.
 #pragma once
 
 #include <QObject>

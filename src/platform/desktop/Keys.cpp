@@ -1,5 +1,6 @@
 #include "platform/desktop/Keys.h"
 
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 
@@ -40,6 +41,12 @@ int shiftState(const QInputEvent &event)
     const Qt::KeyboardModifiers held = event.modifiers();
     return (held & Qt::ShiftModifier ? vbShiftMask : 0) | (held & Qt::ControlModifier ? vbCtrlMask : 0) |
            (held & Qt::AltModifier ? vbAltMask : 0);
+}
+
+bool isByKeyboard(const QFocusEvent &event)
+{
+    const Qt::FocusReason reason = event.reason();
+    return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
 }
 
 int heldButtons(const QMouseEvent &event)

@@ -1,6 +1,7 @@
 // Key codes, shift states and mouse buttons as the handlers name them.
 #pragma once
 
+class QFocusEvent;
 class QInputEvent;
 class QKeyEvent;
 class QMouseEvent;
@@ -17,6 +18,8 @@ enum MouseButton : int { vbLeftButton = 1, vbRightButton = 2, vbMiddleButton = 4
 int keyCode(const QKeyEvent &event);
 // The sum of Shift, Ctrl and Alt as they are held.
 int shiftState(const QInputEvent &event);
+// Whether Tab or the key of a label has moved the focus.
+bool isByKeyboard(const QFocusEvent &event);
 // The sum of the buttons that are down.
 int heldButtons(const QMouseEvent &event);
 // The button that was pressed or released.

@@ -5,7 +5,7 @@
 
 namespace desktop {
 
-// Whether a program is registered is not told.
+// No error tells that no program is registered.
 void ShellExecute(const QString &path);
 
 } // namespace desktop

@@ -1,6 +1,7 @@
 #include "platform/desktop/ListView.h"
 
 #include "platform/desktop/Keys.h"
+#include "platform/desktop/MenuKey.h"
 #include "platform/desktop/Twips.h"
 #include "platform/runtime/Conversion.h"
 
@@ -12,6 +13,7 @@
 #include <QMouseEvent>
 #include <QUrl>
 
+#include <algorithm>
 #include <utility>
 
 namespace desktop {
@@ -39,7 +41,7 @@ QString ListItem::SubItems(int index) const
 void ListItem::setSubItem(int index, runtime::Value value)
 {
     if (value.isNull() || value.is<QByteArray>())
-        runtime::toText(value); // raises what it does now, not when the line is shown
+        runtime::toText(value); // raises its error now and not when the line is painted
     if (size_t(index) >= m_values.size())
         m_values.resize(size_t(index) + 1);
     m_values[size_t(index)] = std::move(value);
@@ -152,13 +154,20 @@ ListView::ListView(QWidget *parent, QAnyStringView name) : ControlOf(parent, nam
 
 ObjectRef<ListItem> ListView::SelectedItem() const
 {
-    return static_cast<ListItem *>(currentItem());
+    if (QTreeWidgetItem *current = currentItem(); current && current->isSelected())
+        return static_cast<ListItem *>(current);
+    const QModelIndexList lines = selectionModel()->selectedRows(); // in no order
+    const auto topmost = std::ranges::min_element(lines, {}, &QModelIndex::row);
+    return topmost == lines.end() ? nullptr : static_cast<ListItem *>(itemFromIndex(*topmost));
 }
 
 void ListView::keyPressEvent(QKeyEvent *event)
 {
     m_pressedKey = event->key();
-    QTreeWidget::keyPressEvent(event);
+    if (isShiftF10(*event))
+        openMenuByKey();
+    else
+        QTreeWidget::keyPressEvent(event);
 }
 
 // The Enter that answers a message box is pressed there and released here: it is not meant for the list.
@@ -175,15 +184,19 @@ void ListView::keyReleaseEvent(QKeyEvent *event)
 void ListView::focusInEvent(QFocusEvent *event)
 {
     QTreeWidget::focusInEvent(event);
-    const bool byKeyboard = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    if (byKeyboard && currentItem() && selectedItems().isEmpty())
-        currentItem()->setSelected(true);
+    if (isByKeyboard(*event) && !SelectedItem())
+        setCurrentItem(currentItem() ? currentItem() : topLevelItem(0));
 }
 
 void ListView::mouseDoubleClickEvent(QMouseEvent *event)
 {
     QTreeWidget::mouseDoubleClickEvent(event);
-    if (event->button() == Qt::LeftButton)
+    if (event->button() != Qt::LeftButton)
+        return;
+    QTreeWidgetItem *line = itemAt(event->position().toPoint());
+    if (line && !line->isSelected()) // with Ctrl the first of the two clicks has taken the selection away
+        setCurrentItem(line);
+    if (line || ListItems.Count() == 0)
         Q_EMIT DblClick();
 }
 
@@ -197,7 +210,12 @@ void ListView::contextMenuEvent(QContextMenuEvent *event)
 {
     event->accept(); // by the mouse it is the release of the button that counts
     if (event->reason() == QContextMenuEvent::Keyboard)
-        Q_EMIT MouseUp(vbRightButton, viewport()->mapToGlobal(visualItemRect(currentItem()).bottomLeft()));
+        openMenuByKey();
+}
+
+void ListView::openMenuByKey()
+{
+    Q_EMIT MouseUp(vbRightButton, menuPlace(*this, SelectedItem().get()));
 }
 
 void ListView::setTakesDrops()
@@ -207,28 +225,29 @@ void ListView::setTakesDrops()
     viewport()->setAcceptDrops(true);
 }
 
+bool ListView::takes(QDropEvent &drag) const
+{
+    if (m_takesDrops) {
+        drag.setDropAction(Qt::CopyAction);
+        drag.accept();
+    }
+    return m_takesDrops;
+}
+
 void ListView::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (!m_takesDrops)
-        return;
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
+    takes(*event);
 }
 
 void ListView::dragMoveEvent(QDragMoveEvent *event)
 {
-    if (!m_takesDrops)
-        return;
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
+    takes(*event);
 }
 
 void ListView::dropEvent(QDropEvent *event)
 {
-    if (!m_takesDrops)
+    if (!takes(*event))
         return;
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
     QMetaObject::invokeMethod(
         this, [this, data = DataObject(*event->mimeData())] { Q_EMIT OLEDragDrop(data); }, Qt::QueuedConnection);
 }

@@ -102,7 +102,7 @@ public:
 
     desktop::ListItems ListItems;
     desktop::ColumnHeaders ColumnHeaders;
-    // The focused line; unset in an empty list.
+    // The highlighted line, of several the one that was clicked last or else the topmost; unset where none is.
     ObjectRef<ListItem> SelectedItem() const;
     // Whatever is dropped on the list is reported by OLEDragDrop.
     void setTakesDrops();
@@ -110,11 +110,13 @@ public:
 Q_SIGNALS:
     // The header's place, from 1.
     void ColumnClick(int index);
+    // On a line, which is selected by then. In a list without lines the handler hears of it too; beside the lines of
+    // another nobody does.
     void DblClick();
     // The release of a key whose press came to this list too.
     void KeyUp(int keyCode);
-    // The release of a mouse button, with the pointer's place on the screen. The menu key counts as the right button
-    // over the selected line.
+    // The release of a mouse button, with the pointer's place on the screen. The menu key and Shift with F10
+    // count as the right button over the selected line.
     void MouseUp(int button, QPoint place);
     // Reported once the drop has come to its end: whoever the data came from waits no longer.
     void OLEDragDrop(const DataObject &data);
@@ -131,6 +133,10 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
+    void openMenuByKey();
+    // Accepts the drag as a copy. False where the list takes no drops.
+    bool takes(QDropEvent &drag) const;
+
     bool m_takesDrops = false;
     int m_pressedKey = 0;
 };

@@ -26,7 +26,7 @@ MdiForm *&theFrame()
     return frame;
 }
 
-// What a child window's border and title bar take; its own layout knows it only once it has been seen.
+// What a child window's border and title bar take; Qt's own layout of the window knows it only once it has been shown.
 QMargins borders(const QMdiSubWindow &host)
 {
     const int frame = host.style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth, nullptr, &host);
@@ -109,6 +109,16 @@ QList<Control *> MdiForm::Controls()
     return controls;
 }
 
+double MdiForm::Left() const
+{
+    return twips(frameGeometry().x());
+}
+
+double MdiForm::Top() const
+{
+    return twips(frameGeometry().y());
+}
+
 double MdiForm::Width() const
 {
     return twips(frameGeometry().width());
@@ -117,6 +127,13 @@ double MdiForm::Width() const
 double MdiForm::Height() const
 {
     return twips(frameGeometry().height());
+}
+
+void MdiForm::Move(double left, double top, double width, double height)
+{
+    const QSize borders = frameGeometry().size() - size();
+    move(pixels(left), pixels(top));
+    resize(QSize(pixels(width), pixels(height)) - borders);
 }
 
 void MdiForm::bringIn(QMdiSubWindow &host)
@@ -133,7 +150,7 @@ void MdiForm::restoreChild(QMdiSubWindow &host)
 
 void MdiForm::showChild(Form &form)
 {
-    // A maximised child passes its state on to the next one, which may not be able to bear it.
+    // Qt maximises the next active child where the active one is maximised; one that keeps its size must not be.
     if (QMdiSubWindow *active = m_area->activeSubWindow(); active && active->isMaximized() && form.keepsSize())
         active->showNormal();
     auto *host = qobject_cast<QMdiSubWindow *>(form.parentWidget());
@@ -146,7 +163,7 @@ void MdiForm::showChild(Form &form)
         host->resize(form.presetSize().value_or(content.grownBy(borders(*host))));
         form.show();
         host->show();
-        // The area has found a place for it, if it has none of its own.
+        // A window without a place of its own stays where the area has put it.
         if (placed)
             host->move(m_area->viewport()->mapFromGlobal(middle) - host->rect().center());
         bringIn(*host);
@@ -158,7 +175,7 @@ void MdiForm::showChild(Form &form)
     m_area->setActiveSubWindow(host);
 }
 
-// The area itself sees to this only when a window is deleted.
+// Qt activates another child only when a window is deleted, not when one is hidden.
 void MdiForm::childHidden()
 {
     const QList<QMdiSubWindow *> others = openChildren(QMdiArea::ActivationHistoryOrder);
@@ -180,25 +197,24 @@ void MdiForm::setBackground(const QString &file)
 
 void MdiForm::setWindowsMenu(QMenu *menu)
 {
-    connect(menu, &QMenu::aboutToShow, this, [this, menu] { listWindows(menu); });
+    auto *listed = new QActionGroup(menu);
+    connect(menu, &QMenu::aboutToShow, this, [this, menu, listed] { listWindows(menu, listed); });
 }
 
-void MdiForm::listWindows(QMenu *menu)
+void MdiForm::listWindows(QMenu *menu, QActionGroup *listed)
 {
-    menu->clear();
-    auto *group = new QActionGroup(menu);
+    qDeleteAll(listed->actions()); // of the opening before
+    const auto add = [menu, listed](const QString &text) { return listed->addAction(menu->addAction(text)); };
     const QList<QMdiSubWindow *> windows = openChildren(QMdiArea::CreationOrder);
     for (qsizetype at = 0; at < windows.size(); ++at) {
         QMdiSubWindow *window = windows[at];
-        QString title = window->windowTitle();
-        QAction *action = menu->addAction(u"&%1 %2"_s.arg(QString::number(at + 1), title.replace(u"&"_s, u"&&"_s)));
+        QAction *action = add(u"&%1 %2"_s.arg(QString::number(at + 1), withoutMnemonic(titleOf(*window))));
         action->setCheckable(true);
         action->setChecked(window == m_area->activeSubWindow());
-        group->addAction(action);
         connect(action, &QAction::triggered, window, [this, window] { m_area->setActiveSubWindow(window); });
     }
     if (windows.isEmpty())
-        menu->addAction(u"No window is open"_s)->setEnabled(false);
+        add(u"No window is open"_s)->setEnabled(false);
 }
 
 void MdiForm::resizeEvent(QResizeEvent *event)

@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QMdiArea>
 
+class QActionGroup;
 class QMdiSubWindow;
 class QMenu;
 
@@ -25,8 +26,8 @@ public:
     // The one frame that stands; null without one.
     static MdiForm *frame();
 
-    QString Caption() const { return windowTitle(); }
-    void setCaption(const QString &caption) { setWindowTitle(caption); }
+    QString Caption() const { return titleOf(*this); }
+    void setCaption(const QString &caption) { setTitle(*this, caption); }
 
     // Runs the load handler at the first call, then shows the frame.
     void Show();
@@ -34,9 +35,12 @@ public:
 
     // Every control of the frame, in the order of the design.
     QList<Control *> Controls();
-    // Twips.
+    // Twips, with the frame's border and title bar.
+    double Left() const;
+    double Top() const;
     double Width() const;
     double Height() const;
+    void Move(double left, double top, double width, double height);
 
     void showChild(Form &form);
     // A shared window has closed: the one that was active before it comes back.
@@ -53,7 +57,7 @@ protected:
 
     // The picture behind the child windows.
     void setBackground(const QString &file);
-    // Keeps the list of open child windows in the menu.
+    // Keeps the list of open child windows at the end of the menu, behind whatever else stands in it.
     void setWindowsMenu(QMenu *menu);
 
     void resizeEvent(QResizeEvent *event) override;
@@ -62,7 +66,7 @@ protected:
 private:
     // A shared window that is closed stays in the area, hidden.
     QList<QMdiSubWindow *> openChildren(QMdiArea::WindowOrder order) const;
-    void listWindows(QMenu *menu);
+    void listWindows(QMenu *menu, QActionGroup *listed);
     // What hangs over an edge of the area comes in.
     void bringIn(QMdiSubWindow &host);
 

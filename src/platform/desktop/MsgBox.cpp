@@ -1,8 +1,11 @@
 #include "platform/desktop/MsgBox.h"
 
+#include "platform/desktop/PlainText.h"
 #include "platform/runtime/Application.h"
 
 #include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMessageBox>
 
 namespace desktop {
@@ -36,13 +39,43 @@ QMessageBox::Icon iconOf(int style)
     }
 }
 
+// QMessageBox answers Esc and the close button with No where the box has no Cancel; this one does not.
+class Box : public QMessageBox
+{
+public:
+    Box(const QString &prompt, int style, const QString &title)
+        : QMessageBox(iconOf(style), {}, prompt, buttonsOf(style), QApplication::activeWindow()),
+          m_mustAnswer((style & buttonMask) == vbYesNo)
+    {
+        setTitle(*this, title);
+        setTextFormat(Qt::PlainText);
+        if (m_mustAnswer)
+            setWindowFlag(Qt::WindowCloseButtonHint, false);
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        if (!m_mustAnswer || !event->matches(QKeySequence::Cancel))
+            QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent *event) override
+    {
+        if (m_mustAnswer)
+            event->ignore();
+        else
+            QMessageBox::closeEvent(event);
+    }
+
+private:
+    bool m_mustAnswer;
+};
+
 } // namespace
 
 MsgBoxResult MsgBox(const QString &prompt, int style, const QString &title)
 {
-    QMessageBox box(iconOf(style), title.isEmpty() ? runtime::App::Title() : title, prompt, buttonsOf(style),
-                    QApplication::activeWindow());
-    box.setTextFormat(Qt::PlainText);
+    Box box(prompt, style, title.isEmpty() ? runtime::App::Title() : title);
     switch (box.exec()) {
     case QMessageBox::Yes:
         return vbYes;

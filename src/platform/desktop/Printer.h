@@ -1,8 +1,9 @@
 // The system's default printer, as a window prints on it: lines of text, without a dialog.
 //
-// Print gathers the document's lines and EndDoc sends them off: within the margins, long lines wrapped, on as many
-// pages as they need. With no printer at hand Print raises error 482 before it takes a line; an EndDoc that the printer
-// refuses raises it too and drops the document. In both cases the next Print starts a document afresh.
+// Print gathers the document's lines and EndDoc sends them off: on the printer's default paper, within the margins,
+// long lines wrapped, on as many pages as they need. With no printer at hand Print raises error 482 before it takes a
+// line; an EndDoc that the printer or the print server refuses raises it too and drops the document. In both cases the
+// next Print starts a document afresh.
 #pragma once
 
 #include <QString>

@@ -4,7 +4,6 @@
 #include "platform/desktop/Twips.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/Regional.h"
-#include "platform/runtime/RuntimeError.h"
 
 #include <QTimer>
 
@@ -23,6 +22,7 @@ Panel::Panel(StatusBar *bar, Style style, int number) : QLabel(bar), m_style(sty
     setObjectName(u"%1.Panels(%2)"_s.arg(bar->objectName()).arg(number));
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     setAlignment(Qt::AlignCenter);
+    setTextFormat(Qt::PlainText);
     setMinimumWidth(fontMetrics().horizontalAdvance(u"CAPS"_s) + 8);
     if (style == Style::Time || style == Style::Date) {
         auto *timer = new QTimer(this);
@@ -44,7 +44,7 @@ void Panel::update()
     const KeyboardState &keyboard = KeyboardState::instance();
     const auto show = [this](const QString &text, bool on) {
         setText(text);
-        setEnabled(on); // a toggle that is off stands there in grey
+        setEnabled(on); // a toggle that is off is drawn in grey
     };
     switch (m_style) {
     case Style::Text:
@@ -62,7 +62,7 @@ void Panel::update()
     }
 }
 
-StatusBar::StatusBar(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
+StatusBar::StatusBar(QWidget *parent, QAnyStringView name) : DockedBar(parent, name)
 {
     setSizeGripEnabled(false);
 }
@@ -79,16 +79,6 @@ void StatusBar::addKeyboardAndClockPanels()
     using Style = Panel::Style;
     for (const Style style : {Style::CapsLock, Style::NumLock, Style::Insert, Style::Time, Style::Date})
         addPanel(style);
-}
-
-void StatusBar::Move(double, double, double, double)
-{
-    throw runtime::RuntimeError(runtime::PropertyNotSupported);
-}
-
-void StatusBar::setFontSize(double)
-{
-    throw runtime::RuntimeError(runtime::PropertyNotSupported);
 }
 
 } // namespace desktop

@@ -28,7 +28,7 @@ private:
     Style m_style;
 };
 
-class StatusBar : public ControlOf<QStatusBar>
+class StatusBar : public DockedBar<QStatusBar>
 {
 public:
     StatusBar(QWidget *parent, QAnyStringView name);
@@ -38,13 +38,6 @@ public:
     const std::vector<Panel *> &Panels() const { return m_panels; }
     // Caps Lock, Num Lock, Insert, time and date.
     void addKeyboardAndClockPanels();
-
-    // A docked bar has its place from its window and its font from the system: both raise error 438.
-    void Move(double left, double top, double width, double height) override;
-    void setFontSize(double points) override;
-
-    // For a window that gives the bar a place of its own at its bottom edge.
-    void place(double left, double top, double width, double height) { Control::Move(left, top, width, height); }
 
 private:
     std::vector<Panel *> m_panels;

@@ -9,9 +9,9 @@ namespace desktop {
 TabStrip::TabStrip(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
 {
     setExpanding(false);
-    setMinimumHeight(heightOfATab()); // so that what lies below stays where it is when the first one comes
+    setMinimumHeight(heightOfATab()); // nothing below moves when the first tab comes
     connect(this, &QTabBar::currentChanged, this, &TabStrip::select);
-    // Comes before the change, so that it is a click on its own only where nothing changes.
+    // Qt emits this before currentChanged, which reports the click on another tab: here the selected one alone counts.
     connect(this, &QTabBar::tabBarClicked, this, [this](int index) {
         if (index == currentIndex())
             select(index);
@@ -26,6 +26,16 @@ int TabStrip::heightOfATab()
     return height;
 }
 
+bool TabStrip::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto *help = static_cast<QHelpEvent *>(event);
+        if (showMarkedUpToolTip(tabToolTip(tabAt(help->pos())), *help, this))
+            return true;
+    }
+    return ControlOf::event(event);
+}
+
 void TabStrip::select(int index)
 {
     if (index < 0)
@@ -38,9 +48,8 @@ void TabStrip::select(int index)
 void TabStrip::add(const QString &key, const QString &caption, const QString &toolTip)
 {
     const QSignalBlocker quiet(this);
-    const int index = addTab(caption);
-    setTabData(index, key);
-    setTabToolTip(index, toolTip);
+    setTabToolTip(addTab(withoutMnemonic(caption)), toolTip);
+    m_tabs.push_back({key, caption, toolTip});
     if (count() == 1)
         m_selected = 1;
 }
@@ -48,7 +57,9 @@ void TabStrip::add(const QString &key, const QString &caption, const QString &to
 void TabStrip::Remove(int tab)
 {
     const QSignalBlocker quiet(this);
-    removeTab(placeOf(tab));
+    const int index = placeOf(tab);
+    removeTab(index);
+    m_tabs.erase(m_tabs.begin() + index);
     if (m_selected == tab)
         m_selected = 0;
     else if (m_selected > tab)
@@ -70,17 +81,17 @@ int TabStrip::placeOf(int tab) const
 
 QString TabStrip::Key(int tab) const
 {
-    return tabData(placeOf(tab)).toString();
+    return m_tabs[size_t(placeOf(tab))].key;
 }
 
 QString TabStrip::Caption(int tab) const
 {
-    return tabText(placeOf(tab));
+    return m_tabs[size_t(placeOf(tab))].caption;
 }
 
 QString TabStrip::ToolTipText(int tab) const
 {
-    return tabToolTip(placeOf(tab));
+    return m_tabs[size_t(placeOf(tab))].toolTip;
 }
 
 void TabStrip::setSelectedItem(int tab)

@@ -9,6 +9,8 @@
 
 #include <QTabBar>
 
+#include <vector>
+
 namespace desktop {
 
 class TabStrip : public ControlOf<QTabBar>
@@ -33,16 +35,26 @@ public:
     // Error 91 when none is selected.
     QString SelectedCaption() const;
 
+protected:
+    bool event(QEvent *event) override;
+
 Q_SIGNALS:
     // The tab that is being left is still the selected one.
     void BeforeClick();
     void Click();
 
 private:
+    struct Tab
+    {
+        QString key;
+        QString caption;
+        QString toolTip;
+    };
     int heightOfATab();
     void select(int index);
     int placeOf(int tab) const;
 
+    std::vector<Tab> m_tabs;
     int m_selected = 0;
 };
 

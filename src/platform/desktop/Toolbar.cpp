@@ -1,12 +1,8 @@
 #include "platform/desktop/Toolbar.h"
 
-#include "platform/runtime/RuntimeError.h"
-
-#include <QToolButton>
-
 namespace desktop {
 
-Toolbar::Toolbar(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
+Toolbar::Toolbar(QWidget *parent, QAnyStringView name) : DockedBar(parent, name)
 {
     setMovable(false);
     setContextMenuPolicy(Qt::PreventContextMenu);
@@ -22,16 +18,6 @@ QAction *Toolbar::addButton(const QString &key, const QString &description, cons
     button->setAccessibleName(action->text());
     button->setFocusPolicy(Qt::TabFocus); // the keyboard reaches it without taking the focus at a click
     return action;
-}
-
-void Toolbar::Move(double, double, double, double)
-{
-    throw runtime::RuntimeError(runtime::PropertyNotSupported);
-}
-
-void Toolbar::setFontSize(double)
-{
-    throw runtime::RuntimeError(runtime::PropertyNotSupported);
 }
 
 } // namespace desktop

@@ -7,7 +7,7 @@
 
 namespace desktop {
 
-class Toolbar : public ControlOf<QToolBar>
+class Toolbar : public DockedBar<QToolBar>
 {
     Q_OBJECT
 public:
@@ -15,13 +15,6 @@ public:
 
     // The button is an action: its text is the description, or without one the tool tip; its objectName is the key.
     QAction *addButton(const QString &key, const QString &description, const QString &toolTip, const QIcon &icon);
-
-    // A docked bar has its place from its window and its font from the system: both raise error 438.
-    void Move(double left, double top, double width, double height) override;
-    void setFontSize(double points) override;
-
-    // For a window that gives the bar a place of its own at its top edge.
-    void place(double left, double top, double width, double height) { Control::Move(left, top, width, height); }
 
 Q_SIGNALS:
     void ButtonClick(QAction *button);

@@ -1,6 +1,7 @@
 #include "platform/desktop/TreeView.h"
 
 #include "platform/desktop/Keys.h"
+#include "platform/desktop/MenuKey.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -11,6 +12,7 @@
 #include <QPalette>
 #include <QStyledItemDelegate>
 
+#include <limits>
 #include <utility>
 
 namespace desktop {
@@ -26,7 +28,7 @@ bool standsUnder(const QTreeWidgetItem *node, const QTreeWidgetItem *ancestor)
 
 } // namespace
 
-// Tells the tree of the edits that begin, and of the keys that go to an editor.
+// Emits the tree's signal when an edit begins and passes on the keys that the editor gets.
 class TreeView::LabelDelegate : public QStyledItemDelegate
 {
 public:
@@ -39,6 +41,8 @@ public:
         QWidget *editor = QStyledItemDelegate::createEditor(parent, option, index);
         editor->setObjectName(m_tree->objectName() + QLatin1String(".LabelEdit"));
         editor->setAccessibleName(m_tree->m_edited->Text());
+        if (auto *line = qobject_cast<QLineEdit *>(editor))
+            line->setMaxLength(std::numeric_limits<int>::max()); // as in a text box
         return editor;
     }
 
@@ -94,7 +98,7 @@ Node &Nodes::Add(Node *parent, const QString &key, const QString &text)
 void Nodes::Remove(int index)
 {
     Node *removed = &(*this)(index);
-    if (standsUnder(m_tree->SelectedItem().get(), removed)) // from here the selection goes on to what is left
+    if (standsUnder(m_tree->SelectedItem().get(), removed)) // Qt then selects a neighbour of it
         m_tree->setCurrentItem(removed);
     std::erase_if(m_nodes, [this, removed](const Node *node) {
         const bool goes = standsUnder(node, removed);
@@ -156,7 +160,7 @@ void TreeView::commitData(QWidget *editor)
     m_newLabel = qobject_cast<QLineEdit *>(editor)->text();
 }
 
-// No key leads from one label's editor to the next one's, whatever the hint says.
+// The hint is ignored: Tab does not open the editor of the next label.
 void TreeView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint)
 {
     QTreeWidget::closeEditor(editor, QAbstractItemDelegate::NoHint);
@@ -180,7 +184,12 @@ void TreeView::contextMenuEvent(QContextMenuEvent *event)
 {
     event->accept(); // by the mouse it is the press of the button that counts
     if (event->reason() == QContextMenuEvent::Keyboard)
-        Q_EMIT MouseDown(vbRightButton, viewport()->mapToGlobal(visualItemRect(currentItem()).bottomLeft()));
+        openMenuByKey();
+}
+
+void TreeView::openMenuByKey()
+{
+    Q_EMIT MouseDown(vbRightButton, menuPlace(*this, SelectedItem().get()));
 }
 
 void TreeView::mouseReleaseEvent(QMouseEvent *event)
@@ -202,6 +211,8 @@ QItemSelectionModel::SelectionFlags TreeView::selectionCommand(const QModelIndex
 void TreeView::keyPressEvent(QKeyEvent *event)
 {
     m_pressedKey = event->key();
+    if (isShiftF10(*event))
+        return openMenuByKey();
     const QTreeWidgetItem *before = SelectedItem().get();
     QTreeWidget::keyPressEvent(event);
     const QTreeWidgetItem *after = SelectedItem().get();
@@ -220,7 +231,8 @@ void TreeView::keyReleaseEvent(QKeyEvent *event)
     Q_EMIT KeyUp(keyCode(*event));
 }
 
-// A long label is scrolled to instead of being cut off; shorter ones leave no part of their row that is beside it.
+// The column is as wide as the longest label, so that this can be scrolled into view, and as wide as the tree at least,
+// so that a click meets a node anywhere in its row.
 void TreeView::resizeEvent(QResizeEvent *event)
 {
     m_widthOfLabels = -1;
@@ -248,20 +260,19 @@ void TreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottom
     QTreeWidget::dataChanged(topLeft, bottomRight, roles);
 }
 
-// Other labels come into sight, which count in a long tree.
+// Of a long tree only the labels in view are measured, and now there are others.
 void TreeView::scrollContentsBy(int dx, int dy)
 {
     m_widthOfLabels = -1;
     QTreeWidget::scrollContentsBy(dx, dy);
 }
 
-// The first focus selects the first node, so that the keyboard has a place to start from.
+// Whoever comes by the keyboard finds a node selected to start from.
 void TreeView::focusInEvent(QFocusEvent *event)
 {
     QTreeWidget::focusInEvent(event);
-    const bool byKeyboard = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    if (byKeyboard && selectedItems().isEmpty() && topLevelItemCount() > 0)
-        setCurrentItem(topLevelItem(0));
+    if (isByKeyboard(*event) && !SelectedItem())
+        setCurrentItem(currentItem() ? currentItem() : topLevelItem(0));
 }
 
 } // namespace desktop

@@ -86,7 +86,8 @@ Q_SIGNALS:
     // A click anywhere in the tree, and a node reached or confirmed by the keyboard.
     void Click();
     // The press of a mouse button, with the pointer's place on the screen, before it selects anything; the right button
-    // never does. The menu key counts as the right button over the selected node.
+    // never does. The menu key and Shift with F10 count as the right button over the selected
+    // node.
     void MouseDown(int button, QPoint place);
     // The release of a key whose press came to this tree or to the editor of a label.
     void KeyUp(int keyCode);
@@ -112,6 +113,7 @@ protected:
 
 private:
     class LabelDelegate;
+    void openMenuByKey();
 
     int m_pressedKey = 0;
     mutable int m_widthOfLabels = -1;  // in pixels; has to be found out anew where it is negative

@@ -19,8 +19,6 @@
 #include "shell/users/frmNewUser.h"
 #include "shell/users/frmOptions.h"
 
-#include <QApplication>
-#include <QMdiArea>
 #include <QPointer>
 #include <QScreen>
 
@@ -47,7 +45,7 @@ float ratio(double current, qint32 last)
 MDIBaseForm::MDIBaseForm()
     : MdiForm(u"MDIBaseForm"), Toolbar1(new desktop::Toolbar(this, u"Toolbar1")),
       StatusBar1(new desktop::StatusBar(this, u"StatusBar1")), ImageList1(new desktop::ImageList(this, u"ImageList1")),
-      m_session(Session::current())
+      CommonDialog1(new desktop::CommonDialog(this, u"CommonDialog1")), m_session(Session::current())
 {
     setCaption(u"Tolmark"_s);
     setBackground(u":/icons/logo.svg"_s);

@@ -2,6 +2,7 @@
 // controls and empties the temp folder when it closes. Its life is the life of the process.
 #pragma once
 
+#include "platform/desktop/CommonDialog.h"
 #include "platform/desktop/ImageList.h"
 #include "platform/desktop/MdiForm.h"
 #include "platform/desktop/StatusBar.h"
@@ -38,6 +39,7 @@ public:
     desktop::Toolbar *Toolbar1;
     desktop::StatusBar *StatusBar1;
     desktop::ImageList *ImageList1;
+    desktop::CommonDialog *CommonDialog1;
 
     void mnuNewUser_Click();
     void MnuNewClient_Click();
@@ -70,9 +72,7 @@ private:
 
     using Handler = void (MDIBaseForm::*)();
     QMenu *addMenu(const char *name, const QString &caption, bool visible);
-    // An item without handler belongs to a window that is still to come.
-    QAction *addItem(QMenu *menu, const char *name, const QString &caption, Handler handler = nullptr,
-                     bool visible = true);
+    void addItem(QMenu *menu, const char *name, const QString &caption, Handler handler, bool visible = true);
     static void addSeparator(QMenu *menu, const char *name);
 
     Session &m_session;

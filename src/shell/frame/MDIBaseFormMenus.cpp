@@ -15,14 +15,12 @@ QMenu *MDIBaseForm::addMenu(const char *name, const QString &caption, bool visib
     return menu;
 }
 
-QAction *MDIBaseForm::addItem(QMenu *menu, const char *name, const QString &caption, Handler handler, bool visible)
+void MDIBaseForm::addItem(QMenu *menu, const char *name, const QString &caption, Handler handler, bool visible)
 {
     QAction *item = menu->addAction(caption);
     item->setObjectName(QString::fromLatin1(name));
     item->setVisible(visible);
-    if (handler)
-        desktop::on(item, &QAction::triggered, this, handler);
-    return item;
+    desktop::on(item, &QAction::triggered, this, handler);
 }
 
 void MDIBaseForm::addSeparator(QMenu *menu, const char *name)

@@ -1,6 +1,5 @@
 #include "shell/frame/ScaleControls.h"
 
-#include "platform/desktop/Twips.h"
 #include "platform/runtime/ErrorHandling.h"
 #include "shell/session/Session.h"
 
@@ -21,8 +20,5 @@ void ScaleControls(float widthRatio, float heightRatio, desktop::MdiForm &window
             [&] { control->setFontSize(control->FontSize() * average); });
     }
     if (Session::current().ResizePending)
-        window.setGeometry(desktop::pixels(desktop::twips(window.x()) * wide),
-                           desktop::pixels(desktop::twips(window.y()) * high),
-                           desktop::pixels(desktop::twips(window.width()) * wide),
-                           desktop::pixels(desktop::twips(window.height()) * high));
+        window.Move(window.Left() * wide, window.Top() * high, window.Width() * wide, window.Height() * high);
 }

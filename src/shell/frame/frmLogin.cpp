@@ -57,7 +57,7 @@ void frmLogin::setUpContent()
     desktop::Label *password = lblLabels.add(1, this);
     password->setText(u"&Password:"_s);
     password->setBuddy(txtPassword);
-    txtPassword->setEchoMode(QLineEdit::Password);
+    txtPassword->setMasked();
 
     auto *grid = new QGridLayout;
     grid->addWidget(userName, 0, 0);

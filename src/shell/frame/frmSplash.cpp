@@ -68,6 +68,13 @@ void frmSplash::Form_Load()
     lblProductName->setText(App::Title());
 }
 
+// A window manager gives no keys to a splash that does not ask for them.
+void frmSplash::showEvent(QShowEvent *event)
+{
+    Form::showEvent(event);
+    activateWindow();
+}
+
 void frmSplash::keyPressEvent(QKeyEvent *)
 {
     Unload();

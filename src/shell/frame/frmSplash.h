@@ -19,6 +19,7 @@ public:
 
 protected:
     void Form_Load() override;
+    void showEvent(QShowEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 

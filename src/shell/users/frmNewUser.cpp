@@ -100,14 +100,13 @@ void frmNewUser::setUpBoxes()
     txtPasswordRetypes = add(u"txtPasswordRetypes", u"Password Retyped"_s, u"lblPasswordRedtyped");
     lblPasswordRedtyped = grid.lastLabel();
     lblGeneratedPassword = new desktop::Label(Frame1, u"lblGeneratedPassword");
-    lblGeneratedPassword->setTextFormat(Qt::PlainText);
     lblGeneratedPassword->setAlignment(Qt::AlignCenter);
     grid.addBehind(lblGeneratedPassword);
     const int widest = qMax(CmdUserName->sizeHint().width(), CmdPassword->sizeHint().width());
     for (QWidget *behind : std::initializer_list<QWidget *>{CmdUserName, CmdPassword, lblGeneratedPassword})
         behind->setMinimumWidth(widest);
     for (TextBox *box : {txtPassword, txtPasswordRetypes})
-        box->setEchoMode(QLineEdit::Password);
+        box->setMasked();
 }
 
 void frmNewUser::Form_Load()

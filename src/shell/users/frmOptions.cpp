@@ -36,7 +36,8 @@ frmOptions::frmOptions()
     setUpLayout();
     tbsOptions_Click();
     txtOldPassword->setFocus();
-    // Ahead of the controls, and of the frame, which would go on to its next child.
+    // A shortcut gets the key before the focused control does, and before the frame, which would activate its next
+    // child.
     auto *nextTab = new QShortcut(Qt::CTRL | Qt::Key_Tab, this);
     nextTab->setContext(Qt::WidgetWithChildrenShortcut);
     desktop::on(nextTab, &QShortcut::activated, this,
@@ -69,7 +70,7 @@ void frmOptions::setUpPassword()
     FieldGrid grid(fraSample1);
     const auto add = [&grid](QAnyStringView name, const QString &label, QAnyStringView labelName) {
         desktop::TextBox *box = grid.addText(name, label);
-        box->setEchoMode(QLineEdit::Password);
+        box->setMasked();
         grid.lastLabel()->setObjectName(labelName.toString());
         return box;
     };
@@ -105,7 +106,7 @@ void frmOptions::Form_Load()
     centreOnScreen();
 }
 
-// The pages follow the window, each at the left edge that its tab gives it.
+// The pages take the size of the window; their left edges are set by the tabs.
 void frmOptions::resizeEvent(QResizeEvent *event)
 {
     Form::resizeEvent(event);

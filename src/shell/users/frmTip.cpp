@@ -46,7 +46,6 @@ void frmTip::setUpContent()
     for (Label *label : {Label1, lblTipText})
         label->setForegroundRole(QPalette::Text);
     Label1->setFontSize(Label1->FontSize() * 1.3);
-    lblTipText->setTextFormat(Qt::PlainText); // a tip may hold any character
     lblTipText->setWordWrap(true);
     lblTipText->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     const QFontMetrics metrics = lblTipText->fontMetrics();

@@ -15,6 +15,7 @@
 #include <QPointer>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <cstring>
 #include <stdexcept>
@@ -110,14 +111,20 @@ private Q_SLOTS:
         frame.resize(800, 600);
         frame.Show();
         auto *first = desktop::showNew<Window>([](Window &window) { window.resize(300, 200); });
-        desktop::showNew<Window>([](Window &window) { window.setCaption(u"A & B"_s); });
+        const auto *second = desktop::showNew<Window>([](Window &window) { window.setCaption(u"A & B[*]"_s); });
+        QCOMPARE(second->Caption(), u"A & B[*]"_s);
+        QCOMPARE(second->windowTitle(), u"A & B[*][*]"_s);
+        const QAction *own = frame.windows->addAction(u"Tile"_s);
         QCOMPARE(frame.area().subWindowList().size(), 2);
         QCOMPARE(first->size(), QSize(300, 200));
-        Q_EMIT frame.windows->aboutToShow();
-        QCOMPARE(frame.windows->actions().size(), 2);
-        QCOMPARE(frame.windows->actions()[1]->text(), u"&2 A && B"_s);
-        QVERIFY(frame.windows->actions()[1]->isChecked());
-        frame.windows->actions()[0]->trigger();
+        for (int opening = 0; opening < 2; ++opening) // what else stands in the menu stays there
+            Q_EMIT frame.windows->aboutToShow();
+        const QList<QAction *> items = frame.windows->actions();
+        QCOMPARE(items.size(), 3);
+        QCOMPARE(items[0], own);
+        QCOMPARE(items[2]->text(), u"&2 A && B[*]"_s);
+        QVERIFY(items[2]->isChecked());
+        items[1]->trigger();
         QCOMPARE(frame.area().activeSubWindow()->widget(), first);
         first->Unload();
         QTRY_COMPARE(frame.area().subWindowList().size(), 1);
@@ -181,34 +188,42 @@ private Q_SLOTS:
         QCOMPARE(shared->log.join(u", "_s), times);
     }
 
-    void messageBoxes_data()
-    {
-        QTest::addColumn<int>("style");
-        QTest::addColumn<QMessageBox::StandardButtons>("buttons");
-        QTest::addColumn<QMessageBox::Icon>("icon");
-        QTest::addColumn<QMessageBox::StandardButton>("press");
-        QTest::addColumn<int>("result");
-        using Box = QMessageBox;
-        QTest::newRow("OK") << 0 << Box::StandardButtons(Box::Ok) << Box::NoIcon << Box::Ok << 1;
-        QTest::newRow("information") << 64 << Box::StandardButtons(Box::Ok) << Box::Information << Box::Ok << 1;
-        QTest::newRow("stop") << 16 << Box::StandardButtons(Box::Ok) << Box::Critical << Box::Ok << 1;
-        QTest::newRow("Yes") << 4 << (Box::Yes | Box::No) << Box::NoIcon << Box::Yes << 6;
-        QTest::newRow("No") << 4 << (Box::Yes | Box::No) << Box::NoIcon << Box::No << 7;
-        QTest::newRow("Cancel") << 3 << (Box::Yes | Box::No | Box::Cancel) << Box::NoIcon << Box::Cancel << 2;
-    }
     void messageBoxes()
     {
-        QFETCH(int, style);
-        QFETCH(QMessageBox::StandardButtons, buttons);
-        QFETCH(QMessageBox::Icon, icon);
-        QFETCH(QMessageBox::StandardButton, press);
-        QFETCH(int, result);
-        BoxAnswers boxes({press});
-        QCOMPARE(int(desktop::MsgBox(u"<b>plain</b>"_s, style)), result);
-        QCOMPARE(boxes.seen[0].buttons, buttons);
-        QCOMPARE(boxes.seen[0].icon, icon);
-        QCOMPARE(boxes.seen[0].title, u"Tolmark Lite"_s);
-        QCOMPARE(boxes.seen[0].text, u"<b>plain</b>"_s);
+        using Box = QMessageBox;
+        const Box::StandardButtons ok = Box::Ok;
+        for (const auto &[style, buttons, icon, press, result] :
+             {std::tuple(0, ok, Box::NoIcon, Box::Ok, 1), std::tuple(64, ok, Box::Information, Box::Ok, 1),
+              std::tuple(16, ok, Box::Critical, Box::Ok, 1),
+              std::tuple(4, Box::Yes | Box::No, Box::NoIcon, Box::Yes, 6),
+              std::tuple(4, Box::Yes | Box::No, Box::NoIcon, Box::No, 7),
+              std::tuple(3, Box::Yes | Box::No | Box::Cancel, Box::NoIcon, Box::Cancel, 2)}) {
+            BoxAnswers boxes({press});
+            QCOMPARE(int(desktop::MsgBox(u"<b>plain</b>"_s, style)), result);
+            QCOMPARE(boxes.seen[0].buttons, buttons);
+            QCOMPARE(boxes.seen[0].icon, icon);
+            QCOMPARE(boxes.seen[0].title, u"Tolmark Lite"_s);
+            QCOMPARE(boxes.seen[0].text, u"<b>plain</b>"_s);
+        }
+    }
+
+    // Esc and the box's frame say Cancel, or OK where that is all; they do not decide between Yes and No.
+    void aWayOutOfAMessageBox()
+    {
+        for (const auto &[style, left] : {std::pair(desktop::vbOKOnly, desktop::vbOK),
+                                          {desktop::vbYesNoCancel, desktop::vbCancel},
+                                          {desktop::vbYesNo, desktop::vbYes}}) {
+            for (const bool byEsc : {true, false}) {
+                QTimer::singleShot(0, this, [style = style, byEsc] {
+                    QWidget *box = QApplication::activeModalWidget();
+                    byEsc ? QTest::keyClick(box, Qt::Key_Escape) : void(box->close());
+                    QCOMPARE(box->isVisible(), style == desktop::vbYesNo);
+                    if (box->isVisible())
+                        QTest::keyClick(box, Qt::Key_Return);
+                });
+                QCOMPARE(desktop::MsgBox(u"?"_s, style), left);
+            }
+        }
     }
 
     // No exception passes the guard, whatever it is.

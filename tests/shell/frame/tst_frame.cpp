@@ -1,4 +1,3 @@
-#include "dossier/FrmAddEditMember.h"
 #include "dynamicforms/DisplayInformation.h"
 #include "dynamicforms/frmOpenRecord.h"
 #include "explorers/FrmDataBaseExplorer.h"
@@ -8,6 +7,7 @@
 #include "search/frmFindInfo.h"
 #include "shell/frame/DesignTime.h"
 #include "shell/frame/MDIBaseForm.h"
+#include "shell/frame/ScaleControls.h"
 #include "shell/frame/frmLogin.h"
 #include "shell/frame/frmSplash.h"
 #include "shell/users/frmNewUser.h"
@@ -99,36 +99,32 @@ private Q_SLOTS:
             QVERIFY(isShown(name));
     }
 
-    void everyExplorerOfTheMenuTakesTheLevelAndTheFirstDoesNot()
+    void eachMenuItemOpensItsWindow()
     {
         CaughtErrors errors;
         MDIBaseForm &frame = MDIBaseForm::frame();
         frame.setUserLevel(99);
+        frame.setUserId(runtime::Value(u"5"_s));
         frame.Show();
-        item("MnuExplorer").trigger();
-        item("MnuNewClient").trigger();
-        item("mnuEventExplorer").trigger();
-        const auto windows = frame.area().subWindowList();
-        QCOMPARE(windows.size(), 4);
-        QCOMPARE(qobject_cast<FrmDataBaseExplorer *>(windows[0]->widget())->UserLevel, qint16(0));
-        QCOMPARE(qobject_cast<FrmDataBaseExplorer *>(windows[1]->widget())->UserLevel, qint16(99));
-        QVERIFY(qobject_cast<FrmAddEditMember *>(windows[2]->widget()));
-        QCOMPARE(qobject_cast<FrmEventExplorer *>(windows[3]->widget())->UserLevel, qint16(0));
-        windows[1]->close();
-        QTRY_COMPARE(frame.area().subWindowList().size(), 3);
-    }
-
-    void theLibraryOpensAsItsManager()
-    {
-        CaughtErrors errors;
-        MDIBaseForm &frame = MDIBaseForm::frame();
-        frame.Show();
-        item("mnuDoc").trigger();
-        const auto *library = qobject_cast<frmDocumentExp *>(frame.area().subWindowList().last()->widget());
-        QVERIFY(library && library->adminFunction && library->isVisible());
+        for (const char *name : {"MnuExplorer", "MnuNewClient", "mnuNewEvent", "mnuEventExplorer", "mnuNewUser",
+                                 "mnuAddNewUser", "MnuOptions", "mnuDatabaseEditor", "mnuDoc"})
+            item(name).trigger();
+        QStringList opened;
+        for (const QMdiSubWindow *window : frame.area().subWindowList())
+            opened << window->widget()->objectName();
+        QCOMPARE(opened.join(u' '), u"FrmDataBaseExplorer FrmDataBaseExplorer FrmAddEditMember FrmAddEvent "
+                                    "FrmEventExplorer frmNewUser frmNewUser frmOptions DatabaseGenerator "
+                                    "frmDocumentExp"_s);
+        const auto explorers = frame.findChildren<FrmDataBaseExplorer *>();
+        QCOMPARE(explorers[0]->UserLevel, qint16(0)); // the one of the start
+        QCOMPARE(explorers[1]->UserLevel, qint16(99));
+        QCOMPARE(child<FrmEventExplorer>(frame, "FrmEventExplorer")->UserLevel, qint16(0));
+        QCOMPARE(child<frmNewUser>(frame, "frmNewUser")->SecurityId, QString());
+        QCOMPARE(child<frmOptions>(frame, "frmOptions")->SecId(), u"5"_s);
+        QVERIFY(child<frmDocumentExp>(frame, "frmDocumentExp")->adminFunction);
         m_folder->execute("DROP TABLE ObjectTbl");
         item("mnuDoc").trigger(); // fails without a word
-        QCOMPARE(frame.area().subWindowList().size(), 2);
+        QCOMPARE(frame.area().subWindowList().size(), opened.size());
     }
 
     void theMenuOpensTheRecordWindow()
@@ -145,37 +141,6 @@ private Q_SLOTS:
         QVERIFY(record);
         QCOMPARE(record->Caption(), u"New Member Information"_s);
         QCOMPARE(record->EditMode, u"New"_s);
-    }
-
-    void theMenuOpensTheWindowsOfUsers()
-    {
-        CaughtErrors errors;
-        MDIBaseForm &frame = MDIBaseForm::frame();
-        frame.setUserId(runtime::Value(u"5"_s));
-        frame.Show();
-        for (const char *name : {"mnuNewUser", "mnuAddNewUser", "MnuOptions"})
-            item(name).trigger();
-        const auto windows = frame.area().subWindowList();
-        QCOMPARE(windows.size(), 4);
-        for (int user : {1, 2}) {
-            const auto *window = qobject_cast<frmNewUser *>(windows[user]->widget());
-            QVERIFY(window && window->isVisible());
-            QCOMPARE(window->SecurityId, QString());
-        }
-        const auto *options = qobject_cast<frmOptions *>(windows[3]->widget());
-        QVERIFY(options && options->isVisible());
-        QCOMPARE(options->SecId(), u"5"_s);
-    }
-
-    // The guard of the menu swallows what fails while a window loads, and no half window stays.
-    void aWindowThatCannotLoadIsGone()
-    {
-        CaughtErrors errors;
-        MDIBaseForm &frame = MDIBaseForm::frame();
-        frame.Show();
-        m_folder->execute("DELETE FROM NodeInformation");
-        item("MnuExplorer").trigger();
-        QCOMPARE(frame.area().subWindowList().size(), 1);
     }
 
     // The toolbar has no guard.
@@ -196,6 +161,46 @@ private Q_SLOTS:
         QCOMPARE(frame.findChildren<frmFindInfo *>().size(), 2);
     }
 
+    // The first resize is that of the opening; the second finds no size to compare with.
+    void aResizeScalesWhatStandsInTheFrame()
+    {
+        CaughtErrors errors;
+        Session &session = Session::current();
+        MDIBaseForm &frame = MDIBaseForm::frame(); // its bars have no place of their own and are passed over
+        auto *box = new desktop::TextBox(&frame, u"box");
+        auto *combo = new desktop::ComboBox(&frame, u"combo");
+        frame.Show();
+        QVERIFY(session.ResizeReady);
+        session.ResizePending = true;
+        frame.resize(QSize(900, 600) + frame.size() - frame.frameGeometry().size());
+        QVERIFY(!session.ResizePending);
+        box->Move(300, 600, 1500, 450);
+        box->setFontSize(10);
+        combo->Move(300, 600, 1500, 450);
+        frame.resize(QSize(1800, 300) + frame.size() - frame.frameGeometry().size());
+        const auto places = [](const desktop::Control &control) {
+            return QList<double>{control.Left(), control.Top(), control.Width(), control.Height()};
+        };
+        QCOMPARE(places(*box), (QList<double>{600, 300, 3000, 225}));
+        QCOMPARE(box->FontSize(), 12.5);
+        QCOMPARE(places(*combo), (QList<double>{600, 300, 3000, 450}));
+    }
+
+    void scalingMovesTheWindowItselfOnlyWhileThatIsPending()
+    {
+        desktop::MdiForm window(u"window");
+        window.setGeometry(10, 20, 200, 150);
+        window.show();
+        const QRect before = window.frameGeometry();
+        ScaleControls(2.0F, 2.0F, window);
+        QCOMPARE(window.frameGeometry(), before);
+        Session::current().ResizePending = true;
+        ScaleControls(1.0F, 1.0F, window);
+        QCOMPARE(window.frameGeometry(), before);
+        ScaleControls(2.0F, 2.0F, window);
+        QCOMPARE(window.frameGeometry(), QRect(before.topLeft() * 2, before.size() * 2));
+    }
+
     void outOfMemoryIsTold()
     {
         BoxAnswers boxes({QMessageBox::Ok});
@@ -204,46 +209,28 @@ private Q_SLOTS:
         desktop::reportOutOfMemoryOnly([] { throw runtime::RuntimeError(6); }); // and any other is not
     }
 
-    void startFailures_data()
+    void aMissingDataFileEndsTheStart()
     {
-        QTest::addColumn<QByteArray>("content");
-        QTest::newRow("no file") << QByteArray();
-        QTest::newRow("a text file") << QByteArray("Dear members,\nthis is no data file at all, only a letter.\n");
-        QTest::newRow("an empty file") << QByteArray("");
-    }
-    void startFailures()
-    {
-        QFETCH(QByteArray, content);
         QVERIFY(QFile::remove(m_folder->file()));
-        if (!content.isNull()) {
-            QFile file(m_folder->file());
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write(content);
-        }
         CaughtErrors errors;
         QuickClock clock;
         desktop::guarded([] { frmLogin::shared().Show(); });
         QCOMPARE(errors.takeNumber(), -2147467259);
     }
 
-    void login_data()
-    {
-        QTest::addColumn<QString>("user");
-        QTest::addColumn<QString>("password");
-        QTest::addColumn<QString>("message");
-        QTest::addColumn<int>("error");
-        QTest::newRow("right") << u"ANN"_s << u"Secret"_s << QString() << 0;
-        QTest::newRow("wrong") << u"ann"_s << u"other"_s << u"Incorrect user name and/or password"_s << 0;
-        QTest::newRow("both empty") << QString() << QString() << u"Incorrect user name and/or password"_s << 0;
-        QTest::newRow("apostrophe") << u"o'brien"_s << u"x"_s << QString() << -2147217900;
-        QTest::newRow("no level") << u"nolevel"_s << u"x"_s << QString() << 94;
-    }
     void login()
     {
-        QFETCH(QString, user);
-        QFETCH(QString, password);
-        QFETCH(QString, message);
-        QFETCH(int, error);
+        struct Row
+        {
+            QString user, password, message;
+            int error;
+        };
+        const QString incorrect = u"Incorrect user name and/or password"_s;
+        const Row rows[] = {{u"ann"_s, u"other"_s, incorrect, 0},
+                            {{}, {}, incorrect, 0},
+                            {u"o'brien"_s, u"x"_s, {}, -2147217900},
+                            {u"nolevel"_s, u"x"_s, {}, 94},
+                            {u"ANN"_s, u"Secret"_s, {}, 0}};
         m_folder->execute("INSERT INTO Security (SecurityId, UserName, UserPassword, UserFirstName, UserMiddleName, "
                           "UserLastName, UserLevel) VALUES (77, 'ann', 'secret', 'Ann', NULL, 'Cole', 99), "
                           "(78, 'nolevel', 'x', 'No', NULL, 'Level', NULL)");
@@ -253,43 +240,44 @@ private Q_SLOTS:
         frmLogin &window = frmLogin::shared();
         window.ReLogin = true;
         window.show(); // stays on the screen, as its load would not let it
-        window.txtUserName->setText(user);
-        window.txtPassword->setText(password);
-        BoxAnswers boxes(message.isEmpty() ? QList<QMessageBox::StandardButton>() : QList{QMessageBox::Ok});
-        QTest::keyClick(&window, Qt::Key_Return);
-        QCOMPARE(errors.takeNumber(), error);
-        const bool in = message.isEmpty() && error == 0;
-        QCOMPARE(window.isVisible(), !in);
-        QCOMPARE(frame.Caption(), in ? u"Tolmark : Ann  Cole"_s : u"Tolmark"_s);
-        if (in) {
-            QCOMPARE(frame.UserId(), u"77"_s);
-            QCOMPARE(frame.UMiddleName(), u" "_s);
-            QCOMPARE(frame.UserLevel(), qint16(99));
-        } else if (!message.isEmpty()) {
-            QCOMPARE(boxes.seen[0].text, message);
-            QCOMPARE(window.txtUserName->text(), user);
+        for (const Row &row : rows) {
+            QVERIFY(window.isVisible());
+            QCOMPARE(frame.Caption(), u"Tolmark"_s);
+            window.txtUserName->setText(row.user);
+            window.txtPassword->setText(row.password);
+            BoxAnswers boxes(row.message.isEmpty() ? QList<QMessageBox::StandardButton>() : QList{QMessageBox::Ok});
+            QTest::keyClick(&window, Qt::Key_Return);
+            QCOMPARE(errors.takeNumber(), row.error);
+            QCOMPARE(boxes.seen.value(0).text, row.message);
+            QCOMPARE(window.txtUserName->text(), row.user);
         }
+        QVERIFY(!window.isVisible());
+        QCOMPARE(frame.Caption(), u"Tolmark : Ann  Cole"_s);
+        QCOMPARE(frame.UserId() + frame.UMiddleName() + QString::number(frame.UserLevel()), u"77 99"_s);
     }
 
-    void middleNames_data()
+    void enterPressesTheButtonThatHasTheFocus()
+    {
+        CaughtErrors errors;
+        BoxAnswers none;
+        frmLogin &window = frmLogin::shared();
+        window.show();
+        window.cmdCancel->setFocus();
+        QTest::keyClick(window.cmdCancel, Qt::Key_Return);
+        QVERIFY(!window.isVisible());
+    }
+
+    void aMissingMiddleNameIsABlank()
     {
         using runtime::Value;
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<int>("kind");
-        QTest::newRow("Null") << u" "_s << 0;
-        QTest::newRow("the text 1") << u" "_s << 1;
-        QTest::newRow("a name") << u"Bea"_s << 2;
-        QTest::newRow("empty") << QString() << 3;
-    }
-    void middleNames()
-    {
-        QFETCH(QString, stored);
-        QFETCH(int, kind);
-        const runtime::Value names[] = {runtime::Value(), runtime::Value(u"1"_s), runtime::Value(u"Bea"_s),
-                                        runtime::Value(QString())};
-        MDIBaseForm::frame().setUMiddleName(names[kind]);
-        QCOMPARE(MDIBaseForm::frame().UMiddleName(), stored);
-        QVERIFY_THROWS_EXCEPTION(runtime::RuntimeError, MDIBaseForm::frame().setUFirstName(runtime::Value()));
+        MDIBaseForm &frame = MDIBaseForm::frame();
+        for (const auto &[name, kept] :
+             {std::pair(Value(), u" "_s), std::pair(Value(u"1"_s), u" "_s), std::pair(Value(u"Bea"_s), u"Bea"_s),
+              std::pair(Value(QString()), QString())}) {
+            frame.setUMiddleName(name);
+            QCOMPARE(frame.UMiddleName(), kept);
+        }
+        QVERIFY_THROWS_EXCEPTION(runtime::RuntimeError, frame.setUFirstName(Value()));
     }
 
     void aNewLoginFromTheMenuOnlySetsTheCaption()
@@ -309,21 +297,16 @@ private Q_SLOTS:
         CaughtErrors errors;
         MDIBaseForm &frame = MDIBaseForm::frame();
         frame.Show();
-        for (const char *name : {"a.txt", "no extension", ".hidden", "a\\b", "Search/kept.txt"})
-            write(QString::fromLatin1(name));
+        for (const QString &name : {u"a.txt"_s, u"no extension"_s, u".hidden"_s, u"a\\b"_s, u"Search/kept.txt"_s})
+            m_folder->write(u"temp/"_s + name, "x");
         item("mnuExit").trigger();
         QVERIFY(!frame.isVisible());
         QCOMPARE(QDir(m_folder->path(u"temp"_s)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
                  QStringList{u"Search"_s});
         QVERIFY(QFile::exists(m_folder->path(u"temp/Search/kept.txt"_s)));
-    }
-
-    void aMissingTempFolderIsNoFailure()
-    {
-        CaughtErrors errors;
-        QVERIFY(QDir(m_folder->path(u"temp"_s)).removeRecursively());
-        MDIBaseForm::frame().Show();
-        MDIBaseForm::frame().close();
+        QVERIFY(QDir(m_folder->path(u"temp"_s)).removeRecursively()); // nor is it missed
+        frame.show();
+        frame.close();
     }
 
     // The kernel's own files can be deleted by nobody.
@@ -351,12 +334,6 @@ private Q_SLOTS:
     }
 
 private:
-    void write(const QString &name)
-    {
-        QFile file(m_folder->path(u"temp/"_s + name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-    }
-
     std::optional<DataStoreFolder> m_folder;
 };
 

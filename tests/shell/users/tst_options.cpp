@@ -34,69 +34,55 @@ private Q_SLOTS:
                           " (7, 'ann', 'stored'), (8, 'bo', 'other')");
     }
 
-    void aPasswordIsChanged_data()
+    void aPasswordIsChanged()
     {
-        QTest::addColumn<QStringList>("boxes"); // old, new, retyped
-        QTest::addColumn<QString>("message");
         const QString noOld = u"You must supply your old password"_s;
         const QString equal = u"The new password cannot match the old password"_s;
         const QString differ = u"Passwords do not match"_s;
         const QString changed = u"Your password has been changed"_s;
-        QTest::newRow("all empty") << QStringList{QString(), QString(), QString()} << noOld;
-        QTest::newRow("no old one") << QStringList{QString(), u"new"_s, u"new"_s} << noOld;
-        QTest::newRow("equal to the old one") << QStringList{u"stored"_s, u"stored"_s, u"x"_s} << equal;
-        QTest::newRow("retyped otherwise") << QStringList{u"stored"_s, u"new"_s, u"New"_s} << differ;
-        QTest::newRow("right") << QStringList{u"stored"_s, u"it's new"_s, u"it's new"_s} << changed;
-        QTest::newRow("any old one will do") << QStringList{u"wrong"_s, u"stored"_s, u"stored"_s} << changed;
-        QTest::newRow("none from now on") << QStringList{u"stored"_s, QString(), QString()} << changed;
-    }
-    void aPasswordIsChanged()
-    {
-        QFETCH(QStringList, boxes);
-        QFETCH(QString, message);
+        const std::pair<QStringList, QString> rows[] = {
+            // old, new, retyped
+            {{QString(), u"new"_s, u"new"_s}, noOld},
+            {{u"stored"_s, u"stored"_s, u"x"_s}, equal},
+            {{u"stored"_s, u"new"_s, u"New"_s}, differ},
+            {{u"wrong"_s, u"it's new"_s, u"it's new"_s}, changed}, // any old one will do
+            {{u"stored"_s, QString(), QString()}, changed}};
         CaughtErrors errors;
-        QPointer<frmOptions> window = openOptions(u"7"_s);
-        const bool changes = message == u"Your password has been changed";
-        const auto type = [&] {
-            window->txtOldPassword->setText(boxes[0]);
-            window->txtNewPassword->setText(boxes[1]);
-            window->txtNewPasswordRetyped->setText(boxes[2]);
-        };
-        BoxAnswers answers({QMessageBox::Ok, QMessageBox::Ok});
-        type();
-        window->cmdApply->click();
-        QCOMPARE(answers.seen[0].text, message);
-        QCOMPARE(answers.seen[0].icon, QMessageBox::NoIcon);
-        QVERIFY(window->isVisible());
-        const QStringList after{window->txtOldPassword->text(), window->txtNewPassword->text(),
-                                window->txtNewPasswordRetyped->text()};
-        QCOMPARE(after.join(u'|'), changes ? boxes.join(u'|') : u"||"_s);
-        const QStringList stored = m_folder->rows("SELECT UserPassword FROM Security ORDER BY SecurityId");
-        QCOMPARE(stored, (QStringList{changes ? boxes[1] : u"stored"_s, u"other"_s}));
-        type();
-        window->cmdOK->click();
-        QCOMPARE(answers.seen[1].text, message);
-        QTRY_VERIFY(!window);
+        QString stored = u"stored"_s;
+        for (const auto &[boxes, message] : rows) {
+            QPointer<frmOptions> window = openOptions(u"7"_s);
+            const QList<desktop::TextBox *> all{window->txtOldPassword, window->txtNewPassword,
+                                                window->txtNewPasswordRetyped};
+            for (const int box : {0, 1, 2})
+                all[box]->setText(boxes[box]);
+            BoxAnswers answers({QMessageBox::Ok, QMessageBox::Ok});
+            window->cmdApply->click();
+            QCOMPARE(answers.seen[0].text, message);
+            QCOMPARE(answers.seen[0].icon, QMessageBox::NoIcon);
+            QVERIFY(window->isVisible());
+            const bool changes = message == changed;
+            for (const int box : {0, 1, 2})
+                QCOMPARE(all[box]->text(), changes ? boxes[box] : QString());
+            stored = changes ? boxes[1] : stored;
+            QCOMPARE(m_folder->row("SELECT group_concat(UserPassword) FROM Security"), stored + u",other"_s);
+            window->cmdOK->click(); // closes, whatever came of it
+            QCOMPARE(answers.seen[1].text, changes ? changed : noOld);
+            QTRY_VERIFY(!window);
+        }
     }
 
-    void aUserThatIsNotThereIsReported_data()
-    {
-        QTest::addColumn<QString>("user");
-        QTest::addColumn<int>("error");
-        QTest::newRow("nobody logged in") << QString() << -2147217900;
-        QTest::newRow("no such row") << u"77"_s << 3021;
-    }
     void aUserThatIsNotThereIsReported()
     {
-        QFETCH(QString, user);
         CaughtErrors errors;
         BoxAnswers none;
-        QPointer<frmOptions> window = openOptions(user);
-        window->txtOldPassword->setText(u"x"_s);
-        window->cmdOK->click();
-        QTEST(errors.takeNumber(), "error");
-        QVERIFY(window->isVisible());
-        window->Unload();
+        for (const auto &[user, error] : {std::pair(QString(), -2147217900), std::pair(u"77"_s, 3021)}) {
+            frmOptions &window = *openOptions(user);
+            window.txtOldPassword->setText(u"x"_s);
+            window.cmdOK->click();
+            QCOMPARE(errors.takeNumber(), error);
+            QVERIFY(window.isVisible());
+            window.Unload();
+        }
     }
 
     // Ctrl+Tab is also the frame's key for its next window.
