@@ -257,13 +257,6 @@ private Q_SLOTS:
         QCOMPARE(&FrmAddEvent::shared(), &window);
     }
 
-private:
-    static constexpr auto everyEvent =
-        "SELECT EventIdentification, EventName, EventDescription, EventStartDate, EventStartTime, EventStartTimeAmPm, "
-        "EventEndDate, EventEndTime, EventEndTimeAmPm, Active FROM EventInformation";
-
-    std::optional<DataStoreFolder> m_folder;
-
     // Month, day and year one after another: neither the day before nor a day that is missing on the way bends the
     // date.
     void aCalendarIsSetByItsParts_data()
@@ -308,6 +301,13 @@ private:
         QCOMPARE(clicks.size(), 2);
         QCOMPARE(runtime::toText(calendar.Value()), u"1/22/2026"_s);
     }
+
+private:
+    static constexpr auto everyEvent =
+        "SELECT EventIdentification, EventName, EventDescription, EventStartDate, EventStartTime, EventStartTimeAmPm, "
+        "EventEndDate, EventEndTime, EventEndTimeAmPm, Active FROM EventInformation";
+
+    std::optional<DataStoreFolder> m_folder;
 };
 
 QTEST_MAIN(tst_Events)

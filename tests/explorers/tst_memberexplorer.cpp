@@ -182,7 +182,7 @@ private Q_SLOTS:
         QTest::keyClick(&explorer.list(), Qt::Key_Return);
         QCOMPARE(dossiers().size(), 3);
         QCOMPARE(dossiers()[0]->Caption(), u"Tolmark Member Information : Ann  Abel"_s);
-        QCOMPARE(dossiers()[0]->Frame1->txtLastName->text(), u"Abel"_s);
+        QCOMPARE(child<desktop::TextBox>(*dossiers()[0], "txtLastName")->text(), u"Abel"_s);
         const QPoint second = explorer.list().visualItemRect(&explorer.list().ListItems(2)).center();
         QTest::mouseDClick(explorer.list().viewport(), Qt::LeftButton, {}, second);
         QCOMPARE(dossiers().size(), 4);
