@@ -31,7 +31,7 @@ public:
         return {label, box};
     }
     void addWidget(QWidget &widget);
-    // Covered by the box of the last row and in use together with it.
+    // Covered by the box of the last row and never enabled.
     void addUnderLastBox(QWidget &widget);
     // Adds a row with a button that begins an entry; enabled while browsing.
     desktop::CommandButton *addBeginningButton(QAnyStringView name, const QString &caption);
