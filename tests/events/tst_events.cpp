@@ -229,8 +229,25 @@ private Q_SLOTS:
         QCOMPARE(calendar->frmEvent(), event);
         clickDay(*calendar, 14);
         QCOMPARE(event->txtEventStartDate->text(), u"1/14/2026"_s);
+        QCOMPARE(event->txtEventEndDate->text(), u"1/31/2026"_s); // the touch loaded the window
         QTRY_VERIFY(!calendar);
         QVERIFY(!event); // nobody ever saw it
+    }
+
+    void aDayForTheClosedSharedWindowStandsAtItsNextOpening()
+    {
+        CaughtErrors errors;
+        MainWindow frame;
+        frame.Show();
+        FrmAddEvent &window = FrmAddEvent::shared();
+        window.Show();
+        const QPointer<FrmEventCalendar> calendar = calendarOf(window.cmdEndDate);
+        window.CmdClose->click();
+        clickDay(*calendar, 14);
+        window.Show();
+        QCOMPARE(window.txtEventEndDate->text(), u"1/14/2026"_s);
+        QCOMPARE(window.txtEventStartDate->text(), u"1/31/2026"_s);
+        window.Unload();
     }
 
     void theSharedWindowIsFreshEachTime()
