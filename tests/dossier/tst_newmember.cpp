@@ -85,31 +85,21 @@ private Q_SLOTS:
         QCOMPARE(m_folder->row("SELECT count(*) FROM MemberInformation"), u"0"_s);
     }
 
-    // Each field breaks the statement that it stands in; what was written before stays.
-    void anApostropheEndsInTheReport_data()
-    {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QString>("members");
-        QTest::addColumn<QString>("employers");
-        QTest::newRow("city") << QByteArray("txtCity") << u"0"_s << u"0"_s;
-        QTest::newRow("employer") << QByteArray("txtEmployerName") << u"1"_s << u"0"_s;
-    }
+    // What was written before the statement that breaks stays.
     void anApostropheEndsInTheReport()
     {
-        QFETCH(QByteArray, name);
-        QFETCH(QString, members);
-        QFETCH(QString, employers);
         CaughtErrors errors;
-        FrmAddEditMember window;
-        window.Show();
-        box(window, "txtMemberFirstName").setText(u"Ann"_s);
-        box(window, "txtMemberLastName").setText(u"Cole"_s);
-        box(window, name).setText(u"O'Fallon"_s);
-        window.Command1->click();
-        QCOMPARE(errors.takeNumber(), -2147217900);
-        QCOMPARE(m_folder->row("SELECT count(*) FROM MemberInformation"), members);
-        QCOMPARE(m_folder->row("SELECT count(*) FROM EmployerInformation"), employers);
-        QCOMPARE(m_folder->row("PRAGMA integrity_check"), u"ok"_s);
+        for (const char *name : {"txtCity", "txtEmployerName"}) {
+            FrmAddEditMember window;
+            window.Show();
+            box(window, "txtMemberFirstName").setText(u"Ann"_s);
+            box(window, "txtMemberLastName").setText(u"Cole"_s);
+            box(window, name).setText(u"O'Fallon"_s);
+            window.Command1->click();
+            QCOMPARE(errors.takeNumber(), -2147217900);
+        }
+        QCOMPARE(m_folder->row("SELECT (SELECT count(*) FROM MemberInformation), count(*) FROM EmployerInformation"),
+                 u"1|0"_s);
     }
 
     void theSameMemberTwiceGivesTheInterestsToTheFirst()
@@ -136,38 +126,30 @@ private Q_SLOTS:
         window.Show();
         window.SSTab1->setCurrentIndex(2);
         InterestEntry &entry = *window.Frame3;
-        const auto browsing = [&entry] {
-            return !entry.txtInterest->isEnabled() && !entry.txtInterestDescription->isEnabled() &&
-                   entry.lstInterest->isEnabled() && !entry.CMdInterestCancel->isEnabled() &&
-                   entry.lblInterest->isHidden() && entry.lblInterestDescription->isHidden() &&
-                   entry.cmdAddInterest->text() == u"Add Interest";
+        const auto isInState = [&entry](bool entering, const QString &caption, double left) {
+            return entry.txtInterest->isEnabled() == entering &&
+                   entry.txtInterestDescription->isEnabled() == entering &&
+                   entry.lstInterest->isEnabled() != entering && entry.CMdInterestCancel->isEnabled() == entering &&
+                   entry.lblInterest->isVisible() == entering &&
+                   entry.lblInterestDescription->isVisible() == entering && entry.cmdAddInterest->text() == caption &&
+                   entry.cmdAddInterest->Left() == left;
         };
-        const auto entering = [&entry] {
-            return entry.txtInterest->isEnabled() && entry.txtInterestDescription->isEnabled() &&
-                   !entry.lstInterest->isEnabled() && entry.CMdInterestCancel->isEnabled() &&
-                   entry.lblInterest->isVisible() && entry.cmdAddInterest->text() == u"Save";
-        };
-        QVERIFY(browsing());
-        QCOMPARE(entry.cmdAddInterest->Left(), 4635.0);
+        QVERIFY(isInState(false, u"Add Interest"_s, 4635));
         entry.cmdAddInterest->click();
-        QVERIFY(entering());
-        QCOMPARE(entry.cmdAddInterest->Left(), 3825.0);
+        QVERIFY(isInState(true, u"Save"_s, 3825));
         {
             BoxAnswers boxes({QMessageBox::Ok});
             entry.cmdAddInterest->click();
             QCOMPARE(boxes.seen[0].text, u"Invalid Interest"_s);
-            QCOMPARE(boxes.seen[0].title, u"Tolmark"_s);
-            QCOMPARE(boxes.seen[0].icon, QMessageBox::Critical);
         }
-        QVERIFY(entering());
+        QVERIFY(isInState(true, u"Save"_s, 3825));
         entry.txtInterest->setText(u"Chess"_s);
         entry.CMdInterestCancel->click();
-        QVERIFY(browsing());
-        QCOMPARE(entry.cmdAddInterest->Left(), 4640.0);
+        QVERIFY(isInState(false, u"Add Interest"_s, 4640));
         QCOMPARE(entry.lstInterest->ListItems.Count(), 0);
         QVERIFY(entry.txtInterest->text().isEmpty());
         addInterest(window, u"Chess"_s, u"x"_s);
-        QVERIFY(browsing());
+        QVERIFY(isInState(false, u"Add Interest"_s, 4640));
         QCOMPARE(entry.lstInterest->ListItems(1).SubItems(1), u"x"_s);
     }
 
