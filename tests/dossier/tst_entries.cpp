@@ -332,6 +332,15 @@ private Q_SLOTS:
         QCOMPARE(tab.lstPhoneNotes->ListItems.Count(), 2);
     }
 
+    void aDoubleClickOnTheEmptyListOfNotesEndsInTheReport()
+    {
+        CaughtErrors errors;
+        OpenDossier dossier;
+        dossier.turnTo(dossier->Frame6);
+        QTest::mouseDClick(dossier->Frame6->lstPhoneNotes->viewport(), Qt::LeftButton);
+        QCOMPARE(errors.takeNumber(), 91);
+    }
+
 private:
     std::optional<DataStoreFolder> m_folder;
 };
