@@ -2,7 +2,6 @@
 #include "benchmarks/Files.h"
 #include "benchmarks/RawStore.h"
 #include "benchmarks/Statements.h"
-#include "dossier/NewMemberStatements.h"
 #include "platform/data/sql/Translation.h"
 
 #include <benchmark/benchmark.h>
@@ -18,8 +17,10 @@ QString listStatement()
 
 QString insertStatement()
 {
-    return insertMemberStatement({u"Ada"_s, u"M."_s, u"Adams"_s, u"12 Main Street"_s, u"Apt. 3"_s, u"Springfield"_s,
-                                  u"IL"_s, u"62701"_s, u"217-555-0142"_s, u"217-555-0143"_s, u"ada@example.org"_s});
+    return u"INSERT INTO MemberInformation (FirstName, MiddleName, LastName, "
+           " AddressOne, AddressTwo, City, State, Zip, HomePhone, CellPhone, EMailAddress)"
+           "values ('Ada','M.','Adams','12 Main Street','Apt. 3','Springfield','IL','62701','217-555-0142',"
+           "'217-555-0143','ada@example.org')"_s;
 }
 
 void translating(benchmark::State &state, const QString &statement)

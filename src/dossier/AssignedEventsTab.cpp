@@ -1,17 +1,34 @@
 #include "dossier/AssignedEventsTab.h"
 
 #include "dossier/RowDeletion.h"
-#include "parts/RowTexts.h"
+#include "parts/ListedColumns.h"
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/MsgBox.h"
+#include "platform/runtime/Conversion.h"
 #include "shell/store/CLsDataBaseConnection.h"
 
+#include <array>
 #include <tuple>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
 using desktop::ListBox;
 using desktop::TextBox;
+
+namespace {
+
+// "Acutal" is spelled so on the screen and kept, as every text that users know.
+constexpr std::array eventColumns{
+    ListedColumn{.header = u"Event Id", .column = u"EventMemberInfoId"},
+    ListedColumn{.header = u"Event Name", .column = u"EventName", .width = 2100},
+    ListedColumn{.header = u"Acutal Time Started", .column = u"EventActualStartTime", .width = 2100},
+    ListedColumn{.header = u"Actual Time Finished", .column = u"EventActualEndTime", .width = 2100},
+    ListedColumn{.header = u"Actual Date", .column = u"EventActualDate"},
+    ListedColumn{.header = u"Event Comment", .column = u"EventComments"},
+};
+
+} // namespace
 
 AssignedEventsTab::AssignedEventsTab(QWidget *parent, Dossier &dossier)
     : Frame(parent, u"Frame7", u"Member's Events"_s), lstEvent(new desktop::ListView(this, u"lstEvent")),
@@ -29,11 +46,7 @@ AssignedEventsTab::AssignedEventsTab(QWidget *parent, Dossier &dossier)
 void AssignedEventsTab::setUpList()
 {
     lstEvent->setAccessibleName(u"Assigned events"_s);
-    for (const QString &header : {u"Event Id"_s, u"Event Name"_s, u"Acutal Time Started"_s, u"Actual Time Finished"_s,
-                                  u"Actual Date"_s, u"Event Comment"_s})
-        lstEvent->ColumnHeaders.Add(header);
-    for (int column : {2, 3, 4})
-        lstEvent->ColumnHeaders.setWidth(column, 2100);
+    setUpHeaders(*lstEvent, eventColumns);
 }
 
 void AssignedEventsTab::setUpEntry()
@@ -55,7 +68,7 @@ void AssignedEventsTab::setUpEntry()
     cmdEventCancel = m_area.addEndingButton(u"cmdEventCancel", u"Cancel"_s);
     butCloseEvent = m_area.addCloseButton(u"butCloseEvent", u"Close"_s);
     m_area.beginBrowsing();
-    lblEventActualTimeFinished->show(); // this one shows until the first entry has ended
+    lblEventActualTimeFinished->show(); // kept so: it hides with the others from the end of the first entry on
 }
 
 void AssignedEventsTab::setUpMenu()
@@ -89,16 +102,7 @@ void AssignedEventsTab::loadAssignedEvents()
     data::Recordset events =
         store.CreateRecordset(u"SELECT * FROM EventMemberInfo WHERE(MemberId="_s + m_dossier.member() + u")"_s);
     lstEvent->setEnabled(true);
-    lstEvent->ListItems.Clear();
-    addItems(*lstEvent, events, [](desktop::ListItem &item, data::Recordset &event) {
-        putSubItem(item, 0, event[u"EventMemberInfoId"]);
-        item.Tag = item.Text();
-        putSubItem(item, 1, event[u"EventName"]);
-        putSubItem(item, 2, event[u"EventActualStartTime"]);
-        putSubItem(item, 3, event[u"EventActualEndTime"]);
-        putSubItem(item, 4, event[u"EventActualDate"]);
-        putSubItem(item, 5, event[u"EventComments"]);
-    });
+    fillList(*lstEvent, events, u"EventMemberInfoId", eventColumns, Keyed::LinesWithFirstCell);
     events.Close();
     store.DbClose();
 }
@@ -108,16 +112,17 @@ void AssignedEventsTab::butAssignEvent_Click()
     m_area.enter();
 }
 
-// Start and date change places on their way into the boxes; that is how the window is known. Who saves without changing
-// them back has them exchanged in the row.
+// The start goes into the date's box and the date into the start's, so that saving without exchanging them exchanges
+// them in the row. It is kept so because users know it and put the two right by hand.
 void AssignedEventsTab::mnuEditEvent_Click()
 {
     const desktop::ListItem &item = *lstEvent->SelectedItem();
-    lstEventSelect->setText(item.SubItems(1));
-    txtEventActualDate->setText(item.SubItems(2));
-    txtEventActualTimeFinished->setText(item.SubItems(3));
-    txtEventActualTimeStarted->setText(item.SubItems(4));
-    txtEventComments->setText(item.SubItems(5));
+    const auto text = [&item](QStringView column) { return textOf(item, eventColumns, column); };
+    lstEventSelect->setText(text(u"EventName"));
+    txtEventActualDate->setText(text(u"EventActualStartTime"));
+    txtEventActualTimeFinished->setText(text(u"EventActualEndTime"));
+    txtEventActualTimeStarted->setText(text(u"EventActualDate"));
+    txtEventComments->setText(text(u"EventComments"));
     m_area.enter();
     CmdEventSave->Tag = item.Tag;
 }

@@ -1,8 +1,8 @@
-// The events that the member attended, with start, finish and day as they really were, and a comment. An assignment
-// holds the event's name, not its key.
+// The events that the member attended, with actual start, finish and date, and a comment, all free text. A row holds
+// the event's name, not its key.
 //
 // Adding and changing share one entry area; the Tag of its Save button holds the key of the row that is changed. The
-// events on offer are those of the moment when the window was opened.
+// events to choose from are read once, when the window loads.
 #pragma once
 
 #include "dossier/Dossier.h"
@@ -19,7 +19,7 @@ public:
     desktop::CommandButton *butAssignEvent;
     desktop::Label *lblEventSelect;
     desktop::ListBox *lstEventSelect;
-    desktop::ListBox *lstEventSelectId; // the keys; it lies under the names and nothing reads it
+    desktop::ListBox *lstEventSelectId; // the events' keys, covered by their names; nothing reads them
     desktop::Label *lblEventActualTimeStarted;
     desktop::TextBox *txtEventActualTimeStarted;
     desktop::Label *lblEventActualTimeFinished;

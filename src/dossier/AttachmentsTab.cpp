@@ -1,10 +1,11 @@
 #include "dossier/AttachmentsTab.h"
 
 #include "dossier/RowDeletion.h"
-#include "parts/RowTexts.h"
+#include "parts/ListedColumns.h"
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/MsgBox.h"
 #include "platform/runtime/Application.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/ErrorHandling.h"
 #include "platform/runtime/Files.h"
 #include "shell/store/CLsDataBaseConnection.h"
@@ -15,6 +16,8 @@
 #include <QHeaderView>
 #include <QVBoxLayout>
 
+#include <array>
+
 using namespace Qt::Literals::StringLiterals;
 
 using desktop::CommandButton;
@@ -22,9 +25,15 @@ using runtime::Value;
 
 namespace {
 
+constexpr std::array attachmentColumns{
+    ListedColumn{.header = u"Attachment Name", .column = u"AttachmentsName"},
+    ListedColumn{.header = u"Date Added", .column = u"AttachmentsDate"},
+    ListedColumn{.header = u"Version Number", .column = u"AttachmentVersion"},
+};
+
 constexpr int columnWidth = 200; // logical pixels
 
-// The rows are those of one name, the newest version first. Error 6 behind version 32767.
+// The rows are those of one name, the newest version first. Error 6 when that is version 32767.
 Value nextVersion(data::Recordset &versions)
 {
     if (versions.Eof())
@@ -101,18 +110,8 @@ void AttachmentsTab::load()
     data::Recordset attachments = store.CreateRecordset(listStatement());
     lstAttachement->setEnabled(true);
     lstAttachement->ListItems.Clear();
-    lstAttachement->ColumnHeaders.Clear();
-    for (const QString &header : {u"Attachment Name"_s, u"Date Added"_s, u"Version Number"_s})
-        lstAttachement->ColumnHeaders.Add(header);
-    addItems(*lstAttachement, attachments, [](desktop::ListItem &item, data::Recordset &attachment) {
-        const Value name = attachment[u"AttachmentsName"].Value();
-        if (!name.isNull()) {
-            item.setText(runtime::toText(name));
-            item.Tag = runtime::joinedText(attachment[u"AttachmentsId"].Value());
-        }
-        putSubItem(item, 1, attachment[u"AttachmentsDate"]);
-        putSubItem(item, 2, attachment[u"AttachmentVersion"]);
-    });
+    setUpHeaders(*lstAttachement, attachmentColumns);
+    fillList(*lstAttachement, attachments, u"AttachmentsId", attachmentColumns, Keyed::LinesWithFirstCell);
     attachments.Close();
     store.DbClose();
 }

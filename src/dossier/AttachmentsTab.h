@@ -1,7 +1,7 @@
 // The member's files, kept in the data store. Every upload is a row of its own with the next version of the file's
 // name; the numbering of a name is common to all members. An older version stays until it is deleted by itself.
 //
-// Adding, listing and viewing let a failure end the program; what fails in a drop gives a message, in saving nothing.
+// A failure of adding, listing or viewing ends the program. One of a drop gives a message, one of saving says nothing.
 #pragma once
 
 #include "dossier/Dossier.h"
@@ -22,7 +22,8 @@ public:
     desktop::CommandButton *butCLoseAttachment;
     desktop::PopupMenu *MnuViewOptions;
 
-    // With Check1 one line for each name: the highest version, the latest day and the highest key, each by itself.
+    // With Check1 one line for each name. Its version, date and key are the highest of all rows of the name, each taken
+    // by itself: they may come from different rows.
     void load();
     void Check1_Click();
     void butAddAttachement_Click();

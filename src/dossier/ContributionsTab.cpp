@@ -1,18 +1,38 @@
 #include "dossier/ContributionsTab.h"
 
 #include "dossier/RowDeletion.h"
-#include "parts/RowTexts.h"
+#include "parts/ListedColumns.h"
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/MsgBox.h"
+#include "platform/runtime/Conversion.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/NumberText.h"
 #include "shell/store/CLsDataBaseConnection.h"
 
+#include <array>
 #include <tuple>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
 using runtime::Value;
+
+namespace {
+
+constexpr std::array contributionColumns{
+    ListedColumn{.header = u"Contribution Date", .column = u"ContributionDate", .width = 2400},
+    ListedColumn{.header = u"Contribution Amount",
+                 .column = u"ContributionAmount",
+                 .width = 2400,
+                 .cell =
+                     [](data::Recordset &row) {
+                         const Value amount = row[u"ContributionAmount"].Value();
+                         return amount.isNull() ? Value() : Value(runtime::FormatCurrency(amount));
+                     }},
+    ListedColumn{.header = u"Contribution Note", .column = u"ContributionNotes"},
+};
+
+} // namespace
 
 ContributionsTab::ContributionsTab(QWidget *parent, Dossier &dossier)
     : Frame(parent, u"Frame5", u"Member's Contribution"_s),
@@ -33,11 +53,7 @@ ContributionsTab::ContributionsTab(QWidget *parent, Dossier &dossier)
 void ContributionsTab::setUpContent()
 {
     lstContributions->setAccessibleName(u"Contributions"_s);
-    lstContributions->ColumnHeaders.Add(u"Contribution Date"_s);
-    lstContributions->ColumnHeaders.Add(u"Contribution Amount"_s);
-    lstContributions->ColumnHeaders.Add(u"Contribution Note"_s);
-    lstContributions->ColumnHeaders.setWidth(1, 2400);
-    lstContributions->ColumnHeaders.setWidth(2, 2400);
+    setUpHeaders(*lstContributions, contributionColumns);
     butAddContributions = m_area.addBeginningButton(u"butAddContributions", u"Add Contribution"_s);
     std::tie(lblCOntribution, txtContribution) =
         m_area.addRow<desktop::TextBox>(u"lblCOntribution", u"Contribution"_s, u"txtContribution");
@@ -54,18 +70,7 @@ void ContributionsTab::load()
     CLsDataBaseConnection store;
     data::Recordset contributions =
         store.CreateRecordset(u"SELECT * FROM Contributions WHERE (MemberId ="_s + m_dossier.member() + u")"_s);
-    lstContributions->ListItems.Clear();
-    addItems(*lstContributions, contributions, [](desktop::ListItem &item, data::Recordset &contribution) {
-        const Value date = contribution[u"ContributionDate"].Value();
-        if (!date.isNull()) {
-            item.setText(runtime::toText(date));
-            item.Tag = runtime::joinedText(contribution[u"ContributionId"].Value());
-        }
-        const Value amount = contribution[u"ContributionAmount"].Value();
-        if (!amount.isNull())
-            item.setSubItem(1, runtime::FormatCurrency(amount));
-        putSubItem(item, 2, contribution[u"ContributionNotes"]);
-    });
+    fillList(*lstContributions, contributions, u"ContributionId", contributionColumns, Keyed::LinesWithFirstCell);
     contributions.Close();
     store.DbClose();
 }
@@ -80,6 +85,19 @@ void ContributionsTab::CmdCancelContribution_Click()
     m_area.browse();
 }
 
+QString ContributionsTab::insertStatement() const
+{
+    return u"INSERT INTO Contributions (ContributionAmount, ContributionNotes, MemberId) values ('"_s +
+           txtContribution->text() + u"','"_s + txtContributionNote->text() + u"',"_s + m_dossier.member() + u")"_s;
+}
+
+QString ContributionsTab::updateStatement(const QString &key) const
+{
+    return u"UPDATE Contributions SET Contributions.ContributionAmount = '"_s + txtContribution->text() +
+           u"', Contributions.ContributionNotes = '"_s + txtContributionNote->text() +
+           u"' WHERE (Contributions.ContributionId ="_s + key + u");"_s;
+}
+
 void ContributionsTab::cmdSaveContribution_Click()
 {
     if (txtContribution->text().isEmpty()) {
@@ -90,14 +108,8 @@ void ContributionsTab::cmdSaveContribution_Click()
         desktop::MsgBox(u"Invalid contribution amount"_s, desktop::vbCritical, u"Tolmark"_s);
         return;
     }
-    if (const QString key = std::exchange(cmdSaveContribution->Tag, {}); !key.isEmpty())
-        m_dossier.run(u"UPDATE Contributions SET Contributions.ContributionAmount = '"_s + txtContribution->text() +
-                      u"', Contributions.ContributionNotes = '"_s + txtContributionNote->text() +
-                      u"' WHERE (Contributions.ContributionId ="_s + key + u");"_s);
-    else
-        m_dossier.run(u"INSERT INTO Contributions (ContributionAmount, ContributionNotes, MemberId) values ('"_s +
-                      txtContribution->text() + u"','"_s + txtContributionNote->text() + u"',"_s + m_dossier.member() +
-                      u")"_s);
+    const QString key = std::exchange(cmdSaveContribution->Tag, {});
+    m_dossier.run(key.isEmpty() ? insertStatement() : updateStatement(key));
     m_area.browse();
     load();
 }

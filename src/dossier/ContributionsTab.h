@@ -1,5 +1,5 @@
 // What the member gave: listed, added and deleted. The amount goes to the store as it was typed; the day is the
-// store's.
+// column's default, the present one.
 #pragma once
 
 #include "dossier/Dossier.h"
@@ -18,7 +18,7 @@ public:
     desktop::TextBox *txtContribution;
     desktop::Label *lblContributionNote;
     desktop::MultilineTextBox *txtContributionNote;
-    // A key in its Tag turns the save into a change of that row. Nothing sets it so far.
+    // With a row's key in its Tag, saving changes that row. No handler sets it: a contribution cannot be edited yet.
     desktop::CommandButton *cmdSaveContribution;
     desktop::CommandButton *CmdCancelContribution;
     desktop::CommandButton *butCloseContributions;
@@ -32,6 +32,8 @@ public:
 
 private:
     void setUpContent();
+    QString insertStatement() const;
+    QString updateStatement(const QString &key) const;
 
     Dossier &m_dossier;
     EntryArea m_area;

@@ -26,8 +26,8 @@ DisplayMembers::DisplayMembers()
 
 void DisplayMembers::setUpTabs()
 {
-    SSTab1->addPage(Frame1 = new MemberTab(SSTab1, *this), u"Member Information"_s);
-    SSTab1->addPage(Frame2 = new EmployerTab(SSTab1, *this), u"Employer"_s);
+    SSTab1->addPage(Frame1 = new RowTab(SSTab1, *this, RowTab::member()), u"Member Information"_s);
+    SSTab1->addPage(Frame2 = new RowTab(SSTab1, *this, RowTab::employer()), u"Employer"_s);
     SSTab1->addPage(Frame7 = new AssignedEventsTab(SSTab1, *this), u"Event"_s);
     SSTab1->addPage(Frame5 = new ContributionsTab(SSTab1, *this), u"Contributions"_s);
     SSTab1->addPage(Frame4 = new AttachmentsTab(SSTab1, *this, *CommonDialog1), u"Attachements"_s);
@@ -39,7 +39,7 @@ void DisplayMembers::setUpTabs()
 void DisplayMembers::setUpCloseButtons()
 {
     for (desktop::CommandButton *close :
-         {Frame1->butCloseMember, Frame2->butEmployerClose, Frame7->butCloseEvent, Frame5->butCloseContributions,
+         {Frame1->butClose, Frame2->butClose, Frame7->butCloseEvent, Frame5->butCloseContributions,
           Frame4->butCLoseAttachment, Frame3->butCloseInterest, Frame6->butClosePhone})
         desktop::on(close, &QPushButton::clicked, this, &DisplayMembers::Unload);
 }

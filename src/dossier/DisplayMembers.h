@@ -1,16 +1,15 @@
 // Everything known of one member, on seven tabs. Several can stand open at once, also of one member.
 //
-// An opener makes the window, sets MemberId, sets the caption, which loads it, and shows it. Nothing is kept locked
-// meanwhile: the later Update wins. Apart from what a tab says of its own handlers, a failure ends the program.
+// An opener makes the window, sets MemberId, sets the caption, which loads it, and shows it. Rows are not locked: of
+// two dossiers of one member the later Update wins. A failure ends the program, unless a tab says otherwise.
 #pragma once
 
 #include "dossier/AssignedEventsTab.h"
 #include "dossier/AttachmentsTab.h"
 #include "dossier/ContributionsTab.h"
-#include "dossier/EmployerTab.h"
 #include "dossier/InterestsTab.h"
-#include "dossier/MemberTab.h"
 #include "dossier/NotesTab.h"
+#include "dossier/RowTab.h"
 #include "platform/desktop/Form.h"
 
 class DisplayMembers : public desktop::Form, public Dossier
@@ -25,8 +24,8 @@ public:
 
     desktop::TabbedDialog *SSTab1;
     desktop::CommonDialog *CommonDialog1;
-    MemberTab *Frame1;
-    EmployerTab *Frame2;
+    RowTab *Frame1;
+    RowTab *Frame2;
     AssignedEventsTab *Frame7;
     ContributionsTab *Frame5;
     AttachmentsTab *Frame4;

@@ -1,5 +1,5 @@
-// What the tabs of one dossier share: whose dossier it is, and the connection and command that carry the statements of
-// its actions. Each action opens the sequence, uses it and closes it before it ends.
+// What the tabs of one dossier share: the key of the member, and the command sequence that runs the statements of their
+// actions. Each action opens the sequence, uses it and closes it.
 #pragma once
 
 #include "shell/store/CommandSequence.h"
@@ -11,9 +11,9 @@ struct Dossier
     qint16 MemberId = 0;
     CommandSequence sequence;
 
-    // As it stands in a statement.
+    // The key as statements write it.
     QString member() const { return QString::number(MemberId); }
-    // Runs one statement from the opening of the sequence to its close.
+    // Opens the sequence, runs the one statement and closes the sequence.
     void run(const QString &statement)
     {
         sequence.open();

@@ -57,7 +57,7 @@ void EntryArea::addUnderLastBox(QWidget &widget)
     m_grid->addWidget(&widget, m_rows - 1, 1);
     widget.setFocusPolicy(Qt::NoFocus);
     widget.lower();
-    m_entering << &widget;
+    widget.setEnabled(false);
 }
 
 desktop::CommandButton *EntryArea::addBeginningButton(QAnyStringView name, const QString &caption)

@@ -1,7 +1,7 @@
-// A tab with a list and, below it, an area for the entry of one line. It is in one of two states: browsing, with the
-// list in use, or entering, with the boxes in use and their labels shown.
+// A tab with a list and, below it, boxes for the entry of one line. It is either browsing, with the list enabled and
+// the boxes' labels hidden, or entering, with the boxes enabled and their labels shown.
 //
-// The frame owns all controls. Labels keep their place while they are hidden, so that nothing jumps.
+// The frame owns all controls. A hidden label keeps its place, so that the boxes do not move.
 #pragma once
 
 #include "platform/desktop/Controls.h"
@@ -20,7 +20,7 @@ public:
     // The list fills the top.
     EntryArea(desktop::Frame &frame, desktop::ListView &list);
 
-    // The next row, top down: a label and its box. Tab follows the order of the calls.
+    // Adds a row with a label and its box below the last one. Tab follows the order of the calls.
     template <class Box>
     std::pair<desktop::Label *, Box *> addRow(QAnyStringView labelName, const QString &caption, QAnyStringView name,
                                               Lines lines = Lines::One)
@@ -31,21 +31,23 @@ public:
         return {label, box};
     }
     void addWidget(QWidget &widget);
-    // Covered by the box of the last row, and in use as it is.
+    // Covered by the box of the last row and never enabled.
     void addUnderLastBox(QWidget &widget);
-    // A row with one button at its left, in use while browsing.
+    // Adds a row with a button that begins an entry; enabled while browsing.
     desktop::CommandButton *addBeginningButton(QAnyStringView name, const QString &caption);
-    // The last row: what ends the entry, in use meanwhile, and behind it what closes the window, in use while browsing.
+    // Buttons in the bottom row, from the left: those that end an entry, enabled while entering, and the one that
+    // closes the window, enabled while browsing.
     desktop::CommandButton *addEndingButton(QAnyStringView name, const QString &caption);
     desktop::CommandButton *addCloseButton(QAnyStringView name, const QString &caption);
 
-    // What else is in use only then.
+    // Makes another control enabled while entering and disabled while browsing.
     void useWhileEntering(QWidget &widget) { m_entering << &widget; }
 
-    // At start, before anyone has the focus.
+    // The state at start. Unlike browse() it leaves the focus alone.
     void beginBrowsing();
-    // The keyboard goes on in the first box, and afterwards where the entry was begun.
+    // Puts the focus into the first box.
     void enter();
+    // Puts the focus back where it was when the entry was begun.
     void browse();
 
 private:

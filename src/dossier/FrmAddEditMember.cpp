@@ -1,7 +1,5 @@
 #include "dossier/FrmAddEditMember.h"
 
-#include "dossier/StatesList.h"
-#include "parts/FieldGrid.h"
 #include "platform/runtime/Conversion.h"
 #include "shell/store/CommandSequence.h"
 
@@ -11,55 +9,52 @@
 using namespace Qt::Literals::StringLiterals;
 
 using desktop::CommandButton;
+using desktop::Frame;
+
+namespace {
+
+// Filled in by MemberBoxes.
+constexpr QStringView insertMember = u"INSERT INTO MemberInformation (FirstName, MiddleName, LastName, "
+                                     " AddressOne, AddressTwo, City, State, Zip, HomePhone, CellPhone, EMailAddress)"
+                                     "values ('{FirstName}','{MiddleName}','{LastName}','{AddressOne}','{AddressTwo}',"
+                                     "'{City}','{State}','{Zip}','{HomePhone}','{CellPhone}','{EMailAddress}')";
+
+// Finds the row that was just written, to learn its key. The zip is not compared; an earlier member who is the same in
+// all else may be found in its place.
+constexpr QStringView findMember = u"select * from memberinformation where (FirstName = '{FirstName}"
+                                   "') and (MiddleName = '{MiddleName}"
+                                   "') and (LastName = '{LastName}"
+                                   "') and (addressOne = '{AddressOne}"
+                                   "') and (AddressTwo = '{AddressTwo}"
+                                   "') and (City = '{City}"
+                                   "') and (State = '{State}"
+                                   "') and (HomePhone = '{HomePhone}"
+                                   "') and (CellPhone = '{CellPhone}"
+                                   "') and (EMailaddress = '{EMailAddress}')";
+
+constexpr QStringView insertEmployer = u"INSERT INTO EmployerInformation (Name, AddressOne, AddressTwo, City, Zip, "
+                                       " PhoneNumber, EmailAddress, State, MemberId, Extension) values ('"
+                                       "{Name}','{AddressOne}','{AddressTwo}','{City}','{Zip}',"
+                                       "'{PhoneNumber}','{EMailAddress}','{State}','{MemberId}','{Extension}')";
+
+} // namespace
 
 // Tab follows the order in which the controls are made.
 FrmAddEditMember::FrmAddEditMember()
-    : Form(Place::InFrame, u"FrmAddEditMember"), SSTab1(new desktop::TabbedDialog(this, u"SSTab1"))
+    : Form(Place::InFrame, u"FrmAddEditMember"), SSTab1(new desktop::TabbedDialog(this, u"SSTab1")),
+      Frame1(new Frame(SSTab1, u"Frame1", u"Member Infromation"_s)),
+      Frame2(new Frame(SSTab1, u"Frame2", u"Employer Infromation"_s)), Frame3(new InterestEntry(SSTab1)),
+      m_member(Frame1, memberFields(), MemberBoxes::Window::Entry),
+      m_employer(Frame2, employerFields(), MemberBoxes::Window::Entry)
 {
     setDesignCaption(u"Tolmark Add/Edit Member Infromation"_s);
-    SSTab1->addPage(setUpMember(), u"Member Information"_s);
-    SSTab1->addPage(setUpEmployer(), u"Employer Information"_s);
-    Frame3 = new InterestEntry(SSTab1);
+    SSTab1->addPage(Frame1, u"Member Information"_s);
+    SSTab1->addPage(Frame2, u"Employer Information"_s);
     SSTab1->addPage(Frame3, u"Interest"_s);
     setUpButtons();
+    m_member.setFocusToFirst();
     desktop::on(Command1, &QPushButton::clicked, this, &FrmAddEditMember::Command1_Click);
     desktop::on(Command2, &QPushButton::clicked, this, &FrmAddEditMember::Command2_Click);
-}
-
-QWidget *FrmAddEditMember::setUpMember()
-{
-    auto *frame = new desktop::Frame(SSTab1, u"Frame1", u"Member Infromation"_s);
-    FieldGrid grid(frame);
-    txtMemberFirstName = grid.addText(u"txtMemberFirstName", u"First Name"_s);
-    txtMemberMiddleName = grid.addText(u"txtMemberMiddleName", u"Middle Name"_s);
-    txtMemberLastName = grid.addText(u"txtMemberLastName", u"Last Name"_s);
-    txtMemberAddressOne = grid.addText(u"txtMemberAddressOne", u"Address One"_s);
-    txtMemberAddressTwo = grid.addText(u"txtMemberAddressTwo", u"Address Two"_s);
-    txtCity = grid.addText(u"txtCity", u"City"_s);
-    LstState = grid.addOneLineList(u"LstState", u"State"_s, statesList());
-    txtMemberZip = grid.addText(u"txtMemberZip", u"Zip"_s);
-    txtMemberHomePhone = grid.addText(u"txtMemberHomePhone", u"Home Phone"_s);
-    txtMemberCellPhone = grid.addText(u"txtMemberCellPhone", u"Cell Phone"_s);
-    txtMemberWorkExtension = grid.addText(u"txtMemberWorkExtension", u"Work Phone"_s);
-    txtMemberEmail = grid.addText(u"txtMemberEmail", u"EMail Address"_s);
-    return frame;
-}
-
-QWidget *FrmAddEditMember::setUpEmployer()
-{
-    auto *frame = new desktop::Frame(SSTab1, u"Frame2", u"Employer Infromation"_s);
-    FieldGrid grid(frame);
-    txtEmployerName = grid.addText(u"txtEmployerName", u"Employer Name"_s);
-    txtEmployerAddressOne = grid.addText(u"txtEmployerAddressOne", u"Address One"_s);
-    txtEmployerAddressTwo = grid.addText(u"txtEmployerAddressTwo", u"Address Two"_s);
-    txtEmployerCity = grid.addText(u"txtEmployerCity", u"City"_s);
-    LstEmployerState = grid.addOneLineList(u"LstEmployerState", u"State"_s, statesList());
-    txtEmployerZip = grid.addText(u"txtEmployerZip", u"Zip"_s);
-    txtEmployerMainPhone = grid.addText(u"txtEmployerMainPhone", u"Main Phone"_s);
-    txtEmployerExtension = grid.addText(u"txtEmployerExtension", u"Extension"_s);
-    txtEmployerCellPhone = grid.addText(u"txtEmployerCellPhone", u"Cell Phone"_s);
-    txtEmployerEmail = grid.addText(u"txtEmployerEmail", u"EMail Address"_s);
-    return frame;
 }
 
 void FrmAddEditMember::setUpButtons()
@@ -73,34 +68,11 @@ void FrmAddEditMember::setUpButtons()
     auto *whole = new QVBoxLayout(this);
     whole->addWidget(SSTab1);
     whole->addLayout(buttons);
-    txtMemberFirstName->setFocus();
-}
-
-MemberValues FrmAddEditMember::memberValues() const
-{
-    return {txtMemberFirstName->text(),
-            txtMemberMiddleName->text(),
-            txtMemberLastName->text(),
-            txtMemberAddressOne->text(),
-            txtMemberAddressTwo->text(),
-            txtCity->text(),
-            LstState->Text(),
-            txtMemberZip->text(),
-            txtMemberHomePhone->text(),
-            txtMemberCellPhone->text(),
-            txtMemberEmail->text()};
-}
-
-EmployerValues FrmAddEditMember::employerValues() const
-{
-    return {txtEmployerName->text(),      txtEmployerAddressOne->text(), txtEmployerAddressTwo->text(),
-            txtEmployerCity->text(),      LstEmployerState->Text(),      txtEmployerZip->text(),
-            txtEmployerMainPhone->text(), txtEmployerExtension->text(),  txtEmployerEmail->text()};
 }
 
 void FrmAddEditMember::Command1_Click()
 {
-    if (m_saved || txtMemberFirstName->text().isEmpty() || txtMemberLastName->text().isEmpty())
+    if (m_saved || m_member.text(u"FirstName").isEmpty() || m_member.text(u"LastName").isEmpty())
         return;
     save();
     m_saved = true;
@@ -111,15 +83,15 @@ void FrmAddEditMember::save()
 {
     CommandSequence sequence;
     sequence.open();
-    sequence.execute(insertMemberStatement(memberValues()));
-    data::Recordset member = sequence.execute(findMemberStatement(memberValues()));
+    sequence.execute(m_member.filledIn(insertMember));
+    data::Recordset member = sequence.execute(m_member.filledIn(findMember));
     const QString memberId = runtime::toText(member[u"MemberId"].Value());
     member.Close();
     member.Cancel();
-    sequence.execute(insertEmployerStatement(employerValues(), memberId));
+    sequence.execute(m_employer.filledIn(insertEmployer, memberId));
     const auto &interests = Frame3->lstInterest->ListItems;
     for (int index = 1; index <= interests.Count(); ++index) {
-        sequence.execute(insertInterestStatement(interests(index).Text(), interests(index).SubItems(1), memberId));
+        sequence.execute(insertInterest(interests(index).Text(), interests(index).SubItems(1), memberId));
         sequence.command.Cancel();
     }
     sequence.close();

@@ -1,11 +1,12 @@
-// A new member is keyed in, with employer and interests, and written in one action. It only ever adds.
+// A new member is keyed in, with employer and interests, and stored in one action. Despite its caption the window never
+// changes a member who is stored already.
 //
-// No failure is held back: a value with an apostrophe breaks its statement and ends the program; rows written before
-// stay.
+// No failure is held back: a value with an apostrophe breaks its statement and ends the program. The statements do not
+// stand in a transaction, so the rows stored before the failure stay.
 #pragma once
 
 #include "dossier/InterestEntry.h"
-#include "dossier/NewMemberStatements.h"
+#include "dossier/MemberBoxes.h"
 #include "platform/desktop/Form.h"
 
 class FrmAddEditMember : public desktop::Form
@@ -15,45 +16,20 @@ public:
     FrmAddEditMember();
 
     desktop::TabbedDialog *SSTab1;
+    desktop::Frame *Frame1;
+    desktop::Frame *Frame2;
+    InterestEntry *Frame3;
     desktop::CommandButton *Command1;
     desktop::CommandButton *Command2;
-
-    desktop::TextBox *txtMemberFirstName;
-    desktop::TextBox *txtMemberMiddleName;
-    desktop::TextBox *txtMemberLastName;
-    desktop::TextBox *txtMemberAddressOne;
-    desktop::TextBox *txtMemberAddressTwo;
-    desktop::TextBox *txtCity;
-    desktop::ListBox *LstState;
-    desktop::TextBox *txtMemberZip;
-    desktop::TextBox *txtMemberHomePhone;
-    desktop::TextBox *txtMemberCellPhone;
-    desktop::TextBox *txtMemberWorkExtension; // stored nowhere
-    desktop::TextBox *txtMemberEmail;
-
-    desktop::TextBox *txtEmployerName;
-    desktop::TextBox *txtEmployerAddressOne;
-    desktop::TextBox *txtEmployerAddressTwo;
-    desktop::TextBox *txtEmployerCity;
-    desktop::ListBox *LstEmployerState;
-    desktop::TextBox *txtEmployerZip;
-    desktop::TextBox *txtEmployerMainPhone;
-    desktop::TextBox *txtEmployerExtension;
-    desktop::TextBox *txtEmployerCellPhone; // stored nowhere
-    desktop::TextBox *txtEmployerEmail;
-
-    InterestEntry *Frame3;
 
     void Command1_Click();
     void Command2_Click();
 
 private:
-    QWidget *setUpMember();
-    QWidget *setUpEmployer();
     void setUpButtons();
-    MemberValues memberValues() const;
-    EmployerValues employerValues() const;
     void save();
 
+    MemberBoxes m_member;
+    MemberBoxes m_employer;
     bool m_saved = false;
 };

@@ -1,12 +1,9 @@
 #include "dossier/InterestEntry.h"
 
 #include "platform/desktop/ErrorReport.h"
-#include "platform/desktop/MsgBox.h"
 #include "platform/desktop/Twips.h"
 
-#include <QHeaderView>
-
-#include <tuple>
+#include <array>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -14,7 +11,12 @@ using desktop::CommandButton;
 
 namespace {
 
-// Twips. The button stands 5 twips further right after its first use than in the design.
+constexpr std::array interestColumns{
+    ListedColumn{.header = u"Interest", .width = 2700},
+    ListedColumn{.header = u"Description"},
+};
+
+// Twips. After its first use the button stands 5 twips to the right of where it was designed.
 constexpr double addLeftInDesign = 4635;
 constexpr double addLeftWhileEntering = 3825;
 constexpr double addLeftAfterwards = 4640;
@@ -23,31 +25,18 @@ constexpr double buttonTop = 0;
 
 } // namespace
 
-InterestEntry::InterestEntry(QWidget *parent)
-    : Frame(parent, u"Frame3", u"Member's Intereest"_s), lstInterest(new desktop::ListView(this, u"lstInterest")),
-      m_area(*this, *lstInterest)
+InterestEntry::InterestEntry(QWidget *parent) : InterestArea(parent, u"Member's Intereest"_s, interestColumns)
 {
-    setUpContent();
-    desktop::on(cmdAddInterest, &QPushButton::clicked, this, &InterestEntry::cmdAddInterest_Click);
-    desktop::on(CMdInterestCancel, &QPushButton::clicked, this, &InterestEntry::CMdInterestCancel_Click);
-}
-
-void InterestEntry::setUpContent()
-{
-    lstInterest->ColumnHeaders.Add(u"Interest"_s);
-    lstInterest->ColumnHeaders.Add(u"Description"_s);
-    lstInterest->header()->resizeSection(0, 180);
-    lstInterest->setAccessibleName(u"Interests"_s);
-    std::tie(lblInterest, txtInterest) = m_area.addRow<desktop::TextBox>(u"lblInterest", u"Interest"_s, u"txtInterest");
-    std::tie(lblInterestDescription, txtInterestDescription) = m_area.addRow<desktop::MultilineTextBox>(
-        u"lblInterestDescription", u"Interest Description"_s, u"txtInterestDescription", EntryArea::Lines::Several);
+    addBoxes();
     m_area.addWidget(*setUpButtons());
     m_area.useWhileEntering(*CMdInterestCancel);
     m_area.beginBrowsing();
     desktop::setTabOrder({lstInterest, txtInterest, txtInterestDescription, cmdAddInterest, CMdInterestCancel});
+    desktop::on(cmdAddInterest, &QPushButton::clicked, this, &InterestEntry::cmdAddInterest_Click);
+    desktop::on(CMdInterestCancel, &QPushButton::clicked, this, &InterestEntry::CMdInterestCancel_Click);
 }
 
-// The buttons stand at places of their own, since one of them moves.
+// The buttons have fixed places instead of a layout, since one of them moves.
 QWidget *InterestEntry::setUpButtons()
 {
     cmdAddInterest = new CommandButton(this, u"cmdAddInterest", u"Add Interest"_s);
@@ -68,13 +57,12 @@ QWidget *InterestEntry::setUpButtons()
 void InterestEntry::cmdAddInterest_Click()
 {
     if (!txtInterestDescription->isEnabled()) {
-        beginEntry();
+        enter();
+        cmdAddInterest->setLeft(addLeftWhileEntering);
         return;
     }
-    if (txtInterest->text().isEmpty()) {
-        desktop::MsgBox(u"Invalid Interest"_s, desktop::vbCritical, u"Tolmark"_s);
+    if (!isEntryValid())
         return;
-    }
     desktop::ListItem &item = lstInterest->ListItems.Add(txtInterest->text());
     item.setSubItem(1, txtInterestDescription->text());
     endEntry();
@@ -85,18 +73,8 @@ void InterestEntry::CMdInterestCancel_Click()
     endEntry();
 }
 
-void InterestEntry::beginEntry()
-{
-    cmdAddInterest->setText(u"Save"_s);
-    cmdAddInterest->setLeft(addLeftWhileEntering);
-    m_area.enter();
-}
-
 void InterestEntry::endEntry()
 {
-    m_area.browse();
-    cmdAddInterest->setText(u"Add Interest"_s);
-    txtInterest->clear();
-    txtInterestDescription->clear();
+    browse();
     cmdAddInterest->setLeft(addLeftAfterwards);
 }

@@ -2,30 +2,18 @@
 // once added can be neither changed nor removed here.
 #pragma once
 
-#include "dossier/EntryArea.h"
+#include "dossier/InterestArea.h"
 
-class InterestEntry : public desktop::Frame
+class InterestEntry : public InterestArea
 {
     Q_OBJECT
 public:
     explicit InterestEntry(QWidget *parent);
 
-    desktop::ListView *lstInterest;
-    desktop::Label *lblInterest;
-    desktop::TextBox *txtInterest;
-    desktop::Label *lblInterestDescription;
-    desktop::MultilineTextBox *txtInterestDescription;
-    desktop::CommandButton *cmdAddInterest;
-    desktop::CommandButton *CMdInterestCancel;
-
     void cmdAddInterest_Click();
     void CMdInterestCancel_Click();
 
 private:
-    void setUpContent();
     QWidget *setUpButtons();
-    void beginEntry();
     void endEntry();
-
-    EntryArea m_area;
 };

@@ -1,20 +1,25 @@
 #include "dossier/InterestsTab.h"
 
 #include "dossier/RowDeletion.h"
-#include "parts/RowTexts.h"
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/MsgBox.h"
 
-#include <tuple>
+#include <array>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
-using desktop::MultilineTextBox;
-using desktop::TextBox;
+namespace {
+
+constexpr std::array interestColumns{
+    ListedColumn{.header = u"Interest", .column = u"Interest", .width = 2700},
+    ListedColumn{.header = u"Interest Description", .column = u"InterestDescription"},
+};
+
+} // namespace
 
 InterestsTab::InterestsTab(QWidget *parent, Dossier &dossier)
-    : Frame(parent, u"Frame3", u"Member's Interest"_s), lstInterest(new desktop::ListView(this, u"lstInterest")),
-      m_dossier(dossier), m_area(*this, *lstInterest)
+    : InterestArea(parent, u"Member's Interest"_s, interestColumns), m_dossier(dossier)
 {
     setUpContent();
     setUpMenu();
@@ -26,14 +31,8 @@ InterestsTab::InterestsTab(QWidget *parent, Dossier &dossier)
 
 void InterestsTab::setUpContent()
 {
-    lstInterest->setAccessibleName(u"Interests"_s);
-    lstInterest->ColumnHeaders.Add(u"Interest"_s);
-    lstInterest->ColumnHeaders.Add(u"Interest Description"_s);
-    lstInterest->ColumnHeaders.setWidth(1, 2700);
     butAddInterest = m_area.addBeginningButton(u"butAddInterest", u"Add Interest"_s);
-    std::tie(lblInterest, txtInterest) = m_area.addRow<TextBox>(u"lblInterest", u"Interest"_s, u"txtInterest");
-    std::tie(lblInterestDescription, txtInterestDescription) = m_area.addRow<MultilineTextBox>(
-        u"lblInterestDescription", u"Interest Description"_s, u"txtInterestDescription", EntryArea::Lines::Several);
+    addBoxes();
     cmdAddInterest = m_area.addEndingButton(u"cmdAddInterest", u"Add Interest"_s);
     CMdInterestCancel = m_area.addEndingButton(u"CMdInterestCancel", u"Cancel"_s);
     butCloseInterest = m_area.addCloseButton(u"butCloseInterest", u"Close"_s);
@@ -58,29 +57,10 @@ void InterestsTab::load()
     lstInterest->ListItems.Clear();
     data::Recordset interests =
         sequence.execute(u"SELECT * FROM MemberInterest WHERE (MemberId="_s + m_dossier.member() + u")"_s);
-    addItems(*lstInterest, interests, [](desktop::ListItem &item, data::Recordset &interest) {
-        item.Tag = runtime::joinedText(interest[u"MemberInterestId"].Value());
-        putSubItem(item, 0, interest[u"Interest"]);
-        putSubItem(item, 1, interest[u"InterestDescription"]);
-    });
+    fillList(*lstInterest, interests, u"MemberInterestId", interestColumns);
     interests.Close();
     interests.Cancel();
     sequence.close();
-}
-
-void InterestsTab::enter()
-{
-    cmdAddInterest->setText(u"Save"_s);
-    m_area.enter();
-}
-
-void InterestsTab::browse()
-{
-    cmdAddInterest->setText(u"Add Interest"_s);
-    txtInterest->clear();
-    txtInterestDescription->clear();
-    cmdAddInterest->Tag.clear();
-    m_area.browse();
 }
 
 void InterestsTab::butAddInterest_Click()
@@ -91,26 +71,27 @@ void InterestsTab::butAddInterest_Click()
 void InterestsTab::mnuInterestEdit_Click()
 {
     const desktop::ListItem &item = *lstInterest->SelectedItem();
-    txtInterest->setText(item.Text());
-    txtInterestDescription->setText(item.SubItems(1));
+    txtInterest->setText(textOf(item, interestColumns, u"Interest"));
+    txtInterestDescription->setText(textOf(item, interestColumns, u"InterestDescription"));
     cmdAddInterest->Tag = item.Tag;
     enter();
 }
 
+QString InterestsTab::updateStatement(const QString &key) const
+{
+    return u"UPDATE MemberInterest SET MemberInterest.Interest = '"_s + txtInterest->text() +
+           u"', MemberInterest.InterestDescription = '"_s + txtInterestDescription->text() +
+           u"' WHERE (MemberInterest.MemberInterestId="_s + key + u");"_s;
+}
+
 void InterestsTab::cmdAddInterest_Click()
 {
-    if (txtInterest->text().isEmpty()) {
-        desktop::MsgBox(u"Invalid Interest"_s, desktop::vbCritical, u"Tolmark"_s);
+    if (!isEntryValid())
         return;
-    }
-    if (const QString key = std::exchange(cmdAddInterest->Tag, {}); !key.isEmpty())
-        m_dossier.run(u"UPDATE MemberInterest SET MemberInterest.Interest = '"_s + txtInterest->text() +
-                      u"', MemberInterest.InterestDescription = '"_s + txtInterestDescription->text() +
-                      u"' WHERE (MemberInterest.MemberInterestId="_s + key + u");"_s);
-    else
-        m_dossier.run(u"INSERT INTO MemberInterest (Interest, InterestDescription, MemberId) values ('"_s +
-                      txtInterest->text() + u"','"_s + txtInterestDescription->text() + u"',"_s + m_dossier.member() +
-                      u")"_s);
+    const QString key = std::exchange(cmdAddInterest->Tag, {});
+    m_dossier.run(key.isEmpty()
+                      ? insertInterest(txtInterest->text(), txtInterestDescription->text(), m_dossier.member())
+                      : updateStatement(key));
     load();
     browse();
 }
@@ -118,9 +99,10 @@ void InterestsTab::cmdAddInterest_Click()
 void InterestsTab::CMdInterestCancel_Click()
 {
     browse();
+    cmdAddInterest->Tag.clear();
 }
 
-// The question speaks of a file; that is how it is known.
+// The warning says "file" where it means an interest. It is kept so because users know its text.
 void InterestsTab::MnuDeleteInterest_Click()
 {
     deleteSelectedRow(m_dossier, *lstInterest,

@@ -3,23 +3,16 @@
 #pragma once
 
 #include "dossier/Dossier.h"
-#include "dossier/EntryArea.h"
+#include "dossier/InterestArea.h"
 #include "platform/desktop/PopupMenu.h"
 
-class InterestsTab : public desktop::Frame
+class InterestsTab : public InterestArea
 {
     Q_OBJECT
 public:
     InterestsTab(QWidget *parent, Dossier &dossier);
 
-    desktop::ListView *lstInterest;
     desktop::CommandButton *butAddInterest;
-    desktop::Label *lblInterest;
-    desktop::TextBox *txtInterest;
-    desktop::Label *lblInterestDescription;
-    desktop::MultilineTextBox *txtInterestDescription;
-    desktop::CommandButton *cmdAddInterest;
-    desktop::CommandButton *CMdInterestCancel;
     desktop::CommandButton *butCloseInterest;
     desktop::PopupMenu *mnuInterest;
 
@@ -33,9 +26,7 @@ public:
 private:
     void setUpContent();
     void setUpMenu();
-    void enter();
-    void browse();
+    QString updateStatement(const QString &key) const;
 
     Dossier &m_dossier;
-    EntryArea m_area;
 };

@@ -2,7 +2,6 @@
 
 #include "dossier/RowDeletion.h"
 #include "events/StoredNotes.h"
-#include "parts/RowTexts.h"
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/MsgBox.h"
@@ -22,21 +21,17 @@ using runtime::Value;
 
 namespace {
 
-struct NoteColumn
-{
-    QStringView header;
-    double width; // twips
-};
-
 constexpr std::array noteColumns{
-    NoteColumn{u"Date", 1500},
-    NoteColumn{u"Type", 2500},
-    NoteColumn{u"Start Time", 1500},
-    NoteColumn{u"End Time", 1500},
-    NoteColumn{u"Duration (HH:MM:SS)", 2200},
-    NoteColumn{u"Purpose", 1500},
-    NoteColumn{u"Category", 1500},
-    NoteColumn{u"Notes", 1500},
+    ListedColumn{.header = u"Date", .column = u"MeetingDate", .width = 1500},
+    ListedColumn{.header = u"Type", .column = u"MeetingType", .width = 2500},
+    ListedColumn{.header = u"Start Time", .column = u"MeetingStartTime", .width = 1500},
+    ListedColumn{.header = u"End Time", .column = u"MeetingEndTime", .width = 1500},
+    ListedColumn{.header = u"Duration (HH:MM:SS)",
+                 .width = 2200,
+                 .cell = [](data::Recordset &note) { return durationCell(note, durationText); }},
+    ListedColumn{.header = u"Purpose", .column = u"MeetingSubject", .width = 1500},
+    ListedColumn{.header = u"Category", .column = u"MeetingCatagory", .width = 1500},
+    ListedColumn{.header = u"Notes", .column = u"MeetingNotes", .width = 1500},
 };
 
 } // namespace
@@ -77,7 +72,7 @@ void NotesTab::setUpContent()
     whole->addLayout(buttons);
 }
 
-// A stored note cannot be changed from here: the item that would begin it stays hidden.
+// A stored note cannot be changed, so the item for that is hidden; its handler is kept for the day it can.
 void NotesTab::setUpMenu()
 {
     QAction *edit = MnuMeetingNotesOptions->addItem(u"mnuEditNotes", u"Edit Note"_s);
@@ -88,16 +83,6 @@ void NotesTab::setUpMenu()
     desktop::on(edit, &QAction::triggered, this, &NotesTab::mnuEditNotes_Click);
     desktop::on(remove, &QAction::triggered, this, &NotesTab::mnuDeleteNote_Click);
     MnuMeetingNotesOptions->popUpOver(*lstPhoneNotes);
-}
-
-void NotesTab::loadColumns()
-{
-    desktop::ColumnHeaders &headers = lstPhoneNotes->ColumnHeaders;
-    headers.Clear();
-    for (const NoteColumn &column : noteColumns) {
-        headers.Add(column.header.toString());
-        headers.setWidth(headers.Count(), column.width);
-    }
 }
 
 void NotesTab::load()
@@ -112,29 +97,10 @@ void NotesTab::load()
         m_dossier.member() + u"));"_s);
     lstPhoneNotes->setEnabled(true);
     lstPhoneNotes->ListItems.Clear();
-    loadColumns();
-    addItems(*lstPhoneNotes, notes, &NotesTab::fillItem);
+    setUpHeaders(*lstPhoneNotes, noteColumns);
+    fillList(*lstPhoneNotes, notes, u"MeetingId", noteColumns, Keyed::LinesWithFirstCell);
     notes.Close();
     store.DbClose();
-}
-
-void NotesTab::fillItem(desktop::ListItem &item, data::Recordset &note)
-{
-    const Value date = note[u"MeetingDate"].Value();
-    if (!date.isNull()) {
-        item.setText(runtime::toText(date));
-        item.Tag = runtime::joinedText(note[u"MeetingId"].Value());
-    }
-    putSubItem(item, 1, note[u"MeetingType"]);
-    putSubItem(item, 2, note[u"MeetingStartTime"]);
-    putSubItem(item, 3, note[u"MeetingEndTime"]);
-    const Value start = note[u"MeetingStartTime"].Value();
-    const Value end = note[u"MeetingEndTime"].Value();
-    if (!start.isNull() && !end.isNull())
-        item.setSubItem(4, durationText(runtime::toDate(start), runtime::toDate(end)));
-    putSubItem(item, 5, note[u"MeetingSubject"]);
-    putSubItem(item, 6, note[u"MeetingCatagory"]);
-    putSubItem(item, 7, note[u"MeetingNotes"]);
 }
 
 void NotesTab::butAddPhoneNotes_Click()
@@ -150,13 +116,13 @@ void NotesTab::lstPhoneNotes_DblClick()
 {
     const desktop::ListItem &item = *lstPhoneNotes->SelectedItem();
     desktop::showNew<frmMeeting>([this, &item](frmMeeting &note) {
-        takeStoredNote(note, item);
+        takeStoredNote(note, item, noteColumns);
         note.MemberId = m_dossier.member();
         note.setCaption(u"Tolmark View Event"_s);
     });
 }
 
-// Enter does for the keyboard what the double click does.
+// Enter opens the selected note, so that the keyboard reaches what the double click does.
 void NotesTab::lstPhoneNotes_KeyUp(int keyCode)
 {
     if (keyCode == desktop::vbKeyReturn && lstPhoneNotes->SelectedItem())

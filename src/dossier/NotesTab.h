@@ -1,5 +1,5 @@
-// The member's notes of calls and meetings, with how long each took. Notes are written and shown in a window of their
-// own; a note that is saved there shows here after Refresh.
+// The member's notes of calls and meetings, with how long each took. frmMeeting writes and shows them; a note that is
+// saved there is listed here after Refresh.
 //
 // Error 13 for a stored start or end that is no date, 91 for a double click without a selected line.
 #pragma once
@@ -32,12 +32,11 @@ public:
 private:
     void setUpContent();
     void setUpMenu();
-    void loadColumns();
-    static void fillItem(desktop::ListItem &item, data::Recordset &note);
 
     Dossier &m_dossier;
 };
 
-// "HH:MM:SS". The minutes count the changes of the minute, the seconds are what is over a full minute of the true
-// difference: from 10:00:50 to 10:01:10 it is "00:01:20". An end before the start gives fields with a sign each.
+// "HH:MM:SS". Hours and minutes count the changes of the minute, the seconds are the remainder of the difference in
+// seconds: from 10:00:50 to 10:01:10 it is "00:01:20". Kept so because users compare it with what they noted before. An
+// end before the start gives a sign to each part.
 QString durationText(const runtime::Date &start, const runtime::Date &end);

@@ -1,4 +1,4 @@
-// A small window for one interest of a member. "Add" has no handler, and nothing in the system opens the window.
+// A small window for one interest of a member. It is not in use: no window opens it, and "Add" has no handler.
 #pragma once
 
 #include "platform/desktop/Controls.h"

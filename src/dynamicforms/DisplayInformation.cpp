@@ -311,7 +311,7 @@ void DisplayInformation::ListView1_DblClick()
         return;
     const desktop::ListItem &item = *ListView1->SelectedItem();
     desktop::showNew<frmMeeting>([&item](frmMeeting &event) {
-        takeStoredNote(event, item);
+        takeStoredNote(event, item, eventsList.columns);
         event.setCaption(u"View Event"_s);
     });
 }

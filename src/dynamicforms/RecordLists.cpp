@@ -1,18 +1,15 @@
 #include "dynamicforms/RecordLists.h"
 
 #include "events/StoredNotes.h"
-#include "parts/RowTexts.h"
 #include "shell/store/CLsDataBaseConnection.h"
 
 #include <array>
 
-using runtime::Value;
-
 namespace {
 
-constexpr ListedColumn listed(QStringView header, QStringView column = {})
+constexpr ListedColumn listed(QStringView header, QStringView column)
 {
-    return {header, {}, column};
+    return {.header = header, .column = column};
 }
 
 constexpr std::array attachmentColumns{
@@ -34,19 +31,12 @@ constexpr std::array eventColumns{
     listed(u"Event Type", u"MeetingType"),
     listed(u"Start Time", u"MeetingStartTime"),
     listed(u"End Time", u"MeetingEndTime"),
-    listed(u"Duration (HH:MM)"),
+    ListedColumn{.header = u"Duration (HH:MM)",
+                 .cell = [](data::Recordset &event) { return durationCell(event, hoursAndMinutes); }},
     listed(u"Event Purpose", u"MeetingSubject"),
     listed(u"Event Category", u"MeetingCatagory"),
     listed(u"Event Notes", u"MeetingNotes"),
 };
-
-void putDuration(desktop::ListItem &item, int index, data::Recordset &event)
-{
-    const Value start = event[u"MeetingStartTime"].Value();
-    const Value end = event[u"MeetingEndTime"].Value();
-    if (!start.isNull() && !end.isNull())
-        item.setSubItem(index, hoursAndMinutes(runtime::toDate(start), runtime::toDate(end)));
-}
 
 } // namespace
 
@@ -96,14 +86,7 @@ void showRecordList(desktop::ListView &view, const RecordList &list, qint16 reco
     view.setVisible(true);
     view.ListItems.Clear();
     setUpHeaders(view, list.columns);
-    addItems(view, rows, [&list](desktop::ListItem &item, data::Recordset &row) {
-        for (size_t at = 0; at < list.columns.size(); ++at) {
-            if (const QStringView column = list.columns[at].column; column.isEmpty())
-                putDuration(item, int(at), row);
-            else
-                putSubItem(item, int(at), row[column]);
-        }
-    });
+    fillList(view, rows, {}, list.columns);
     rows.Close();
     store.DbClose();
 }

@@ -10,8 +10,8 @@ struct RecordList
     QStringView caption;        // of its tab
     QStringView statementStart; // the person's key follows
     QStringView statementEnd;
-    std::span<const ListedColumn> columns; // one without a column of the statement shows how long it took
-    QStringView command;                   // what the window does at the press of cmdEdit
+    std::span<const ListedColumn> columns;
+    QStringView command; // what the window does at the press of cmdEdit
 };
 
 extern const RecordList attachmentsList;

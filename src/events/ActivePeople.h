@@ -1,8 +1,8 @@
-// The people of the record window who have not been marked as deleted: those whom a window lets the user choose from.
+// The people of the record window who are active: those among whom a window lets the user choose.
 #pragma once
 
 #include "platform/desktop/Controls.h"
 #include "platform/runtime/Value.h"
 
-// Puts their names in the place of the list's items and gives their keys in the same order. None is selected.
+// Replaces the list's items by their names and returns their keys in the same order. Selects none.
 QList<runtime::Value> listActivePeople(desktop::ListBox &list);

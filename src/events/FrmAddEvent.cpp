@@ -35,7 +35,7 @@ FrmAddEvent::FrmAddEvent()
 
 FrmAddEvent &FrmAddEvent::shared()
 {
-    // Owned by the frame once it has been shown there.
+    // The frame owns it from the first time that it is shown there.
     static QPointer<FrmAddEvent> window;
     if (!window) {
         window = new FrmAddEvent;
@@ -69,7 +69,7 @@ void FrmAddEvent::setUpContent()
 
 void FrmAddEvent::Form_Load()
 {
-    // The shared window loads again at each of its openings.
+    // The shared window loads again at each opening and still holds what it held.
     txtEventName->clear();
     txtEventDescription->clear();
     lstStartTime->clearSelection();
@@ -78,7 +78,7 @@ void FrmAddEvent::Form_Load()
     const QTime end = now.time().addSecs(minutesToTheEnd * 60);
     txtEventStartTime->setText(plainTimeText(now.time()));
     txtEventEndTime->setText(plainTimeText(end));
-    const QString today = runtime::shortDateText(now.day()); // also for an end behind midnight
+    const QString today = runtime::shortDateText(now.day()); // the end's date too, even when its time passes midnight
     txtEventStartDate->setText(today);
     txtEventEndDate->setText(today);
     txtEventName->setFocus();

@@ -1,8 +1,8 @@
-// An event is keyed in, or one of the file is changed: EventId decides which when it is saved.
+// A new event is keyed in, or a stored one is changed: EventId decides which when it is saved.
 //
-// No failure is held back: a value with an apostrophe breaks the statement and ends the program. An empty name or
-// description saves nothing and says nothing. The first touch that loads the window puts defaults into its boxes, so
-// who opens it on an event sets the caption before the boxes.
+// A value with an apostrophe breaks the statement, and as any failure that ends the program. With an empty name or
+// description nothing is saved and nothing is said. The load puts defaults into the boxes: who fills them loads the
+// window first, by setting its caption or by Load().
 #pragma once
 
 #include "platform/desktop/Controls.h"
@@ -35,7 +35,7 @@ public:
     desktop::CommandButton *cmdSave;
     desktop::CommandButton *CmdClose;
 
-    // Names without effect: what is written is kept nowhere, what is read is empty.
+    // Properties without effect: a write is kept nowhere, a read is empty. No window uses them; the names are kept.
     runtime::Value NoteId() const { return empty(); }
     void setNoteId(const runtime::Value &) {}
     runtime::Value NoteTitle() const { return empty(); }
@@ -64,6 +64,6 @@ private:
     void openCalendar(const QString &caption, const desktop::TextBox *box);
     QString insertStatement() const;
     QString updateStatement() const;
-    // Nobody calls it; with nothing to call popNotes on, it fails with error 424.
+    // No caller is left. The notes that it refreshed are gone from this window, so it raises error 424.
     static void refreshNotes();
 };

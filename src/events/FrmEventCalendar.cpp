@@ -42,10 +42,9 @@ void FrmEventCalendar::Form_Load()
 void FrmEventCalendar::Calendar1_Click()
 {
     const QString day = runtime::toText(Calendar1->Value());
-    if (ControlName == u"txtEventStartDate")
-        frmEvent()->txtEventStartDate->setText(day);
-    else
-        frmEvent()->txtEventEndDate->setText(day);
+    FrmAddEvent &event = *frmEvent();
+    event.Load(); // closed meanwhile, it would overwrite the day with its presets when it is shown again
+    (ControlName == u"txtEventStartDate" ? event.txtEventStartDate : event.txtEventEndDate)->setText(day);
     Unload();
 }
 

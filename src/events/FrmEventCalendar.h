@@ -1,7 +1,8 @@
-// A month calendar that puts the day that is clicked into a date box of an event's window, and closes.
+// A month calendar that puts the clicked day into a date box of an event's window and closes.
 //
-// Its opener gives it the event's window; without one, or when that has been closed meanwhile, it makes one of its own,
-// which stays unseen and goes with it unless somebody shows it.
+// Its opener gives it the event's window. When that is closed by the time of the click, the click loads it again: the
+// shared one keeps the day for its next opening. Of one that was deleted by its closing, or without any, the calendar
+// makes a new one, which is not shown and is deleted with the calendar.
 #pragma once
 
 #include "events/Calendar.h"
@@ -15,7 +16,7 @@ class FrmEventCalendar : public desktop::Form
 public:
     FrmEventCalendar();
 
-    // The name of the box to fill: "txtEventStartDate"; any other fills the end date.
+    // "txtEventStartDate" fills the start date; any other name the end date.
     QString ControlName;
     FrmAddEvent *frmEvent();
     void setFrmEvent(FrmAddEvent *window) { m_frmEvent = window; }

@@ -27,7 +27,7 @@ QString presentTime()
     return runtime::shortTimeText(runtime::clockNow().time());
 }
 
-// Behind the items of the design; the first item of all is selected.
+// Adds the column's texts behind the items that the list was designed with, and selects the first item of all.
 void addRows(desktop::ListBox &list, const QString &statement, QStringView column)
 {
     CLsDataBaseConnection connection;
@@ -150,41 +150,22 @@ void frmMeeting::cmdSave_Click()
     if (txtEventEndTime->text().isEmpty())
         txtEventEndTime->setText(presentTime());
     if (MemberId.isEmpty())
-        handOver();
+        desktop::showNew<frmSelectClient>(
+            [this](frmSelectClient &picker) { static_cast<Note &>(picker) = noteInBoxes(); });
     else
-        saveForMember();
+        storeNote(u"MemberId", runtime::Value(MemberId), noteInBoxes());
     Unload();
 }
 
-void frmMeeting::saveForMember()
+Note frmMeeting::noteInBoxes() const
 {
-    CLsDataBaseConnection connection;
-    data::Recordset note = connection.CreateRecordset(u"select * from MeetingInfo"_s);
-    note.AddNew();
-    note[u"MemberId"].setValue(MemberId);
-    note[u"MeetingDate"].setValue(txtEventDate->text());
-    note[u"MeetingType"].setValue(lstEventType->Text());
-    note[u"MeetingCatagory"].setValue(lstCategory->Text());
-    note[u"MeetingSubject"].setValue(txtEventPurpose->text());
-    note[u"MeetingStartTime"].setValue(txtEventStartTime->text());
-    note[u"MeetingEndTime"].setValue(txtEventEndTime->text());
-    note[u"MeetingNotes"].setValue(txtEventNotes->text());
-    note.UpdateBatch();
-    note.Close();
-    connection.DbClose();
-}
-
-void frmMeeting::handOver()
-{
-    desktop::showNew<frmSelectClient>([this](frmSelectClient &picker) {
-        picker.EventDate = txtEventDate->text();
-        picker.EventType = lstEventType->Text();
-        picker.EventStartTime = txtEventStartTime->text();
-        picker.EventEndTime = txtEventEndTime->text();
-        picker.EventPurpose = txtEventPurpose->text();
-        picker.EventCategory = lstCategory->Text();
-        picker.EventNotes = txtEventNotes->text();
-    });
+    return {.EventType = lstEventType->Text(),
+            .EventDate = txtEventDate->text(),
+            .EventCategory = lstCategory->Text(),
+            .EventPurpose = txtEventPurpose->text(),
+            .EventStartTime = txtEventStartTime->text(),
+            .EventEndTime = txtEventEndTime->text(),
+            .EventNotes = txtEventNotes->text()};
 }
 
 void frmMeeting::cmdPrint_Click()

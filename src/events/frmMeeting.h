@@ -1,30 +1,24 @@
 // The note of a phone conversation or a meeting: a new one is written, a stored one is shown read-only and printed.
 //
-// The opener sets the fields before the first touch that loads the window. A note without a member goes on to
-// frmSelectClient when it is saved, and this window closes. Failures of the data store and of the printer (error 482)
-// are not held back.
+// The opener sets the fields before the first touch that loads the window. Saving a note that has no member opens
+// frmSelectClient, which asks whom it is about and stores it. A failure of the data store or of the printer (error 482)
+// ends the program.
 #pragma once
 
+#include "events/Note.h"
 #include "platform/desktop/Controls.h"
 #include "platform/desktop/Form.h"
 
-class frmMeeting : public desktop::Form
+class frmMeeting : public desktop::Form, public Note
 {
     Q_OBJECT
 public:
     frmMeeting();
 
-    // Empty: the note was started with no member in hand.
+    // Empty: the note was begun from the main toolbar, for nobody yet.
     QString MemberId;
-    // True: a new note; false: the stored note of the fields below.
+    // True: a new note; false: the stored one in the fields of Note.
     bool AddView = false;
-    QString EventType;
-    QString EventDate;
-    QString EventCategory;
-    QString EventPurpose;
-    QString EventStartTime;
-    QString EventEndTime;
-    QString EventNotes;
 
     desktop::ListBox *lstEventType;
     desktop::ListBox *lstCategory;
@@ -54,6 +48,5 @@ private:
     void setUpContent();
     void showStoredNote();
     void beginNewNote();
-    void saveForMember();
-    void handOver();
+    Note noteInBoxes() const;
 };

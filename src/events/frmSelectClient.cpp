@@ -2,7 +2,6 @@
 
 #include "events/ActivePeople.h"
 #include "platform/desktop/Keys.h"
-#include "shell/store/CLsDataBaseConnection.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -26,7 +25,7 @@ frmSelectClient::frmSelectClient()
 
 void frmSelectClient::Form_Load()
 {
-    // Not the members: the note belongs to a person of the record window.
+    // People of the record window, not members: such a note is listed there.
     m_clientIds = QList<runtime::Value>(1) + listActivePeople(*lstClient);
     lstClient->setSelected(0);
     setSize(4800, 5715);
@@ -34,20 +33,7 @@ void frmSelectClient::Form_Load()
 
 void frmSelectClient::cmdOK_Click()
 {
-    CLsDataBaseConnection connection;
-    data::Recordset note = connection.CreateRecordset(u"select * from MeetingInfo"_s);
-    note.AddNew();
-    note[u"PersonalInformationId"].setValue(m_clientIds[lstClient->ListIndex() + 1]);
-    note[u"MeetingDate"].setValue(EventDate);
-    note[u"MeetingType"].setValue(EventType);
-    note[u"MeetingCatagory"].setValue(EventCategory);
-    note[u"MeetingSubject"].setValue(EventPurpose);
-    note[u"MeetingStartTime"].setValue(EventStartTime);
-    note[u"MeetingEndTime"].setValue(EventEndTime);
-    note[u"MeetingNotes"].setValue(EventNotes);
-    note.UpdateBatch();
-    note.Close();
-    connection.DbClose();
+    storeNote(u"PersonalInformationId", m_clientIds[lstClient->ListIndex() + 1], *this);
     Unload();
 }
 

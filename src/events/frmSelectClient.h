@@ -1,27 +1,19 @@
-// Asks whom a note is about that was started with no member in hand, and writes it.
+// Asks whom a note is about that was begun for nobody, and stores it.
 //
-// From the hand-over until OK the note lives here alone: closing the window drops it without a warning. With nobody to
-// choose from, the load raises error 380.
+// The window that the note was written in is closed by then and nothing is stored before OK: closing this one drops the
+// note without a warning. With nobody to choose from, the load raises error 380.
 #pragma once
 
+#include "events/Note.h"
 #include "platform/desktop/Controls.h"
 #include "platform/desktop/Form.h"
 #include "platform/runtime/Value.h"
 
-class frmSelectClient : public desktop::Form
+class frmSelectClient : public desktop::Form, public Note
 {
     Q_OBJECT
 public:
     frmSelectClient();
-
-    // The note, as it stood in the boxes.
-    QString EventType;
-    QString EventDate;
-    QString EventCategory;
-    QString EventPurpose;
-    QString EventStartTime;
-    QString EventEndTime;
-    QString EventNotes;
 
     desktop::ListBox *lstClient;
     desktop::CommandButton *cmdOK;
@@ -33,5 +25,5 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    QList<runtime::Value> m_clientIds; // one more than the list has items: element 0 is nobody's
+    QList<runtime::Value> m_clientIds; // from 1, as the list's items count from 0; element 0 is not used
 };

@@ -14,19 +14,20 @@ using runtime::Value;
 
 namespace {
 
-// The bracket of the last tag makes the provider refuse the sort on that column.
+// The stray bracket of the last tag makes the provider refuse the sort on that column; the click swallows that. Kept as
+// the list has always answered.
 constexpr std::array memberColumns{
-    ListedColumn{u"Member Id", u"MemberId", u"MemberId"},
-    ListedColumn{u"Member Type", u"MemberType", u"MemberType"},
-    ListedColumn{u"First Name", u"FirstName", u"FirstName"},
-    ListedColumn{u"Middle Name", u"MiddleName", u"MiddleName"},
-    ListedColumn{u"Last Name", u"LastName", u"LastName"},
-    ListedColumn{u"Address", u"AddressOne", u"AddressOne"},
-    ListedColumn{u"City", u"City", u"City"},
-    ListedColumn{u"State", u"State", u"State"},
-    ListedColumn{u"Zip", u"ZIP", u"Zip"},
-    ListedColumn{u"Home Phone", u"HomePhone", u"HomePhone"},
-    ListedColumn{u"Cell Phone", u"CellPhone]", u"CellPhone"},
+    ListedColumn{.header = u"Member Id", .tag = u"MemberId", .column = u"MemberId"},
+    ListedColumn{.header = u"Member Type", .tag = u"MemberType", .column = u"MemberType"},
+    ListedColumn{.header = u"First Name", .tag = u"FirstName", .column = u"FirstName"},
+    ListedColumn{.header = u"Middle Name", .tag = u"MiddleName", .column = u"MiddleName"},
+    ListedColumn{.header = u"Last Name", .tag = u"LastName", .column = u"LastName"},
+    ListedColumn{.header = u"Address", .tag = u"AddressOne", .column = u"AddressOne"},
+    ListedColumn{.header = u"City", .tag = u"City", .column = u"City"},
+    ListedColumn{.header = u"State", .tag = u"State", .column = u"State"},
+    ListedColumn{.header = u"Zip", .tag = u"ZIP", .column = u"Zip"},
+    ListedColumn{.header = u"Home Phone", .tag = u"HomePhone", .column = u"HomePhone"},
+    ListedColumn{.header = u"Cell Phone", .tag = u"CellPhone]", .column = u"CellPhone"},
 };
 
 GroupedTable members()
@@ -135,10 +136,11 @@ void FrmDataBaseExplorer::openDossier(const ListItem &item)
 {
     desktop::showNew<DisplayMembers>([&item](DisplayMembers &dossier) {
         dossier.MemberId = runtime::toInteger(Value(item.Text()));
-        dossier.setCaption(u"Tolmark Member Information : "_s + item.SubItems(2) + u" "_s + item.SubItems(3) + u" "_s +
-                           item.SubItems(4));
+        const auto text = [&item](QStringView column) { return textOf(item, memberColumns, column); };
+        dossier.setCaption(u"Tolmark Member Information : "_s + text(u"FirstName") + u" "_s + text(u"MiddleName") +
+                           u" "_s + text(u"LastName"));
         dossier.setMemberIdentification(Value(item.Text()));
-        dossier.Tag = item.SubItems(1);
+        dossier.Tag = text(u"MemberType");
     });
 }
 

@@ -16,10 +16,10 @@ namespace {
 
 constexpr ListedColumn eventColumn(QStringView header, QStringView column)
 {
-    return {header, column, column};
+    return {.header = header, .tag = column, .column = column};
 }
 
-// The header of EventEndDate says "End Time" too: that is how the office knows this list.
+// The header of EventEndDate says "End Time" too. It is kept so because users know the list by its headers.
 constexpr std::array eventColumns{
     eventColumn(u"Event Id", u"EventIdentification"), eventColumn(u"Date Added", u"EventDate"),
     eventColumn(u"Event Name", u"EventName"),         eventColumn(u"Event Description", u"EventDescription"),
@@ -44,22 +44,23 @@ GroupedTable events()
     };
 }
 
-// The caption comes first: setting it loads the window, and what the window presets is then written over.
+// The caption comes first: setting it loads the window, whose load presets the boxes that are then filled.
 void openEvent(const ListItem &item)
 {
     desktop::showNew<FrmAddEvent>([&item](FrmAddEvent &window) {
-        window.setCaption(u"Tolmark Event Information : "_s + item.SubItems(2) + u" "_s + item.SubItems(4) + u" - "_s +
-                          item.SubItems(7));
-        window.Tag = item.SubItems(1);
+        const auto text = [&item](QStringView column) { return textOf(item, eventColumns, column); };
+        window.setCaption(u"Tolmark Event Information : "_s + text(u"EventName") + u" "_s + text(u"EventStartDate") +
+                          u" - "_s + text(u"EventEndDate"));
+        window.Tag = text(u"EventDate");
         window.EventId = item.Text();
-        window.txtEventDescription->setText(item.SubItems(3));
-        window.txtEventEndDate->setText(item.SubItems(7));
-        window.txtEventName->setText(item.SubItems(2));
-        window.txtEventEndTime->setText(item.SubItems(8));
-        window.txtEventStartDate->setText(item.SubItems(4));
-        window.txtEventStartTime->setText(item.SubItems(5));
-        window.lstEndTime->setText(item.SubItems(9));
-        window.lstStartTime->setText(item.SubItems(6));
+        window.txtEventDescription->setText(text(u"EventDescription"));
+        window.txtEventEndDate->setText(text(u"EventEndDate"));
+        window.txtEventName->setText(text(u"EventName"));
+        window.txtEventEndTime->setText(text(u"EventEndTime"));
+        window.txtEventStartDate->setText(text(u"EventStartDate"));
+        window.txtEventStartTime->setText(text(u"EventStartTime"));
+        window.lstEndTime->setText(text(u"EventEndTimeAmPm"));
+        window.lstStartTime->setText(text(u"EventStartTimeAmPm"));
     });
 }
 

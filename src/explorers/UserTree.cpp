@@ -15,11 +15,11 @@ using runtime::joinedText;
 namespace {
 
 constexpr std::array userColumns{
-    ListedColumn{u"First Name", u"UserFirstName", u"UserFirstName"},
-    ListedColumn{u"Middle Name", u"UserMiddleName", u"UserMiddleName"},
-    ListedColumn{u"Last Name", u"UserLastName", u"UserLastName"},
-    ListedColumn{u"User Name", u"UserName", u"UserName"},
-    ListedColumn{u"User Level", u"UserLevel", u"UserLevel"},
+    ListedColumn{.header = u"First Name", .tag = u"UserFirstName", .column = u"UserFirstName"},
+    ListedColumn{.header = u"Middle Name", .tag = u"UserMiddleName", .column = u"UserMiddleName"},
+    ListedColumn{.header = u"Last Name", .tag = u"UserLastName", .column = u"UserLastName"},
+    ListedColumn{.header = u"User Name", .tag = u"UserName", .column = u"UserName"},
+    ListedColumn{.header = u"User Level", .tag = u"UserLevel", .column = u"UserLevel"},
 };
 
 Node &addUser(ExplorerPanes &panes, Node &parent, data::Recordset &users, int number)

@@ -14,15 +14,11 @@ using runtime::Value;
 namespace {
 
 constexpr std::array documentColumns{
-    ListedColumn{u"Document ID", {}, u"DocumentId"},
-    ListedColumn{u"Document Date", {}, u"DocumentDate"},
-    ListedColumn{u"Document Name", {}, u"DocumentName"},
-    ListedColumn{u"Document Version", {}, u"DocuemntVersion"},
+    ListedColumn{.header = u"Document ID", .column = u"DocumentId"},
+    ListedColumn{.header = u"Document Date", .column = u"DocumentDate", .width = 2700},
+    ListedColumn{.header = u"Document Name", .column = u"DocumentName", .width = 4500},
+    ListedColumn{.header = u"Document Version", .column = u"DocuemntVersion"},
 };
-
-// Twips.
-constexpr double dateWidth = 2700;
-constexpr double nameWidth = 4500;
 
 // The rows are those of one name in one node, the newest version first. Behind the last number that the column holds
 // comes one that it refuses.
@@ -41,8 +37,6 @@ LibraryDocuments::LibraryDocuments(const desktop::TreeView &tree, desktop::ListV
     : m_tree(tree), m_list(list), CommonDialog1(dialog)
 {
     setUpHeaders(list, documentColumns);
-    list.ColumnHeaders.setWidth(2, dateWidth);
-    list.ColumnHeaders.setWidth(3, nameWidth);
 }
 
 QString LibraryDocuments::selectedIndex() const

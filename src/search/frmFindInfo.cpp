@@ -2,7 +2,7 @@
 
 #include "library/ClsBinaryFunctions.h"
 #include "library/StoredFile.h"
-#include "parts/RowTexts.h"
+#include "parts/ListedColumns.h"
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/Launch.h"
 #include "platform/desktop/MsgBox.h"
@@ -13,6 +13,8 @@
 #include <QGridLayout>
 #include <QHeaderView>
 
+#include <array>
+
 using namespace Qt::Literals::StringLiterals;
 
 using desktop::CommandButton;
@@ -21,6 +23,12 @@ using desktop::OptionButton;
 using runtime::Value;
 
 namespace {
+
+constexpr std::array hitColumns{
+    ListedColumn{.header = u"File Id", .column = u"DocumentId"},
+    ListedColumn{.header = u"File Name", .column = u"DocumentName"},
+    ListedColumn{.header = u"File Version", .column = u"Version"},
+};
 
 constexpr double windowWidth = 5775; // twips
 constexpr double windowHeight = 9360;
@@ -298,15 +306,10 @@ void frmFindInfo::searchContent(const QString &phrase)
     ClsBinaryFunctions scanner;
     data::Recordset hits = scanner.cmdOpendb(phrase, *statement);
     lstViewResults->ListItems.Clear();
-    for (const QString &header : {u"File Id"_s, u"File Name"_s, u"File Version"_s})
-        lstViewResults->ColumnHeaders.Add(header);
+    addHeaders(*lstViewResults, hitColumns);
     if (hits.RecordCount() > 0)
         hits.MoveFirst();
-    addItems(*lstViewResults, hits, [](desktop::ListItem &item, data::Recordset &hit) {
-        putSubItem(item, 0, hit[u"DocumentId"]);
-        putSubItem(item, 1, hit[u"DocumentName"]);
-        putSubItem(item, 2, hit[u"Version"]);
-    });
+    fillList(*lstViewResults, hits, {}, hitColumns);
 }
 
 // The copy stays where it is until the main window closes.

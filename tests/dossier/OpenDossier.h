@@ -20,6 +20,12 @@ public:
     DisplayMembers *operator->() { return &m_window; }
     DisplayMembers &operator*() { return m_window; }
 
+    desktop::TextBox &box(const char *name) { return *child<desktop::TextBox>(m_window, name); }
+    desktop::ListBox &states(const char *name) { return *child<desktop::ListBox>(m_window, name); }
+    desktop::ListView &list(const char *name) { return *child<desktop::ListView>(m_window, name); }
+    void click(const char *button) { child<QPushButton>(m_window, button)->click(); }
+    // Chooses an item of a pop-up, as a click on it does.
+    void choose(const char *item) { child<QAction>(m_window, item)->trigger(); }
     void turnTo(QWidget *tab) { m_window.SSTab1->setCurrentWidget(tab->parentWidget()); }
 
 private:
@@ -46,10 +52,4 @@ inline QStringList lines(const desktop::ListView &list)
 inline void select(desktop::ListView &list, int index)
 {
     list.setCurrentItem(&list.ListItems(index));
-}
-
-// Chooses an item of a pop-up, as a click on it does.
-inline void choose(const desktop::PopupMenu &menu, const char *item)
-{
-    child<QAction>(menu, item)->trigger();
 }

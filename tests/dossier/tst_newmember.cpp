@@ -19,6 +19,11 @@ void type(const QStringList &texts)
     }
 }
 
+desktop::TextBox &box(FrmAddEditMember &window, const char *name)
+{
+    return *child<desktop::TextBox>(window, name);
+}
+
 FrmAddEditMember *openWindow()
 {
     auto *window = desktop::showNew<FrmAddEditMember>();
@@ -40,12 +45,12 @@ private Q_SLOTS:
     {
         CaughtErrors errors;
         QPointer<FrmAddEditMember> window = openWindow();
-        window->txtMemberFirstName->setFocus();
+        QCOMPARE(QApplication::focusWidget(), child(*window, "txtMemberFirstName"));
         type({u"Ann"_s, u"B"_s, u"Cole"_s, u"1 Main"_s, u"Flat 2"_s, u"Salem"_s, u"Virg"_s, u"97301"_s, u"555-1"_s,
               u"555-2"_s, u"555-3"_s, u"ann@x.org"_s});
         window->SSTab1->setCurrentIndex(1);
-        window->txtEmployerName->setFocus();
-        type({u"Works"_s, u"9 Road"_s, QString(), u"Town"_s, u"Ohio"_s, u"43004"_s, u"555-9"_s, u"12"_s, u"555-8"_s,
+        child(*window, "txtEmployerName")->setFocus();
+        type({u"Works"_s, u"9 Road"_s, u"Yard"_s, u"Town"_s, u"Ohio"_s, u"43004"_s, u"555-9"_s, u"12"_s, u"555-8"_s,
               u"w@x.org"_s});
         addInterest(*window, u"Chess"_s, u"Sundays"_s);
         addInterest(*window, u"Chess"_s, QString());
@@ -60,60 +65,41 @@ private Q_SLOTS:
         QCOMPARE(m_folder->row("SELECT Name, AddressOne, AddressTwo, City, State, Zip, PhoneNumber, Extension, "
                                "EMailAddress, typeof(WebAddress) FROM EmployerInformation WHERE MemberId = (SELECT "
                                "MemberId FROM MemberInformation)"),
-                 u"Works|9 Road||Town|Ohio|43004|555-9|12|w@x.org|null"_s);
+                 u"Works|9 Road|Yard|Town|Ohio|43004|555-9|12|w@x.org|null"_s);
         QCOMPARE(m_folder->row("SELECT count(*), group_concat(Interest || ':' || InterestDescription) FROM "
                                "MemberInterest JOIN MemberInformation USING (MemberId)"),
                  u"2|Chess:Sundays,Chess:"_s);
     }
 
-    void nothingIsSavedWithoutBothNames_data()
-    {
-        QTest::addColumn<QString>("first");
-        QTest::addColumn<QString>("last");
-        QTest::newRow("first only") << u"Ann"_s << QString();
-        QTest::newRow("last only") << QString() << u"Cole"_s;
-    }
     void nothingIsSavedWithoutBothNames()
     {
-        QFETCH(QString, first);
-        QFETCH(QString, last);
         CaughtErrors errors;
         BoxAnswers boxes; // and nothing is said
-        FrmAddEditMember window;
-        window.Show();
-        window.txtMemberFirstName->setText(first);
-        window.txtMemberLastName->setText(last);
-        window.Command1->click();
-        QVERIFY(window.isVisible());
+        for (const char *name : {"txtMemberFirstName", "txtMemberLastName"}) {
+            FrmAddEditMember window;
+            window.Show();
+            box(window, name).setText(u"x"_s);
+            window.Command1->click();
+            QVERIFY(window.isVisible());
+        }
         QCOMPARE(m_folder->row("SELECT count(*) FROM MemberInformation"), u"0"_s);
     }
 
-    // Each field breaks the statement that it stands in; what was written before stays.
-    void anApostropheEndsInTheReport_data()
-    {
-        QTest::addColumn<QString>("box");
-        QTest::addColumn<QString>("members");
-        QTest::addColumn<QString>("employers");
-        QTest::newRow("city") << u"txtCity"_s << u"0"_s << u"0"_s;
-        QTest::newRow("zip, which the look-up leaves out") << u"txtMemberZip"_s << u"0"_s << u"0"_s;
-        QTest::newRow("employer") << u"txtEmployerName"_s << u"1"_s << u"0"_s;
-    }
+    // What was written before the statement that breaks stays.
     void anApostropheEndsInTheReport()
     {
-        QFETCH(QString, box);
-        QFETCH(QString, members);
-        QFETCH(QString, employers);
         CaughtErrors errors;
-        FrmAddEditMember window;
-        window.Show();
-        window.txtMemberFirstName->setText(u"Ann"_s);
-        window.txtMemberLastName->setText(u"Cole"_s);
-        child<QLineEdit>(window, box.toLatin1().constData())->setText(u"O'Fallon"_s);
-        window.Command1->click();
-        QCOMPARE(errors.takeNumber(), -2147217900);
-        QCOMPARE(m_folder->row("SELECT count(*) FROM MemberInformation"), members);
-        QCOMPARE(m_folder->row("SELECT count(*) FROM EmployerInformation"), employers);
-        QCOMPARE(m_folder->row("PRAGMA integrity_check"), u"ok"_s);
+        for (const char *name : {"txtCity", "txtEmployerName"}) {
+            FrmAddEditMember window;
+            window.Show();
+            box(window, "txtMemberFirstName").setText(u"Ann"_s);
+            box(window, "txtMemberLastName").setText(u"Cole"_s);
+            box(window, name).setText(u"O'Fallon"_s);
+            window.Command1->click();
+            QCOMPARE(errors.takeNumber(), -2147217900);
+        }
+        QCOMPARE(m_folder->row("SELECT (SELECT count(*) FROM MemberInformation), count(*) FROM EmployerInformation"),
+                 u"1|0"_s);
     }
 
     void theSameMemberTwiceGivesTheInterestsToTheFirst()
@@ -122,9 +108,9 @@ private Q_SLOTS:
         for (int round = 0; round < 2; ++round) {
             FrmAddEditMember window;
             window.Show();
-            window.txtMemberFirstName->setText(u"Ann"_s);
-            window.txtMemberLastName->setText(u"Cole"_s);
-            window.txtMemberZip->setText(QString::number(round));
+            box(window, "txtMemberFirstName").setText(u"Ann"_s);
+            box(window, "txtMemberLastName").setText(u"Cole"_s);
+            box(window, "txtMemberZip").setText(QString::number(round));
             addInterest(window, u"Chess"_s, {});
             window.Command1->click();
         }
@@ -140,38 +126,30 @@ private Q_SLOTS:
         window.Show();
         window.SSTab1->setCurrentIndex(2);
         InterestEntry &entry = *window.Frame3;
-        const auto browsing = [&entry] {
-            return !entry.txtInterest->isEnabled() && !entry.txtInterestDescription->isEnabled() &&
-                   entry.lstInterest->isEnabled() && !entry.CMdInterestCancel->isEnabled() &&
-                   entry.lblInterest->isHidden() && entry.lblInterestDescription->isHidden() &&
-                   entry.cmdAddInterest->text() == u"Add Interest";
+        const auto isInState = [&entry](bool entering, const QString &caption, double left) {
+            return entry.txtInterest->isEnabled() == entering &&
+                   entry.txtInterestDescription->isEnabled() == entering &&
+                   entry.lstInterest->isEnabled() != entering && entry.CMdInterestCancel->isEnabled() == entering &&
+                   entry.lblInterest->isVisible() == entering &&
+                   entry.lblInterestDescription->isVisible() == entering && entry.cmdAddInterest->text() == caption &&
+                   entry.cmdAddInterest->Left() == left;
         };
-        const auto entering = [&entry] {
-            return entry.txtInterest->isEnabled() && entry.txtInterestDescription->isEnabled() &&
-                   !entry.lstInterest->isEnabled() && entry.CMdInterestCancel->isEnabled() &&
-                   entry.lblInterest->isVisible() && entry.cmdAddInterest->text() == u"Save";
-        };
-        QVERIFY(browsing());
-        QCOMPARE(entry.cmdAddInterest->Left(), 4635.0);
+        QVERIFY(isInState(false, u"Add Interest"_s, 4635));
         entry.cmdAddInterest->click();
-        QVERIFY(entering());
-        QCOMPARE(entry.cmdAddInterest->Left(), 3825.0);
+        QVERIFY(isInState(true, u"Save"_s, 3825));
         {
             BoxAnswers boxes({QMessageBox::Ok});
             entry.cmdAddInterest->click();
             QCOMPARE(boxes.seen[0].text, u"Invalid Interest"_s);
-            QCOMPARE(boxes.seen[0].title, u"Tolmark"_s);
-            QCOMPARE(boxes.seen[0].icon, QMessageBox::Critical);
         }
-        QVERIFY(entering());
+        QVERIFY(isInState(true, u"Save"_s, 3825));
         entry.txtInterest->setText(u"Chess"_s);
         entry.CMdInterestCancel->click();
-        QVERIFY(browsing());
-        QCOMPARE(entry.cmdAddInterest->Left(), 4640.0);
+        QVERIFY(isInState(false, u"Add Interest"_s, 4640));
         QCOMPARE(entry.lstInterest->ListItems.Count(), 0);
         QVERIFY(entry.txtInterest->text().isEmpty());
         addInterest(window, u"Chess"_s, u"x"_s);
-        QVERIFY(browsing());
+        QVERIFY(isInState(false, u"Add Interest"_s, 4640));
         QCOMPARE(entry.lstInterest->ListItems(1).SubItems(1), u"x"_s);
     }
 
@@ -188,7 +166,7 @@ private Q_SLOTS:
         CaughtErrors errors;
         BoxAnswers boxes;
         QPointer<FrmAddEditMember> window = openWindow();
-        window->txtMemberFirstName->setText(u"Ann"_s);
+        box(*window, "txtMemberFirstName").setText(u"Ann"_s);
         window->Command2->click();
         QTRY_VERIFY(!window);
         frmAddInterest small;
