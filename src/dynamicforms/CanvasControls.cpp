@@ -25,7 +25,7 @@ CanvasLabel::CanvasLabel(QWidget *parent, QAnyStringView name) : Label(parent, n
     setAutoFillBackground(true);
 }
 
-// The canvas below is not to hear of it.
+// Accepted here, because Qt passes an ignored event on to the canvas below.
 void CanvasLabel::mousePressEvent(QMouseEvent *event)
 {
     event->accept();

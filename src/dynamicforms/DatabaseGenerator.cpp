@@ -17,7 +17,8 @@ namespace {
 constexpr qint16 twipsPerGridSize = 50;
 constexpr int defaultGridSize = 3; // its place in the list, from 0
 
-Value twips(double place)
+// A place is kept as a single and stored as such.
+Value singleOf(double place)
 {
     return Value(double(float(place)));
 }
@@ -88,8 +89,8 @@ void DatabaseGenerator::saveCanvas(LayoutWriter &layout)
         const CanvasTextBox &box = *m_surface->Text1(index);
         const CanvasLabel &label = *m_surface->Label1(index);
         if (!box.toolTip().isEmpty())
-            layout.addField({box.toolTip(), label.toolTip(), std::nullopt, twips(box.Left()), twips(box.Top()),
-                             twips(label.Left()), twips(label.Top()), twips(box.Width())});
+            layout.addField({box.toolTip(), label.toolTip(), std::nullopt, singleOf(box.Left()), singleOf(box.Top()),
+                             singleOf(label.Left()), singleOf(label.Top()), singleOf(box.Width())});
     }
 }
 
@@ -158,7 +159,7 @@ void DatabaseGenerator::cmdFieldClear_Click()
     txtFieldDescription->clear();
 }
 
-// There is no way to cancel: the answer decides about the layout alone.
+// Tables are made after either answer; it only decides whether the layout is saved before.
 void DatabaseGenerator::cmdGenerateDatebase_Click()
 {
     if (desktop::MsgBox(u"Save Current Layout before proceeding"_s, desktop::vbYesNo, u"Quillon"_s) == desktop::vbYes)
@@ -176,30 +177,22 @@ void DatabaseGenerator::cmdExit_Click()
     Unload();
 }
 
-// Whatever fails says the same: it is not known whether nothing was gathered or a page was changed.
+// Any failure brings this message: error 9 before any box was gathered, 340 when a change of pages has unloaded one.
 void DatabaseGenerator::Toolbar1_ButtonClick(QAction *button)
 {
     using Alignment = DesignSurface::Alignment;
     const bool succeeded = runtime::endSilently([this, button] {
-        switch (Toolbar1->actions().indexOf(button) + 1) {
-        case 1:
+        const QString tool = button->text();
+        if (tool == u"Lock Objects")
             m_surface->ObjectsLocked = true;
-            break;
-        case 2:
+        else if (tool == u"Unlock Objects")
             m_surface->ObjectsLocked = false;
-            break;
-        case 4:
+        else if (tool == u"Align Top")
             m_surface->align(Alignment::Top);
-            break;
-        case 5:
+        else if (tool == u"Align Left")
             m_surface->align(Alignment::Left);
-            break;
-        case 7:
+        else if (tool == u"Same Width")
             m_surface->align(Alignment::Width);
-            break;
-        default:
-            break;
-        }
     });
     if (!succeeded)
         desktop::MsgBox(u"Please select two or more objects"_s);
@@ -221,7 +214,8 @@ void DatabaseGenerator::Picture1_Paint()
         DrawGrid();
 }
 
-// The grid line under the pointer is reckoned and nothing takes it: a dragged control stays where it is dropped.
+// The nearest grid line is computed and not used: no control is ever snapped to the grid. What can be seen of it is the
+// error 13 while no grid size is selected.
 void DatabaseGenerator::Picture1_MouseMove(float x)
 {
     std::ignore = snappedToGrid(x, gridStep());

@@ -1,9 +1,10 @@
 // The designer: an administrator draws pages of labelled boxes on it, which the record window shows and from which the
 // tables of the data store are made.
 //
-// What is drawn lives in memory until the layout is saved; closing asks nothing and drops it. Loading, the grid, the
-// pages and the width end silently at the first failure. Two moves fail for good on a data file without fields of the
-// designer's: the pointer over the canvas while no grid size is selected (error 13), and a change of pages (error 9).
+// What is drawn lives in memory until the layout is saved; closing the window drops it without a question. Loading, the
+// grid, the pages and the width end silently at the first failure. On a data file without fields of the designer's, two
+// actions end the program: moving the pointer over the canvas before a grid size is selected (error 13), and changing
+// the page (error 9).
 #pragma once
 
 #include "dynamicforms/DesignSurface.h"
@@ -42,8 +43,9 @@ public:
     desktop::CommandButton *cmdSave;
     desktop::CommandButton *cmdExit;
 
-    // Writes all pages in the place of the stored ones: those that are not selected as the rows say, the selected one
-    // as it lies on the canvas, without the order of its fields and with the labels' tool tips as their descriptions.
+    // Replaces the stored pages by those of the window. The fields of the selected page are written as they lie on the
+    // canvas, without their order and with their labels' tool tips as descriptions; those of the others as the rows
+    // have them.
     void SaveLayout();
     void ShowTabFields();
     void DrawGrid();

@@ -29,8 +29,9 @@ struct FieldRow
 class FieldRows
 {
 public:
-    // Where the next row goes, plus one; 0 until the load begins. The grid of the designer counts its columns with it
-    // too: whatever it leaves here decides where the next field goes and which rows are cut off.
+    // One more than the position of the next row; 0 until the load begins. The designer's grid counts its columns with
+    // the same number and leaves it at the last of them. The next field is then stored at that position, and the rows
+    // above it are cut off.
     qint16 RowCounter = 0;
 
     int upperBound() const;

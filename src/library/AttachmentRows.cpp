@@ -54,7 +54,8 @@ void saveAttachment(data::Recordset &attachment, desktop::CommonDialog &dialog)
         fetchInto(attachment[u"Attachments"], dialog.FileName);
 }
 
-// The copy stays where it is until the main window closes; two versions of a name share its place.
+// The copy is deleted when the main window closes. Two versions of a name share one path, and a shorter one keeps the
+// tail of a longer one.
 void viewAttachment(data::Connection &connection, data::Recordset &attachment, const QString &name)
 {
     const QString path = temporaryPath(name);

@@ -18,7 +18,7 @@ using runtime::Value;
 
 namespace {
 
-// UpLoadBinary looks for versions in a data file of its own, whatever the application folder is.
+// Counts the versions in the one data file that UpLoadBinary knows by its full path, not in the program's own.
 qint16 nextVersionOf(const QString &fileName)
 {
     data::Connection connection;
@@ -33,7 +33,7 @@ qint16 nextVersionOf(const QString &fileName)
     return version;
 }
 
-QString withoutBlanks(QStringView text)
+QString withoutBlanksAround(QStringView text)
 {
     while (text.startsWith(u' '))
         text = text.sliced(1);
@@ -80,7 +80,7 @@ void ClsBinaryFunctions::ViewDocument(const QString &AttachmentsId)
     openDataStore(connection);
     data::Recordset attachment =
         openRows(connection, u"select * from Attachments where AttachmentsId = "_s + AttachmentsId);
-    const desktop::ListView *const list = nullptr; // the windows have one; this class never got any
+    const desktop::ListView *const list = nullptr; // the class has no list, so the next step raises error 424
     ViewPath = temporaryPath(selectedText(list));
     fetchInto(attachment[u"Attachments"], ViewPath);
     connection.Close();
@@ -137,7 +137,7 @@ bool ClsBinaryFunctions::ScanFile()
 
 void ClsBinaryFunctions::PrepareSearchText()
 {
-    Pattern = withoutBlanks(Text2Text);
+    Pattern = withoutBlanksAround(Text2Text);
     PatternLength = runtime::toInteger(Value(qint32(Pattern.size())));
     if (Pattern.endsWith(u'"') && Pattern.startsWith(u'"') && PatternLength > 2) {
         Pattern = Pattern.sliced(1).chopped(1);

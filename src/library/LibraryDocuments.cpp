@@ -24,8 +24,8 @@ constexpr std::array documentColumns{
 constexpr double dateWidth = 2700;
 constexpr double nameWidth = 4500;
 
-// The rows are those of one name in one node, the newest version first. Behind the last number that the column holds
-// comes one that it refuses.
+// The rows are those of one name in one node, the newest version first. The sum is a double, so that the column refuses
+// the number after its largest, instead of a 32-bit sum overflowing.
 Value nextVersion(data::Recordset &versions)
 {
     if (versions.Eof())
@@ -68,7 +68,7 @@ void LibraryDocuments::upload()
     CommonDialog1.Filter = u"All files (*.*)|*.*|EXE files (*.exe)|*.exe|COM files (*.com)|*.com|"
                            "BIN files (*.bin)|*.bin |SYS files (*.sys)|*.sys|DLL files (*.dll)|*.dll"_s;
     if (!CommonDialog1.ShowOpen())
-        throw runtime::RuntimeError(runtime::ObjectRequired); // what would be closed now has never been there
+        throw runtime::RuntimeError(runtime::ObjectRequired); // deliberate: to cancel ends the program
     documents.AddNew();
     CLsDataBaseConnection lookup;
     data::Recordset versions =
@@ -81,7 +81,7 @@ void LibraryDocuments::upload()
     documents[u"DocuemntVersion"].setValue(nextVersion(versions));
     documents.Update();
     file.close();
-    documents.Update();
+    documents.Update(); // as the handler has always done; nothing is pending, so this writes nothing
 }
 
 void LibraryDocuments::linkTo(const QString &person) const

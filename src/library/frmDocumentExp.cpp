@@ -54,7 +54,7 @@ void frmDocumentExp::setUpMenus()
     setUpNodeMenus();
 }
 
-// The pop-up of the tree stands on the bar too, where the keyboard finds it.
+// The pop-up menu of the tree is the first menu of the bar as well.
 void frmDocumentExp::setUpLibraryOptions()
 {
     addItem(MnuLibraryOption, u"mnuAddCatagory", u"Add Catagory"_s, &frmDocumentExp::addCatagory);
@@ -76,7 +76,7 @@ void frmDocumentExp::setUpFileMenu()
     addItem(file, u"mnuClose", u"Close"_s, &frmDocumentExp::mnuClose_Click);
 }
 
-// The items "Edit" and "Rename ..." have a state and nothing that they do.
+// "Rename Library", "Rename Catagory" and "Edit" are enabled and disabled like the others and have no handler.
 void frmDocumentExp::setUpNodeMenus()
 {
     PopupMenu *library = m_menuBar->add(u"MnuLibrary"_s, u"Library"_s);
@@ -222,7 +222,7 @@ void frmDocumentExp::LstStudenInformation_DblClick()
     });
 }
 
-// What the mouse does by a double click.
+// Enter does for the keyboard what a double click does for the mouse.
 void frmDocumentExp::LstStudenInformation_KeyUp(int keyCode)
 {
     if (keyCode == desktop::vbKeyReturn)

@@ -106,13 +106,13 @@ private Q_SLOTS:
         OpenDesigner::drag(*designer.label(1), 15, 15, Qt::ShiftModifier); // which means nothing to a label
         QCOMPARE(designer.fields().value(0), u"Post 315,1815 3060,1770 1500"_s);
         OpenDesigner::drag(*designer.box(2), 60, 60, Qt::ShiftModifier);
-        designer.press(1);
+        designer.press(u"Lock Objects"_s);
         OpenDesigner::drag(*designer.box(3), 60, 60);
         OpenDesigner::drag(*designer.label(3), 60, 60);
         QCOMPARE(designer.fields().sliced(1),
                  (QStringList{u"Firm 300,600 3000,600 1500"_s, u"Desk 300,1200 3000,1200 1500"_s}));
         QCOMPARE(designer.window.txtWidth->Tag, u"3"_s); // a locked box is still the chosen one
-        designer.press(2);
+        designer.press(u"Unlock Objects"_s);
         OpenDesigner::drag(*designer.box(3), 60, 60);
         QCOMPARE(designer.fields().value(2), u"Desk 300,1200 3060,1260 1500"_s);
     }
@@ -136,26 +136,26 @@ private Q_SLOTS:
         OpenDesigner designer;
         {
             BoxAnswers boxes({QMessageBox::Ok});
-            designer.press(4);
+            designer.press(u"Align Top"_s);
             QCOMPARE(boxes.seen.value(0).text, u"Please select two or more objects"_s);
         }
         designer.box(3)->setWidth(3300);
         designer.gather(3);
         designer.gather(1);
         designer.gather(1);
-        designer.press(4);
+        designer.press(u"Align Top"_s);
         QCOMPARE(designer.fields(), (QStringList{u"Post 300,1800 3000,1200 1500"_s, u"Firm 300,600 3000,600 1500"_s,
                                                  u"Desk 300,1200 3000,1200 3300"_s}));
-        designer.press(7); // nothing is gathered any more, and that is no failure any more
+        designer.press(u"Same Width"_s); // nothing is gathered any more, and that is no failure any more
         designer.gather(3);
         designer.gather(2);
-        designer.press(7);
+        designer.press(u"Same Width"_s);
         QCOMPARE(designer.box(2)->Width(), 3300);
         designer.gather(3);
         designer.gather(1);
         designer.clickTab(2); // where there is no third box
         BoxAnswers boxes({QMessageBox::Ok});
-        designer.press(5);
+        designer.press(u"Align Left"_s);
     }
 
     void aPageKeepsItsPlacesButForTheFirstRow()
