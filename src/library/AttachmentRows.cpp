@@ -51,7 +51,7 @@ void saveAttachment(data::Recordset &attachment, desktop::CommonDialog &dialog)
 {
     dialog.FileName = runtime::toText(attachment[u"AttachmentsName"].Value());
     if (dialog.ShowSave())
-        fetchInto(attachment[u"Attachments"], dialog.FileName);
+        fetchInto(attachment, u"Attachments", dialog.FileName);
 }
 
 // The copy is deleted when the main window closes. Two versions of a name share one path, and a shorter one keeps the
@@ -59,7 +59,7 @@ void saveAttachment(data::Recordset &attachment, desktop::CommonDialog &dialog)
 void viewAttachment(data::Connection &connection, data::Recordset &attachment, const QString &name)
 {
     const QString path = temporaryPath(name);
-    fetchInto(attachment[u"Attachments"], path);
+    fetchInto(attachment, u"Attachments", path);
     connection.Close();
     desktop::ShellExecute(path);
 }

@@ -71,7 +71,7 @@ bool ClsBinaryFunctions::UpLoadBinary(const QString &FileName, const QString &Fi
 
 bool ClsBinaryFunctions::DownLoadDoc(data::Recordset &rsDownLoad, const QString &FilePath)
 {
-    return runtime::endSilently([&] { fetchInto(rsDownLoad[u"Attachments"], FilePath); });
+    return runtime::endSilently([&] { fetchInto(rsDownLoad, u"Attachments", FilePath); });
 }
 
 void ClsBinaryFunctions::ViewDocument(const QString &AttachmentsId)
@@ -82,7 +82,7 @@ void ClsBinaryFunctions::ViewDocument(const QString &AttachmentsId)
         openRows(connection, u"select * from Attachments where AttachmentsId = "_s + AttachmentsId);
     const desktop::ListView *const list = nullptr; // the class has no list, so the next step raises error 424
     ViewPath = temporaryPath(selectedText(list));
-    fetchInto(attachment[u"Attachments"], ViewPath);
+    fetchInto(attachment, u"Attachments", ViewPath);
     connection.Close();
 }
 
@@ -99,7 +99,7 @@ data::Recordset ClsBinaryFunctions::cmdOpendb(const QString &SearchString, const
     m_hitCount = 0;
     for (; !attachments.Eof(); attachments.MoveNext()) {
         const QString path = scanPath(runtime::joinedText(attachments[u"AttachmentsName"].Value()));
-        fetchInto(attachments[u"Attachments"], path);
+        fetchInto(attachments, u"Attachments", path);
         sFile = path;
         if (ScanFile())
             addHit(hits, attachments);
