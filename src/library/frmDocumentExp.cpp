@@ -54,7 +54,8 @@ void frmDocumentExp::setUpMenus()
     setUpNodeMenus();
 }
 
-// The pop-up menu of the tree is the first menu of the bar as well.
+// The pop-up menu of the tree is the first menu of the bar as well. Only its way as a pop-up sets the states of its
+// items: opened from the bar it shows those of the last time.
 void frmDocumentExp::setUpLibraryOptions()
 {
     addItem(MnuLibraryOption, u"mnuAddCatagory", u"Add Catagory"_s, &frmDocumentExp::addCatagory);
@@ -63,8 +64,6 @@ void frmDocumentExp::setUpLibraryOptions()
     addItem(MnuLibraryOption, u"mnuEditNode", u"Edit"_s);
     addItem(MnuLibraryOption, u"MnuDeleteNode", u"Delete"_s, &frmDocumentExp::deleteNode);
     addItem(MnuLibraryOption, u"MnuRenameNode", u"Rename"_s, &frmDocumentExp::MnuRenameNode_Click);
-    desktop::on(MnuLibraryOption, &QMenu::aboutToShow, this,
-                [](frmDocumentExp *window) { runtime::endSilently([window] { window->setPopupState(); }); });
 }
 
 void frmDocumentExp::setUpFileMenu()
