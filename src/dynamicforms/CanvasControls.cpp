@@ -22,6 +22,7 @@ template <class ControlType> void reportMove(ControlType &control, const QMouseE
 
 CanvasLabel::CanvasLabel(QWidget *parent, QAnyStringView name) : Label(parent, name)
 {
+    setTextFormat(Qt::PlainText);
     setAutoFillBackground(true);
 }
 

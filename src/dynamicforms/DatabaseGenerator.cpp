@@ -6,6 +6,8 @@
 #include "platform/runtime/ErrorHandling.h"
 #include "shell/store/DataStore.h"
 
+#include <QScopeGuard>
+
 #include <tuple>
 
 using namespace Qt::Literals::StringLiterals;
@@ -30,28 +32,15 @@ void DatabaseGenerator::Form_Load()
     runtime::endSilently([this] { loadForm(); });
 }
 
-// A form without fields ends at its upper bound, so that no grid size is selected.
+// Ends early for a form without fields: it has no upper bound (error 9), and no grid size gets selected.
 void DatabaseGenerator::loadForm()
 {
-    data::Connection connection;
-    openDataStore(connection);
-    data::Recordset rows = openRows(connection, u"select * from TabInfo where TabEdit = 1"_s);
-    TabStrip1->Clear();
-    m_rows.countUp();
-    for (; !rows.Eof(); rows.MoveNext())
-        TabStrip1->add({}, runtime::toText(rows[u"TabNam"].Value()), runtime::toText(rows[u"TabDescription"].Value()));
-    rows.Close();
-    rows = openRows(connection, u"SELECT FieldInfo.*, TabInfo.TabNam, TabInfo.TabDescription FROM FieldInfo INNER JOIN "
-                                "TabInfo ON FieldInfo.TabId = TabInfo.TabId where FieldEdit = 1 "
-                                "ORDER BY FieldDisplayOrder"_s);
-    for (; !rows.Eof(); rows.MoveNext()) {
-        FieldRow row = fieldRowOf(rows);
-        // Null in the fields of the page that was selected when the layout was saved: they come first.
-        if (const Value order = rows[u"FieldDisplayOrder"].Value(); !order.isNull())
-            row.RowFieldDisplayOrder = runtime::toInteger(order);
-        m_rows.store(std::move(row));
+    try {
+        readForm();
+    } catch (...) {
+        m_readFailure = std::current_exception();
+        throw;
     }
-    connection.Close();
     if (m_rows.upperBound() > 1)
         ShowTabFields();
     txtGridSize->setSelected(defaultGridSize);
@@ -59,8 +48,43 @@ void DatabaseGenerator::loadForm()
         DrawGrid();
 }
 
+// What stands when a step fails stays: a tab whose name or description is Null, and the row of a field without a place.
+void DatabaseGenerator::readForm()
+{
+    data::Connection connection;
+    openDataStore(connection);
+    data::Recordset rows = openRows(connection, u"select * from TabInfo where TabEdit = 1"_s);
+    TabStrip1->Clear();
+    m_rows.countUp();
+    for (; !rows.Eof(); rows.MoveNext()) {
+        QString caption;
+        QString toolTip;
+        const auto addTab = qScopeGuard([&] { TabStrip1->add({}, caption, toolTip); }); // with what there is by then
+        caption = runtime::toText(rows[u"TabNam"].Value());
+        toolTip = runtime::toText(rows[u"TabDescription"].Value());
+    }
+    rows.Close();
+    rows = openRows(connection, u"SELECT FieldInfo.*, TabInfo.TabNam, TabInfo.TabDescription FROM FieldInfo INNER JOIN "
+                                "TabInfo ON FieldInfo.TabId = TabInfo.TabId where FieldEdit = 1 "
+                                "ORDER BY FieldDisplayOrder"_s);
+    for (; !rows.Eof(); rows.MoveNext()) {
+        FieldRow &row = m_rows.next();
+        takeNames(row, rows);
+        // A save leaves the order Null for the fields of the page that is selected then. They are read as 0.
+        if (const Value order = rows[u"FieldDisplayOrder"].Value(); !order.isNull())
+            row.RowFieldDisplayOrder = runtime::toInteger(order);
+        takePlaces(row, rows);
+        m_rows.countUp();
+    }
+    connection.Close();
+}
+
+// A form that was not read whole is not written back: the rows behind the failure would be lost without a word. The
+// failure that ended the load silently is raised instead, before anything is deleted.
 void DatabaseGenerator::SaveLayout()
 {
+    if (m_readFailure)
+        std::rethrow_exception(m_readFailure);
     LayoutWriter layout;
     for (int tab = 1; tab <= TabStrip1->Count(); ++tab) {
         layout.addPage(TabStrip1->Caption(tab), TabStrip1->ToolTipText(tab));

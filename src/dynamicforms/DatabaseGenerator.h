@@ -13,6 +13,8 @@
 #include "platform/desktop/ImageList.h"
 #include "platform/desktop/Toolbar.h"
 
+#include <exception>
+
 class DatabaseGenerator : public desktop::Form
 {
     Q_OBJECT
@@ -45,7 +47,8 @@ public:
 
     // Replaces the stored pages by those of the window. The fields of the selected page are written as they lie on the
     // canvas, without their order and with their labels' tool tips as descriptions; those of the others as the rows
-    // have them.
+    // have them. A load that failed while it read the stored form raises its error here instead, and nothing is
+    // written.
     void SaveLayout();
     void ShowTabFields();
     void DrawGrid();
@@ -80,11 +83,13 @@ private:
     void setUpLayout();
     void setUpHandlers();
     void loadForm();
+    void readForm();
     void saveStoredRows(class LayoutWriter &layout, const QString &caption);
     void saveCanvas(LayoutWriter &layout);
     // Twips. Error 13 while no size is selected.
     qint16 gridStep() const;
 
     FieldRows m_rows;
+    std::exception_ptr m_readFailure; // of the load; unset when the stored form was read whole
     std::optional<DesignSurface> m_surface;
 };

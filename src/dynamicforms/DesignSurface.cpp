@@ -97,7 +97,6 @@ void DesignSurface::load(int index)
     CanvasLabel *label = Label1.Load(index);
     CanvasTextBox *box = Text1.Load(index);
     TextBox *holder = Text2.Load(index);
-    label->setBuddy(box);
     QWidget::setTabOrder(index > 1 ? static_cast<QWidget *>(Text1(index - 1)) : &m_tabs, box);
     using desktop::on;
     on(label, &CanvasLabel::MouseMove, label,
@@ -177,8 +176,7 @@ void DesignSurface::keepFields()
 // whenever the other pages have fields or the grid has moved the counter; both numberings are the designer's rule.
 void DesignSurface::addField(const QString &name, const QString &description)
 {
-    m_rows.resize();
-    FieldRow &row = m_rows[m_rows.RowCounter - 1];
+    FieldRow &row = m_rows.next();
     row.RowTabNam = m_tabs.SelectedCaption();
     row.RowTabDescription = m_tabs.ToolTipText(m_tabs.SelectedItem());
     row.RowFieldName = name;

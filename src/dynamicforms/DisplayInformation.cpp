@@ -122,8 +122,12 @@ void DisplayInformation::loadForm()
     rows =
         openRows(connection, u"SELECT *, TabInfo.TabNam, TabInfo.TabDescription FROM FieldInfo INNER JOIN TabInfo ON "
                              " FieldInfo.TabId = TabInfo.TabId order by FieldDisplayOrder"_s);
-    for (; !rows.Eof(); rows.MoveNext())
-        m_rows.store(fieldRowOf(rows));
+    for (; !rows.Eof(); rows.MoveNext()) {
+        FieldRow &row = m_rows.next();
+        takeNames(row, rows);
+        takePlaces(row, rows);
+        m_rows.countUp();
+    }
     m_rows.upperBound(); // error 9 for a form without fields
     connection.Close();
 }
