@@ -210,8 +210,8 @@ private Q_SLOTS:
     void anAttachmentIsViewedAndSaved()
     {
         m_folder->execute("INSERT INTO Attachments (PersonalInformationId, AttachmentsName, AttachmentVersion, "
-                          "Attachments) VALUES (2, 'a.txt', 1, x'6F6C6400'), (2, 'a.txt', 2, x'6E657700'), "
-                          "(3, 'a.txt', 1, x'00'), (2, 'it''s', 1, x'00')");
+                          "Attachments) VALUES (3, 'a.txt', 1, x'00'), (2, 'a.txt', 1, x'6F6C6400'), "
+                          "(2, 'a.txt', 2, x'6E657700'), (2, 'it''s', 1, x'00')");
         OpenRecord record;
         record.turnTo(u"Attachments"_s);
         QTest::mouseClick(record->ListView1->viewport(), Qt::RightButton, {}, QPoint(20, 10));
