@@ -34,7 +34,8 @@ qint16 nextVersionOf(const QString &fileName)
     return version;
 }
 
-QString withoutBlanksAround(QStringView text)
+// Other white space stays.
+QString withoutOuterBlanks(QStringView text)
 {
     while (text.startsWith(u' '))
         text = text.sliced(1);
@@ -173,7 +174,7 @@ bool ClsBinaryFunctions::ScanFile()
 
 void ClsBinaryFunctions::PrepareSearchText()
 {
-    Pattern = withoutBlanksAround(Text2Text);
+    Pattern = withoutOuterBlanks(Text2Text);
     PatternLength = runtime::toInteger(Value(qint32(Pattern.size())));
     if (Pattern.endsWith(u'"') && Pattern.startsWith(u'"') && PatternLength > 2) {
         Pattern = Pattern.sliced(1).chopped(1);
