@@ -70,7 +70,7 @@ inline void fetchOurs(const QString &store)
     connection.Open(files::connectionString(store));
     data::Recordset attachments;
     attachments.Open(QStringLiteral("select * from Attachments"), connection);
-    fetchInto(attachments[u"Attachments"], target());
+    fetchInto(attachments, u"Attachments", target());
 }
 
 inline void fetchFloor(const QString &store)

@@ -18,7 +18,9 @@
 #include <QTimer>
 
 #include <benchmark/benchmark.h>
+#include <cctype>
 #include <random>
+#include <string>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -54,15 +56,32 @@ template <class Work> void timed(benchmark::State &state, Work &&work)
     }
 }
 
-const QString &fileOf100MB()
+// Bytes as good as random ones, none of them a letter of the phrases but for those that are put in.
+QByteArray noise(qsizetype bytes)
 {
-    static const QString path = [] {
-        const QString made = files::folder() + u"/scanned.txt"_s;
-        const QByteArray part = text(20'000'000);
-        for (int at = 0; at < 5; ++at)
-            raw::writeFile(made, part, at * part.size());
-        return made;
-    }();
+    std::mt19937 random(2);
+    QByteArray made(bytes, '\0');
+    for (char &byte : made) {
+        const auto drawn = random();
+        byte = char(drawn);
+        if (std::isalpha(drawn & 0xff))
+            byte = drawn >> 8 & 1 ? 'e' : 'x'; // every tenth byte
+        if ((drawn >> 9) % 2000 == 0)
+            byte = 'v';
+    }
+    return made;
+}
+
+using Made = QByteArray (*)(qsizetype bytes);
+
+QString fileOf100MB(const char *name, Made made)
+{
+    const QString path = files::folder() + u'/' + QLatin1String(name);
+    if (QFile::exists(path))
+        return path;
+    const QByteArray part = made(20'000'000);
+    for (int at = 0; at < 5; ++at)
+        raw::writeFile(path, part, at * part.size());
     return path;
 }
 
@@ -73,75 +92,102 @@ public:
     using ClsBinaryFunctions::ScanFile;
 };
 
-void scanOurs(benchmark::State &state)
+void scanOurs(benchmark::State &state, const char *name, Made made, const char *searched)
 {
     Scanner scanner;
-    scanner.sFile = fileOf100MB();
-    scanner.Text2Text = phrase;
+    scanner.sFile = fileOf100MB(name, made);
+    scanner.Text2Text = QLatin1String(searched);
     timed(state, [&] {
         if (scanner.ScanFile())
             state.SkipWithError("the phrase is there");
         runtime::CloseFile(scanner.FileHandle);
     });
 }
-BENCHMARK(scanOurs)->Name("scan_100mb/ours")->Unit(benchmark::kMillisecond)->UseManualTime();
 
-void scanFloor(benchmark::State &state)
+void scanFloor(benchmark::State &state, const char *name, Made made, const char *searched)
 {
-    const QString file = fileOf100MB();
+    const QString file = fileOf100MB(name, made);
     timed(state, [&] {
-        if (grepCount(phrase, {file}) != 0)
+        if (grepCount(QLatin1String(searched), {file}) != 0)
             state.SkipWithError("the phrase is there");
     });
 }
-BENCHMARK(scanFloor)->Name("scan_100mb/floor")->Unit(benchmark::kMillisecond)->UseManualTime();
 
-constexpr int searched = 1000;
-constexpr int withPhrase = 10;
-
-// An application folder whose data file has 1,000 attachments of 250 KB; the phrase stands at the end of ten.
-const QString &folderToSearch()
+// The first letter of the phrase is common in the file, rare or absent.
+void registerScans()
 {
-    static const QString folder = [] {
-        const QString made = files::folder() + u"/search"_s;
-        raw::require(QDir().mkpath(made + u"/temp/Search"_s));
-        if (QFile::exists(made + u"/Tolmark.mdb"_s)) // of an earlier run in the same folder
-            return made;
-        const raw::File file(files::empty(u"search/Tolmark.mdb"_s));
-        file.execute("BEGIN");
-        const raw::Statement insert(file, "INSERT INTO Attachments (AttachmentsName, AttachmentVersion, Attachments) "
-                                          "VALUES ('file ' || ?1, 1, ?2)");
-        const QByteArray words = text(5'000'000);
-        for (int number = 1; number <= searched; ++number) {
-            QByteArray content = words.sliced(number * 4001, 250'000);
-            if (number % (searched / withPhrase) == 0)
-                content.replace(249'900, phrase.size() + 1, '\n' + phrase.toLatin1());
-            content += '\0';
-            sqlite3_bind_int(insert.get(), 1, number);
-            sqlite3_bind_blob(insert.get(), 2, content.constData(), int(content.size()), SQLITE_STATIC);
-            insert.step();
-            sqlite3_reset(insert.get());
-        }
-        file.execute("COMMIT");
-        return made;
-    }();
-    return folder;
+    struct Scan
+    {
+        const char *row, *file;
+        Made made;
+        const char *searched;
+    };
+    for (const Scan &scan : {Scan{"scan_100mb", "scanned.txt", text, "annual meeting"},
+                             {"scan_text_common", "scanned.txt", text, "election of officers"},
+                             {"scan_text_rare", "scanned.txt", text, "vote of thanks"},
+                             {"scan_text_absent", "scanned.txt", text, "quorum present"},
+                             {"scan_random_common", "scanned.bin", noise, "election of officers"},
+                             {"scan_random_rare", "scanned.bin", noise, "vote of thanks"},
+                             {"scan_random_absent", "scanned.bin", noise, "quorum present"}}) {
+        for (const auto &[side, run] : {std::pair("/ours", &scanOurs), {"/floor", &scanFloor}})
+            benchmark::RegisterBenchmark((std::string(scan.row) + side).c_str(), run, scan.file, scan.made,
+                                         scan.searched)
+                ->Unit(benchmark::kMillisecond)
+                ->UseManualTime();
+    }
 }
 
-void searchOurs(benchmark::State &state)
+// An application folder whose data file has so many attachments of so many bytes each; the phrase stands at the end of
+// one in a hundred.
+struct Stored
 {
-    runtime::App::setPath(folderToSearch());
+    const char *folder;
+    int count;
+    int bytes;
+    int withPhrase() const { return count / 100; }
+};
+constexpr Stored manyLarge{"search", 1000, 250'000};
+constexpr Stored verySmall{"search_small", 10'000, 1000};
+
+QString folderToSearch(const Stored &stored)
+{
+    const QString name = QLatin1String(stored.folder);
+    const QString made = files::folder() + u'/' + name;
+    raw::require(QDir().mkpath(made + u"/temp/Search"_s));
+    if (QFile::exists(made + u"/Tolmark.mdb"_s)) // of an earlier run in the same folder
+        return made;
+    const raw::File file(files::empty(name + u"/Tolmark.mdb"_s));
+    file.execute("BEGIN");
+    const raw::Statement insert(file, "INSERT INTO Attachments (AttachmentsName, AttachmentVersion, Attachments) "
+                                      "VALUES ('file ' || ?1, 1, ?2)");
+    const QByteArray words = text(5'000'000);
+    for (int number = 1; number <= stored.count; ++number) {
+        QByteArray content = words.sliced(number * 401, stored.bytes);
+        if (number % 100 == 0)
+            content.replace(stored.bytes - 100, phrase.size() + 1, '\n' + phrase.toLatin1());
+        content += '\0';
+        sqlite3_bind_int(insert.get(), 1, number);
+        sqlite3_bind_blob(insert.get(), 2, content.constData(), int(content.size()), SQLITE_STATIC);
+        insert.step();
+        sqlite3_reset(insert.get());
+    }
+    file.execute("COMMIT");
+    return made;
+}
+
+void searchOurs(benchmark::State &state, const Stored &stored)
+{
+    runtime::App::setPath(folderToSearch(stored));
     timed(state, [&] {
         ClsBinaryFunctions search;
-        if (search.cmdOpendb(phrase, u"SELECT * FROM Attachments"_s).RecordCount() != withPhrase)
-            state.SkipWithError("other than ten hits");
+        if (search.cmdOpendb(phrase, u"SELECT * FROM Attachments"_s).RecordCount() != stored.withPhrase())
+            state.SkipWithError("not the hits that are there");
     });
 }
-BENCHMARK(searchOurs)->Name("content_search/ours")->Unit(benchmark::kMillisecond)->UseManualTime();
 
-void searchFloor(benchmark::State &state)
+void searchFloor(benchmark::State &state, const Stored &stored)
 {
-    const QString folder = folderToSearch();
+    const QString folder = folderToSearch(stored);
     timed(state, [&] {
         const raw::File file(folder + u"/Tolmark.mdb"_s);
         const raw::Statement attachments(file, "SELECT AttachmentsName, Attachments FROM Attachments");
@@ -151,13 +197,28 @@ void searchFloor(benchmark::State &state)
             const auto *blob = static_cast<const char *>(sqlite3_column_blob(attachments.get(), 1));
             raw::writeFile(copies.last(), {blob, sqlite3_column_bytes(attachments.get(), 1)});
         }
-        if (grepCount(phrase, copies) != withPhrase)
-            state.SkipWithError("other than ten hits");
+        if (grepCount(phrase, copies) != stored.withPhrase())
+            state.SkipWithError("not the hits that are there");
         for (const QString &copy : copies)
             QFile::remove(copy);
     });
 }
-BENCHMARK(searchFloor)->Name("content_search/floor")->Unit(benchmark::kMillisecond)->UseManualTime();
+BENCHMARK_CAPTURE(searchOurs, large, manyLarge)
+    ->Name("content_search/ours")
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime();
+BENCHMARK_CAPTURE(searchFloor, large, manyLarge)
+    ->Name("content_search/floor")
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime();
+BENCHMARK_CAPTURE(searchOurs, small, verySmall)
+    ->Name("search_1kb/ours")
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime();
+BENCHMARK_CAPTURE(searchFloor, small, verySmall)
+    ->Name("search_1kb/floor")
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime();
 
 // Says Yes to the window's warning as soon as it stands.
 void consent()
@@ -171,7 +232,7 @@ void consent()
 // The same search from the click on, with its warning, until its hits are painted. Each search has a fresh window.
 void clickOurs(benchmark::State &state)
 {
-    runtime::App::setPath(folderToSearch());
+    runtime::App::setPath(folderToSearch(manyLarge));
     for ([[maybe_unused]] auto _ : state) {
         frmFindInfo window;
         window.Show();
@@ -182,12 +243,15 @@ void clickOurs(benchmark::State &state)
         window.cmdSearch->click();
         window.grab();
         state.SetIterationTime(processorSeconds() - before);
-        if (window.lstViewResults->ListItems.Count() != withPhrase)
+        if (window.lstViewResults->ListItems.Count() != manyLarge.withPhrase())
             state.SkipWithError("other than ten lines");
     }
 }
 BENCHMARK(clickOurs)->Name("find_click/ours")->Unit(benchmark::kMillisecond)->UseManualTime();
-BENCHMARK(searchOurs)->Name("find_click/floor")->Unit(benchmark::kMillisecond)->UseManualTime();
+BENCHMARK_CAPTURE(searchOurs, click, manyLarge)
+    ->Name("find_click/floor")
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime();
 
 void removeLast(benchmark::State &state, const raw::File &file)
 {
@@ -280,5 +344,6 @@ int main(int argc, char **argv)
 {
     const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
+    registerScans();
     benchmark::RunSpecifiedBenchmarks();
 }

@@ -22,10 +22,11 @@ template <class ControlType> void reportMove(ControlType &control, const QMouseE
 
 CanvasLabel::CanvasLabel(QWidget *parent, QAnyStringView name) : Label(parent, name)
 {
+    setTextFormat(Qt::PlainText);
     setAutoFillBackground(true);
 }
 
-// The canvas below is not to hear of it.
+// Accepted here, because Qt passes an ignored event on to the canvas below.
 void CanvasLabel::mousePressEvent(QMouseEvent *event)
 {
     event->accept();

@@ -1,6 +1,7 @@
 // The label and the box that a user arranges on a canvas: they report the mouse and the focus.
 //
-// Each covers its place whole, so that the canvas is painted anew where one goes away and not where one comes.
+// Each fills its own background. So Qt repaints the canvas where one goes away, but not where one comes: a repaint
+// draws the grid, which sets the counter of the rows.
 #pragma once
 
 #include "platform/desktop/Controls.h"

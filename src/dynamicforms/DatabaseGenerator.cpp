@@ -6,6 +6,8 @@
 #include "platform/runtime/ErrorHandling.h"
 #include "shell/store/DataStore.h"
 
+#include <QScopeGuard>
+
 #include <tuple>
 
 using namespace Qt::Literals::StringLiterals;
@@ -17,7 +19,8 @@ namespace {
 constexpr qint16 twipsPerGridSize = 50;
 constexpr int defaultGridSize = 3; // its place in the list, from 0
 
-Value twips(double place)
+// A place is kept as a single and stored as such.
+Value singleOf(double place)
 {
     return Value(double(float(place)));
 }
@@ -29,28 +32,15 @@ void DatabaseGenerator::Form_Load()
     runtime::endSilently([this] { loadForm(); });
 }
 
-// A form without fields ends at its upper bound, so that no grid size is selected.
+// Ends early for a form without fields: it has no upper bound (error 9), and no grid size gets selected.
 void DatabaseGenerator::loadForm()
 {
-    data::Connection connection;
-    openDataStore(connection);
-    data::Recordset rows = openRows(connection, u"select * from TabInfo where TabEdit = 1"_s);
-    TabStrip1->Clear();
-    m_rows.countUp();
-    for (; !rows.Eof(); rows.MoveNext())
-        TabStrip1->add({}, runtime::toText(rows[u"TabNam"].Value()), runtime::toText(rows[u"TabDescription"].Value()));
-    rows.Close();
-    rows = openRows(connection, u"SELECT FieldInfo.*, TabInfo.TabNam, TabInfo.TabDescription FROM FieldInfo INNER JOIN "
-                                "TabInfo ON FieldInfo.TabId = TabInfo.TabId where FieldEdit = 1 "
-                                "ORDER BY FieldDisplayOrder"_s);
-    for (; !rows.Eof(); rows.MoveNext()) {
-        FieldRow row = fieldRowOf(rows);
-        // Null in the fields of the page that was selected when the layout was saved: they come first.
-        if (const Value order = rows[u"FieldDisplayOrder"].Value(); !order.isNull())
-            row.RowFieldDisplayOrder = runtime::toInteger(order);
-        m_rows.store(std::move(row));
+    try {
+        readForm();
+    } catch (...) {
+        m_readFailure = std::current_exception();
+        throw;
     }
-    connection.Close();
     if (m_rows.upperBound() > 1)
         ShowTabFields();
     txtGridSize->setSelected(defaultGridSize);
@@ -58,8 +48,43 @@ void DatabaseGenerator::loadForm()
         DrawGrid();
 }
 
+// What stands when a step fails stays: a tab whose name or description is Null, and the row of a field without a place.
+void DatabaseGenerator::readForm()
+{
+    data::Connection connection;
+    openDataStore(connection);
+    data::Recordset rows = openRows(connection, u"select * from TabInfo where TabEdit = 1"_s);
+    TabStrip1->Clear();
+    m_rows.countUp();
+    for (; !rows.Eof(); rows.MoveNext()) {
+        QString caption;
+        QString toolTip;
+        const auto addTab = qScopeGuard([&] { TabStrip1->add({}, caption, toolTip); }); // with what there is by then
+        caption = runtime::toText(rows[u"TabNam"].Value());
+        toolTip = runtime::toText(rows[u"TabDescription"].Value());
+    }
+    rows.Close();
+    rows = openRows(connection, u"SELECT FieldInfo.*, TabInfo.TabNam, TabInfo.TabDescription FROM FieldInfo INNER JOIN "
+                                "TabInfo ON FieldInfo.TabId = TabInfo.TabId where FieldEdit = 1 "
+                                "ORDER BY FieldDisplayOrder"_s);
+    for (; !rows.Eof(); rows.MoveNext()) {
+        FieldRow &row = m_rows.next();
+        takeNames(row, rows);
+        // A save leaves the order Null for the fields of the page that is selected then. They are read as 0.
+        if (const Value order = rows[u"FieldDisplayOrder"].Value(); !order.isNull())
+            row.RowFieldDisplayOrder = runtime::toInteger(order);
+        takePlaces(row, rows);
+        m_rows.countUp();
+    }
+    connection.Close();
+}
+
+// A form that was not read whole is not written back: the rows behind the failure would be lost without a word. The
+// failure that ended the load silently is raised instead, before anything is deleted.
 void DatabaseGenerator::SaveLayout()
 {
+    if (m_readFailure)
+        std::rethrow_exception(m_readFailure);
     LayoutWriter layout;
     for (int tab = 1; tab <= TabStrip1->Count(); ++tab) {
         layout.addPage(TabStrip1->Caption(tab), TabStrip1->ToolTipText(tab));
@@ -88,8 +113,8 @@ void DatabaseGenerator::saveCanvas(LayoutWriter &layout)
         const CanvasTextBox &box = *m_surface->Text1(index);
         const CanvasLabel &label = *m_surface->Label1(index);
         if (!box.toolTip().isEmpty())
-            layout.addField({box.toolTip(), label.toolTip(), std::nullopt, twips(box.Left()), twips(box.Top()),
-                             twips(label.Left()), twips(label.Top()), twips(box.Width())});
+            layout.addField({box.toolTip(), label.toolTip(), std::nullopt, singleOf(box.Left()), singleOf(box.Top()),
+                             singleOf(label.Left()), singleOf(label.Top()), singleOf(box.Width())});
     }
 }
 
@@ -158,7 +183,7 @@ void DatabaseGenerator::cmdFieldClear_Click()
     txtFieldDescription->clear();
 }
 
-// There is no way to cancel: the answer decides about the layout alone.
+// Tables are made after either answer; it only decides whether the layout is saved before.
 void DatabaseGenerator::cmdGenerateDatebase_Click()
 {
     if (desktop::MsgBox(u"Save Current Layout before proceeding"_s, desktop::vbYesNo, u"Quillon"_s) == desktop::vbYes)
@@ -176,30 +201,22 @@ void DatabaseGenerator::cmdExit_Click()
     Unload();
 }
 
-// Whatever fails says the same: it is not known whether nothing was gathered or a page was changed.
+// Any failure brings this message: error 9 before any box was gathered, 340 when a change of pages has unloaded one.
 void DatabaseGenerator::Toolbar1_ButtonClick(QAction *button)
 {
     using Alignment = DesignSurface::Alignment;
     const bool succeeded = runtime::endSilently([this, button] {
-        switch (Toolbar1->actions().indexOf(button) + 1) {
-        case 1:
+        const QString tool = button->text();
+        if (tool == u"Lock Objects")
             m_surface->ObjectsLocked = true;
-            break;
-        case 2:
+        else if (tool == u"Unlock Objects")
             m_surface->ObjectsLocked = false;
-            break;
-        case 4:
+        else if (tool == u"Align Top")
             m_surface->align(Alignment::Top);
-            break;
-        case 5:
+        else if (tool == u"Align Left")
             m_surface->align(Alignment::Left);
-            break;
-        case 7:
+        else if (tool == u"Same Width")
             m_surface->align(Alignment::Width);
-            break;
-        default:
-            break;
-        }
     });
     if (!succeeded)
         desktop::MsgBox(u"Please select two or more objects"_s);
@@ -221,7 +238,8 @@ void DatabaseGenerator::Picture1_Paint()
         DrawGrid();
 }
 
-// The grid line under the pointer is reckoned and nothing takes it: a dragged control stays where it is dropped.
+// The nearest grid line is computed and not used: no control is ever snapped to the grid. What can be seen of it is the
+// error 13 while no grid size is selected.
 void DatabaseGenerator::Picture1_MouseMove(float x)
 {
     std::ignore = snappedToGrid(x, gridStep());

@@ -1,9 +1,10 @@
 // The designer: an administrator draws pages of labelled boxes on it, which the record window shows and from which the
 // tables of the data store are made.
 //
-// What is drawn lives in memory until the layout is saved; closing asks nothing and drops it. Loading, the grid, the
-// pages and the width end silently at the first failure. Two moves fail for good on a data file without fields of the
-// designer's: the pointer over the canvas while no grid size is selected (error 13), and a change of pages (error 9).
+// What is drawn lives in memory until the layout is saved; closing the window drops it without a question. Loading, the
+// grid, the pages and the width end silently at the first failure. On a data file without fields of the designer's, two
+// actions end the program: moving the pointer over the canvas before a grid size is selected (error 13), and changing
+// the page (error 9).
 #pragma once
 
 #include "dynamicforms/DesignSurface.h"
@@ -11,6 +12,8 @@
 #include "platform/desktop/Form.h"
 #include "platform/desktop/ImageList.h"
 #include "platform/desktop/Toolbar.h"
+
+#include <exception>
 
 class DatabaseGenerator : public desktop::Form
 {
@@ -42,8 +45,10 @@ public:
     desktop::CommandButton *cmdSave;
     desktop::CommandButton *cmdExit;
 
-    // Writes all pages in the place of the stored ones: those that are not selected as the rows say, the selected one
-    // as it lies on the canvas, without the order of its fields and with the labels' tool tips as their descriptions.
+    // Replaces the stored pages by those of the window. The fields of the selected page are written as they lie on the
+    // canvas, without their order and with their labels' tool tips as descriptions; those of the others as the rows
+    // have them. A load that failed while it read the stored form raises its error here instead, and nothing is
+    // written.
     void SaveLayout();
     void ShowTabFields();
     void DrawGrid();
@@ -78,11 +83,13 @@ private:
     void setUpLayout();
     void setUpHandlers();
     void loadForm();
+    void readForm();
     void saveStoredRows(class LayoutWriter &layout, const QString &caption);
     void saveCanvas(LayoutWriter &layout);
     // Twips. Error 13 while no size is selected.
     qint16 gridStep() const;
 
     FieldRows m_rows;
+    std::exception_ptr m_readFailure; // of the load; unset when the stored form was read whole
     std::optional<DesignSurface> m_surface;
 };

@@ -50,7 +50,8 @@ void moveBy(Control &control, float x, float y)
     control.setTop(double(float(control.Top()) + y));
 }
 
-// The loaded controls by their tool tips; of equal ones the last, which is the one whose value stays.
+// The loaded controls by their tool tips. Of equal ones the last counts, as in a walk through all of them it would
+// overwrite what the others left.
 template <class ControlType> QHash<QString, ControlType *> byName(const ControlArray<ControlType> &controls)
 {
     QHash<QString, ControlType *> found;
@@ -90,13 +91,12 @@ void DesignSurface::drawGrid(qint16 step)
     }
 }
 
-// Tab goes from the tabs through the boxes in their order.
+// The Tab key goes from the tab strip through the boxes in the order of the rows.
 void DesignSurface::load(int index)
 {
     CanvasLabel *label = Label1.Load(index);
     CanvasTextBox *box = Text1.Load(index);
     TextBox *holder = Text2.Load(index);
-    label->setBuddy(box);
     QWidget::setTabOrder(index > 1 ? static_cast<QWidget *>(Text1(index - 1)) : &m_tabs, box);
     using desktop::on;
     on(label, &CanvasLabel::MouseMove, label,
@@ -118,7 +118,7 @@ void DesignSurface::showFields()
         Text2.Unload(index);
     }
     for (int k = 0; k < m_rows.upperBound(); ++k) {
-        const FieldRow row = m_rows[k]; // a copy: the holders' texts go back into the rows
+        const FieldRow row = m_rows[k]; // a copy: setting the text of a holder below writes into the rows
         if (m_tabs.SelectedCaption() != row.RowTabNam)
             continue;
         const int index = Label1.Count();
@@ -172,11 +172,11 @@ void DesignSurface::keepFields()
     });
 }
 
-// The row's names stand where the counter says, its places where the control's index says.
+// The names go into the row at RowCounter - 1, the places into the row at the control's index. These are different rows
+// whenever the other pages have fields or the grid has moved the counter; both numberings are the designer's rule.
 void DesignSurface::addField(const QString &name, const QString &description)
 {
-    m_rows.resize();
-    FieldRow &row = m_rows[m_rows.RowCounter - 1];
+    FieldRow &row = m_rows.next();
     row.RowTabNam = m_tabs.SelectedCaption();
     row.RowTabDescription = m_tabs.ToolTipText(m_tabs.SelectedItem());
     row.RowFieldName = name;
@@ -207,7 +207,8 @@ void DesignSurface::addField(const QString &name, const QString &description)
     box.setAccessibleName(name);
 }
 
-// A corner goes to the pointer: the place inside at which the control was seized is not kept.
+// The control's corner jumps to the pointer: x and y are the pointer's place inside the control, and they are added to
+// its place as they are.
 void DesignSurface::moveBox(int index, int button, int shift, float x, float y)
 {
     if (button != desktop::vbLeftButton || shift == desktop::vbShiftMask)

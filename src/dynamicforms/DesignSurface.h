@@ -33,8 +33,8 @@ public:
 
     // Sets a point at each crossing of the grid. The rows' counter counts the columns.
     void drawGrid(qint16 step);
-    // Rebuilds the controls of the selected page. A row without a complete place ends it: error 13, and its controls
-    // stay loaded and unseen.
+    // Rebuilds the controls of the selected page. Error 13 for a row without a complete place: its controls stay loaded
+    // and invisible, and the rows behind it are not shown.
     void showFields();
     // Takes the places and the orders of the selected page into the rows. The first row of all is left out. Error 9
     // while there has never been a row.
@@ -61,6 +61,6 @@ private:
     desktop::PictureBox &m_canvas;
     desktop::TabStrip &m_tabs;
     FieldRows &m_rows;
-    std::optional<std::vector<qint16>> SelectedIndexes; // in the order of the clicks; the last element is always spare
+    std::optional<std::vector<qint16>> SelectedIndexes; // in the order of the clicks, and one unused element
     qint16 SelectedCount = 0;
 };

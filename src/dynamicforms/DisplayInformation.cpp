@@ -19,7 +19,7 @@ using runtime::Value;
 
 namespace {
 
-// One more than there are rows of the name, whoever owns them.
+// One more than the number of rows of that name, whoever owns them.
 Value nextVersion(data::Recordset &versions)
 {
     return Value(versions.Eof() ? 1 : versions.RecordCount() + 1);
@@ -49,7 +49,7 @@ void DisplayInformation::setUpContent()
 {
     TabStrip1->setAccessibleName(u"Pages"_s);
     TabStrip1->setDrawBase(false);
-    TabStrip1->setFocusPolicy(Qt::StrongFocus); // a click leaves the box in use before it is unloaded
+    TabStrip1->setFocusPolicy(Qt::StrongFocus); // so that a click takes the focus from a box before it is unloaded
     ListView1->setVisible(false);
     auto *page = new QVBoxLayout(Frame1);
     page->addWidget(ListView1);
@@ -122,9 +122,13 @@ void DisplayInformation::loadForm()
     rows =
         openRows(connection, u"SELECT *, TabInfo.TabNam, TabInfo.TabDescription FROM FieldInfo INNER JOIN TabInfo ON "
                              " FieldInfo.TabId = TabInfo.TabId order by FieldDisplayOrder"_s);
-    for (; !rows.Eof(); rows.MoveNext())
-        m_rows.store(fieldRowOf(rows));
-    m_rows.upperBound(); // refuses a form without fields
+    for (; !rows.Eof(); rows.MoveNext()) {
+        FieldRow &row = m_rows.next();
+        takeNames(row, rows);
+        takePlaces(row, rows);
+        m_rows.countUp();
+    }
+    m_rows.upperBound(); // error 9 for a form without fields
     connection.Close();
 }
 
@@ -198,7 +202,7 @@ void DisplayInformation::cmdEdit_Click()
     else if (command == attachmentsList.command)
         upload();
     else if (command == eventsList.command)
-        return; // events are added as notes, elsewhere
+        return; // the button does nothing on this page
     else if (command == resourcesList.command)
         assignResource();
     else if (EditMode == u"New")
@@ -240,7 +244,7 @@ void DisplayInformation::upload()
     ShowAttachments();
 }
 
-// The link is made there and shows here when the page is opened again.
+// The library's window makes the link. The list here shows it when its page is turned to again.
 void DisplayInformation::assignResource()
 {
     desktop::showNew<frmDocumentExp>([this](frmDocumentExp &library) {
@@ -255,7 +259,7 @@ RecordPages DisplayInformation::pages() const
     return {m_rows, captions(), TabStrip1->SelectedItem(), m_page.values()};
 }
 
-// The boxes have been locked up to here, so what is written is what they were opened with: nothing.
+// The boxes were locked until now, so the user could not type and the values written are those of empty boxes.
 void DisplayInformation::saveNew()
 {
     m_page.setLocked(false);
@@ -316,7 +320,7 @@ void DisplayInformation::ListView1_DblClick()
     });
 }
 
-// Enter does for the keyboard what the double click does.
+// Enter does for the keyboard what a double click does for the mouse; without a selected line it does nothing.
 void DisplayInformation::ListView1_KeyUp(int keyCode)
 {
     if (keyCode == desktop::vbKeyReturn && ListView1->SelectedItem())

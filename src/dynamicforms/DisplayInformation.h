@@ -1,8 +1,8 @@
 // The record window: a person's values on pages that are built from the form's metadata, and three lists about him.
 //
-// The opener sets the public fields before the first touch that loads the window. Two buttons do most of the work and
-// bear what they do as their caption: the page that is shown and EditMode decide it. Showing a page and leaving one
-// pass over every failure; the load, the lists and the commands let it end the program. The form is read once, as the
+// The opener sets the public fields before the first touch that loads the window. What cmdEdit and cmdDelete do changes
+// with the page that is shown and with EditMode, and is their caption. Showing a page and leaving one pass over every
+// failure; a failure of the load, the lists and the commands ends the program. The form is read once, as the
 // window loads; error 9 when it has no fields at all.
 #pragma once
 

@@ -3,7 +3,6 @@
 #include "platform/runtime/RuntimeError.h"
 
 #include <limits>
-#include <utility>
 
 int FieldRows::checked(int position) const
 {
@@ -39,25 +38,25 @@ void FieldRows::countUp()
     ++RowCounter;
 }
 
-void FieldRows::store(FieldRow row)
+FieldRow &FieldRows::next()
 {
     resize();
-    (*this)[RowCounter - 1] = std::move(row);
-    countUp();
+    return (*this)[RowCounter - 1];
 }
 
-FieldRow fieldRowOf(data::Recordset &fields)
+void takeNames(FieldRow &row, data::Recordset &fields)
 {
-    const auto text = [&fields](QStringView column) { return runtime::toText(fields[column].Value()); };
-    FieldRow row;
-    row.RowTabNam = text(u"TabNam");
-    row.RowTabDescription = text(u"TabDescription");
-    row.RowFieldName = text(u"FieldName");
-    row.RowFieldDescription = text(u"FieldDescription");
-    row.RowFieldLeft = text(u"fieldLeft");
-    row.RowFieldTop = text(u"fieldTop");
-    row.RowLabelLeft = text(u"labelLeft");
-    row.RowLabelTop = text(u"labelTop");
-    row.RowFieldWidth = text(u"fieldWidth");
-    return row;
+    row.RowTabNam = runtime::toText(fields[u"TabNam"].Value());
+    row.RowTabDescription = runtime::toText(fields[u"TabDescription"].Value());
+    row.RowFieldName = runtime::toText(fields[u"FieldName"].Value());
+    row.RowFieldDescription = runtime::toText(fields[u"FieldDescription"].Value());
+}
+
+void takePlaces(FieldRow &row, data::Recordset &fields)
+{
+    row.RowFieldLeft = runtime::toText(fields[u"fieldLeft"].Value());
+    row.RowFieldTop = runtime::toText(fields[u"fieldTop"].Value());
+    row.RowLabelLeft = runtime::toText(fields[u"labelLeft"].Value());
+    row.RowLabelTop = runtime::toText(fields[u"labelTop"].Value());
+    row.RowFieldWidth = runtime::toText(fields[u"fieldWidth"].Value());
 }

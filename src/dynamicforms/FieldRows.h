@@ -29,8 +29,9 @@ struct FieldRow
 class FieldRows
 {
 public:
-    // Where the next row goes, plus one; 0 until the load begins. The grid of the designer counts its columns with it
-    // too: whatever it leaves here decides where the next field goes and which rows are cut off.
+    // One more than the position of the next row; 0 until the load begins. The designer's grid counts its columns with
+    // the same number and leaves it at the last of them. The next field is then stored at that position, and the rows
+    // above it are cut off.
     qint16 RowCounter = 0;
 
     int upperBound() const;
@@ -38,8 +39,10 @@ public:
     const FieldRow &operator[](int position) const;
     // Makes RowCounter the upper bound; rows below it stay.
     void resize();
-    // At RowCounter - 1, after resizing; then RowCounter is one more: error 6 behind 32767.
-    void store(FieldRow row);
+    // Makes room for one more row, at RowCounter - 1, and gives it to be filled. It counts once countUp has been
+    // called.
+    FieldRow &next();
+    // Error 6 behind 32767.
     void countUp();
 
 private:
@@ -48,8 +51,10 @@ private:
     std::vector<FieldRow> m_rows;
 };
 
-// The texts of a row of FieldInfo joined with its TabInfo. Error 94 for a Null among them.
-FieldRow fieldRowOf(data::Recordset &fields);
+// Take over the texts of a row of FieldInfo joined with its TabInfo, column by column. Error 94 for a Null: the columns
+// before it have been taken over.
+void takeNames(FieldRow &row, data::Recordset &fields);
+void takePlaces(FieldRow &row, data::Recordset &fields);
 
 // Gives label and box of a field their places. Each assignment goes through step: the windows differ in what they do
 // when a text is no number (error 13).

@@ -1,8 +1,8 @@
 // Writes the designer's pages and fields in the place of the stored ones.
 //
-// Nothing is updated: the designer's rows are thrown away as the writer begins, and every page gets a new key. A
-// failure (a caption with an apostrophe breaks the statement that looks for the key) leaves what has been written up to
-// there and nothing of what was thrown away. The errors of the data objects go to the caller.
+// Nothing is updated: the constructor deletes all stored rows of the designer's, and every page gets a new key. After a
+// failure the rows written so far are stored and the deleted ones are gone. A caption with an apostrophe is one, since
+// it breaks the statement that looks for the page's key. The errors of the data objects go to the caller.
 #pragma once
 
 #include "platform/data/Connection.h"
@@ -29,7 +29,7 @@ class LayoutWriter
 {
 public:
     LayoutWriter();
-    // The fields that follow go on this page, or on the first that is stored under the caption.
+    // The fields that follow go on this page; when the caption stands twice, on the first page that bears it.
     void addPage(const QString &caption, const QString &description);
     void addField(const LayoutField &field);
     void close() { m_connection.Close(); }

@@ -39,7 +39,6 @@ void RecordPage::showField(const FieldRow &row)
     TextBox &box = *Text1.Load(Text1.Count());
     label.setTextFormat(Qt::PlainText);
     label.setShrinksToFit();
-    label.setBuddy(&box);
     box.setAccessibleName(row.RowFieldName);
     QWidget::setTabOrder(Text1(Text1.Count() - 2), &box);
     placeField(label, box, row, [](const auto &step) { everyStep(step); });

@@ -1,8 +1,8 @@
 // The fields of the selected page of the record window: a label and a box for each, where the designer put them.
 //
 // Elements 0 of both arrays are templates and never shown. A box is tied to its column by its tool tip alone, the
-// field's name; one with an empty tool tip is passed over. Whatever fails while a page is shown or left is passed over
-// too, and the next step runs; error 91 where a caption is asked for and no tab is selected is the caller's.
+// field's name; one with an empty tool tip is passed over. A step that fails while a page is shown or left is passed
+// over as well, and the next one runs.
 #pragma once
 
 #include "dynamicforms/FieldRows.h"
@@ -25,7 +25,7 @@ public:
     desktop::ControlArray<desktop::Label> Label1;
     desktop::ControlArray<desktop::TextBox> Text1;
 
-    // All boxes, and those that are still to be loaded.
+    // Locks or unlocks every box, the template too, from which boxes that are loaded later take it over.
     void setLocked(bool locked);
     // Unloads the fields of the last page and loads those of this one, empty.
     void showFields(const QString &caption);

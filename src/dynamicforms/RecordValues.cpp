@@ -19,7 +19,7 @@ QString personOf(QStringView table, qint16 recordId)
     return u"select * from ["_s + table.toString() + u"] where PersonalInformationId="_s + QString::number(recordId);
 }
 
-// Calls with the number of each tab that has a table, from 1, and its caption.
+// Calls visit with the number, counted from 1, and the caption of each tab that has a table.
 template <class Visit> void forEachTable(const QStringList &captions, Visit visit)
 {
     for (int tab = 1; tab <= captions.size(); ++tab) {

@@ -1,8 +1,8 @@
 // A person's values on their way between the data store and the rows of the record window: each page's table is named
 // by its caption, each column by its field.
 //
-// The page "Resources" has no table of its own and is left out. Nothing is held back: a table, a column or the person's
-// row that is missing ends the call, and what has been written up to there stays.
+// The page "Resources" has no table of its own and is left out. A table, a column or a person's row that is missing
+// ends the call with the error of the data objects; what has been written before stays.
 #pragma once
 
 #include "dynamicforms/FieldRows.h"
@@ -25,9 +25,9 @@ void readPerson(FieldRows &rows, const QStringList &captions, qint16 recordId);
 
 void savePerson(const RecordPages &pages, qint16 recordId);
 
-// Adds the person and, under the key that he gets, a row of every page's table, his own among them: the data store
-// decides what becomes of that second row.
+// Adds the person and then a row in every page's table under his new key. When [Personal Information] is such a page it
+// gets the same row a second time, which its key leaves out without an error.
 void addPerson(const RecordPages &pages);
 
-// The person's rows stay.
+// Sets Active to 0. No row is deleted.
 void markDeleted(qint16 recordId);

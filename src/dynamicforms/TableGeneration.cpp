@@ -14,11 +14,6 @@ using runtime::Value;
 
 namespace {
 
-QString withoutBlanks(QString name)
-{
-    return name.remove(u' ');
-}
-
 bool hasColumn(const Table &table, const QString &name)
 {
     for (const Column &column : table.Columns()) {
@@ -68,8 +63,8 @@ void createTable(const QString &TableName, const FieldRows &rows)
     Catalog catalog;
     Table table;
     const data::Columns columns = table.Columns();
-    const QString key = withoutBlanks(TableName + u"Id"_s);
-    const QString date = withoutBlanks(TableName + u"Date"_s);
+    const QString key = QString(TableName + u"Id"_s).remove(u' ');
+    const QString date = QString(TableName + u"Date"_s).remove(u' ');
     const auto set = [&columns](QStringView column, QStringView property, const Value &value) {
         columns.Item(column).Properties().Item(property).setValue(value);
     };

@@ -1,6 +1,6 @@
 // Asks the administrator whose record to open, and opens it.
 //
-// Only who has not been marked as deleted is offered. Error 6 for a key behind 32767, which no record window can show.
+// It offers the persons who are not marked as deleted. Error 6 for a key above 32,767, which no record window can show.
 #pragma once
 
 #include "platform/desktop/Controls.h"

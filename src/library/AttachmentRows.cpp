@@ -52,14 +52,15 @@ void saveAttachment(data::Recordset &attachment, desktop::CommonDialog &dialog)
 {
     dialog.FileName = runtime::fileName(runtime::toText(attachment[u"AttachmentsName"].Value()));
     if (dialog.ShowSave())
-        fetchInto(attachment[u"Attachments"], dialog.FileName);
+        fetchInto(attachment, u"Attachments", dialog.FileName);
 }
 
-// The copy stays where it is until the main window closes; two versions of a name share its place.
+// The copy is deleted when the main window closes. Two versions of a name share one path, and a shorter one keeps the
+// tail of a longer one.
 void viewAttachment(data::Connection &connection, data::Recordset &attachment, const QString &name)
 {
     const QString path = temporaryPath(name);
-    fetchInto(attachment[u"Attachments"], path);
+    fetchInto(attachment, u"Attachments", path);
     connection.Close();
     desktop::ShellExecute(path);
 }

@@ -1,7 +1,7 @@
 // The rows of the files that are attached to somebody: what the dossier and the record window do alike with them.
 //
-// An owner is told by the column that links to him. Names and versions go into the statements as they stand: an
-// apostrophe breaks them. Errors: those of the data objects and of StoredFile.h.
+// An owner is given by the column that links to him and by his key. Names and versions go into the statements as they
+// stand: an apostrophe breaks them. Errors: those of the data objects and of StoredFile.h.
 #pragma once
 
 #include "platform/data/Connection.h"
@@ -15,7 +15,7 @@ struct AttachmentOwner
     qint16 id;
 };
 
-// Gets the rows of one name, whoever owns them, the newest version first.
+// The version of a new row. It gets the rows of the same name, whoever owns them, the newest version first.
 using NextVersion = runtime::Value (*)(data::Recordset &versions);
 
 // A row of its own for the file. attachments: all rows, opened on the connection in order to append.

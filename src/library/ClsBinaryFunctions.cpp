@@ -1,5 +1,6 @@
 #include "library/ClsBinaryFunctions.h"
 
+#include "library/ByteSearch.h"
 #include "library/StoredFile.h"
 #include "platform/data/Constants.h"
 #include "platform/data/DataFactory.h"
@@ -18,7 +19,7 @@ using runtime::Value;
 
 namespace {
 
-// UpLoadBinary looks for versions in a data file of its own, whatever the application folder is.
+// Counts the versions in the one data file that UpLoadBinary knows by its full path, not in the program's own.
 qint16 nextVersionOf(const QString &fileName)
 {
     data::Connection connection;
@@ -41,6 +42,41 @@ QString withoutOuterBlanks(QStringView text)
     while (text.endsWith(u' '))
         text.chop(1);
     return text.toString();
+}
+
+// The bytes that the code page turns into this character of the pattern: both cases of a letter, none for a character
+// that the code page does not have, and all bytes behind the pattern's end.
+ByteSet bytesThatRead(QStringView pattern, qsizetype at, const runtime::CodePage &characters)
+{
+    ByteSet bytes{};
+    if (at >= pattern.size())
+        bytes.fill(true);
+    else
+        std::transform(characters.data(), characters.data() + characters.size(), bytes.data(),
+                       [wanted = pattern[at].unicode()](char16_t character) { return character == wanted; });
+    return bytes;
+}
+
+// The place of the next comparison that gets beyond the pattern's second character. Without one before `to`, the first
+// place from `to` on at which a comparison begins: that is `to`, or the one behind it.
+//
+// A first character followed by no second one consumes the byte behind it, also when that is a first character as well.
+// So of several first characters in a row only every other one is a place at which a comparison begins, counted from
+// `from` or from the first of them.
+qint64 nextPlace(const ByteSearch &beginnings, QByteArrayView file, qint64 from, qint64 to)
+{
+    for (;;) {
+        const qint64 found = beginnings.next(file, from, to);
+        qint64 row = found;
+        while (row > from && beginnings.isFirst(file[row - 1]))
+            --row;
+        const bool isConsumed = (found - row) % 2 == 1;
+        if (!isConsumed)
+            return found;
+        if (found == to)
+            return to + 1;
+        from = found + 1;
+    }
 }
 
 QString selectedText(const desktop::ListView *list)
@@ -72,7 +108,7 @@ bool ClsBinaryFunctions::UpLoadBinary(const QString &FileName, const QString &Fi
 
 bool ClsBinaryFunctions::DownLoadDoc(data::Recordset &rsDownLoad, const QString &FilePath)
 {
-    return runtime::endSilently([&] { fetchInto(rsDownLoad[u"Attachments"], FilePath); });
+    return runtime::endSilently([&] { fetchInto(rsDownLoad, u"Attachments", FilePath); });
 }
 
 void ClsBinaryFunctions::ViewDocument(const QString &AttachmentsId)
@@ -81,9 +117,9 @@ void ClsBinaryFunctions::ViewDocument(const QString &AttachmentsId)
     openDataStore(connection);
     data::Recordset attachment =
         openRows(connection, u"select * from Attachments where AttachmentsId = "_s + AttachmentsId);
-    const desktop::ListView *const list = nullptr; // the windows have one; this class never got any
+    const desktop::ListView *const list = nullptr; // the class has no list, so the next step raises error 424
     ViewPath = temporaryPath(selectedText(list));
-    fetchInto(attachment[u"Attachments"], ViewPath);
+    fetchInto(attachment, u"Attachments", ViewPath);
     connection.Close();
 }
 
@@ -100,7 +136,7 @@ data::Recordset ClsBinaryFunctions::cmdOpendb(const QString &SearchString, const
     m_hitCount = 0;
     for (; !attachments.Eof(); attachments.MoveNext()) {
         const QString path = scanPath(runtime::joinedText(attachments[u"AttachmentsName"].Value()));
-        fetchInto(attachments[u"Attachments"], path);
+        fetchInto(attachments, u"Attachments", path);
         sFile = path;
         if (ScanFile())
             addHit(hits, attachments);
@@ -158,17 +194,17 @@ void ClsBinaryFunctions::ScanAnyCase()
     scan(runtime::ansiUpperCaseCharacters());
 }
 
-// An attempt begins with the byte behind the last one that was taken: the one that ended a failed attempt is gone. None
-// begins where the pattern would reach the file's last byte. Nearly all attempts end with their first byte, so these
-// are passed over at once, but for the very last.
+// Compares at each place that the rule tries, byte by byte and without going back: the byte that ends a failed
+// comparison is consumed. No comparison begins where the pattern would reach the file's last byte. What nextPlace
+// passes over are comparisons that end with their first or second byte; the last two places are left to the loop, so
+// that it ends with the byte that was compared last.
 void ClsBinaryFunctions::scan(const runtime::CodePage &characters)
 {
     const QByteArrayView file = runtime::openFile(FileHandle).bytes();
     const auto *const pattern = Pattern.utf16();
     const qint64 length = PatternLength;
     const qint64 end = qMin<qint64>(FileLength, file.size()) - length;
-    std::array<bool, 256> isFirst{}; // by byte
-    std::ranges::transform(characters, isFirst.begin(), [=](char16_t c) { return length > 0 && c == pattern[0]; });
+    const ByteSearch beginnings(bytesThatRead(Pattern, 0, characters), bytesThatRead(Pattern, 1, characters));
     qint64 position = ReadPosition;
     qint64 index = 0;
     const auto nextCharacter = [&] { return OneChar = characters[uchar(file[position++])]; };
@@ -176,8 +212,7 @@ void ClsBinaryFunctions::scan(const runtime::CodePage &characters)
     while (Found == 0 && position < end) {
         index = 1;
         if (length > 0) {
-            while (position < end - 1 && !isFirst[uchar(file[position])])
-                ++position;
+            position = nextPlace(beginnings, file, position, qMax(position, end - 2));
             if (nextCharacter() != pattern[0])
                 continue;
             // From its place on, a character is found first at that place exactly when it stands there.

@@ -1,9 +1,10 @@
 // Files in and out of the table of attachments, and the search through what they hold.
 //
-// One instance is made for a search and dropped after it. Only cmdOpendb is used by a window; the others stand for
-// themselves. UpLoadBinary and DownLoadDoc answer any failure with False and leave the file open and the recordset
-// where it was, a new row pending; the other two raise what fails. A scan takes each byte of its file once and never
-// goes back, so it can pass over a text that is there.
+// One instance is made for a search and dropped after it. Only cmdOpendb is called by a window; the windows store and
+// fetch files by StoredFile.h. UpLoadBinary and DownLoadDoc answer any failure with False and leave the file open and
+// the recordset where it was, a new row pending; the other two raise what fails. A scan reads each byte once and never
+// goes back: the byte that ends a failed comparison is not tried as the beginning of another, so "aab" is not found in
+// "aaab".
 #pragma once
 
 #include "platform/data/Recordset.h"
@@ -25,21 +26,22 @@ public:
     // stands on its last row. Every attachment is copied into the folder of scans, which has to be there, and deleted
     // again. Error 6 for a text of more than 32,767 characters, and for more hits than that.
     data::Recordset cmdOpendb(const QString &SearchString, const QString &SelectStatement);
-    // Always fails, with error 424 at best: it asks a list for the name, and there is none.
+    // Always fails: error 424, since it takes the name from a list and the class has none, or what the data store
+    // raises before that.
     void ViewDocument(const QString &AttachmentsId);
 
     QString Text2Text;
     qint16 Check1Value = 0; // 1 compares exactly; nobody sets it, so that every search ignores case
     QString sFile;
 
-protected: // what a scan does, for who looks at one by itself
+protected: // the steps of a scan, which tests run one by one
     bool ScanFile();
     void PrepareSearchText();
     void ScanExactCase();
     void ScanAnyCase();
 
     qint32 FileLength = 0;
-    qint32 ReadPosition = 0;  // bytes taken so far: the last one's place, from 1
+    qint32 ReadPosition = 0;  // how many bytes have been read; the last one's place, counted from 1
     qint32 MatchPosition = 0; // from 0; -1 without a hit
     qint32 PatternIndex = 0;  // from 1
     qint16 PatternLength = 0;
@@ -54,6 +56,6 @@ private:
     void addHit(data::Recordset &hits, data::Recordset &attachments);
 
     QString ViewPath;
-    QStringList m_hitNames; // nobody reads them
+    QStringList m_hitNames; // gathered and never read
     qint16 m_hitCount = 0;
 };

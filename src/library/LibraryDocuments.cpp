@@ -20,8 +20,8 @@ constexpr std::array documentColumns{
     ListedColumn{.header = u"Document Version", .column = u"DocuemntVersion"},
 };
 
-// The rows are those of one name in one node, the newest version first. Behind the last number that the column holds
-// comes one that it refuses.
+// The rows are those of one name in one node, the newest version first. The sum is a double, so that the column refuses
+// the number after its largest, instead of a 32-bit sum overflowing.
 Value nextVersion(data::Recordset &versions)
 {
     if (versions.Eof())
@@ -62,7 +62,7 @@ void LibraryDocuments::upload()
     CommonDialog1.Filter = u"All files (*.*)|*.*|EXE files (*.exe)|*.exe|COM files (*.com)|*.com|"
                            "BIN files (*.bin)|*.bin |SYS files (*.sys)|*.sys|DLL files (*.dll)|*.dll"_s;
     if (!CommonDialog1.ShowOpen())
-        throw runtime::RuntimeError(runtime::ObjectRequired); // what would be closed now has never been there
+        throw runtime::RuntimeError(runtime::ObjectRequired); // deliberate: to cancel ends the program
     documents.AddNew();
     CLsDataBaseConnection lookup;
     data::Recordset versions =
@@ -75,7 +75,7 @@ void LibraryDocuments::upload()
     documents[u"DocuemntVersion"].setValue(nextVersion(versions));
     documents.Update();
     file.close();
-    documents.Update();
+    documents.Update(); // as the handler has always done; nothing is pending, so this writes nothing
 }
 
 void LibraryDocuments::linkTo(const QString &person) const

@@ -73,8 +73,8 @@ void LibraryTree::save() const
     objects.Close();
 }
 
-// To select a node, the tree has to find out its place and the width of all that it holds: while the root is alone,
-// that takes no time.
+// The root is selected before the other nodes come: selecting one measures the whole tree, which takes no time while
+// the root is alone.
 void LibraryTree::addRoot()
 {
     Node &root = m_tree.Nodes.Add(nullptr, rootName, rootName);

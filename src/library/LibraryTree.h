@@ -23,7 +23,8 @@ public:
     // Adds a node of the type, "Library" or "Catagory", under the selected one: "Library 3". Its number is that of the
     // nodes so far, so after a removal it can be taken: error 35602.
     void AddNewNode(const QString &type);
-    // Asks, twice when there are nodes under it, and removes the selected node. Rows of documents are not touched.
+    // Removes the selected node after a question, and after a second one when there are nodes under it. The rows of its
+    // documents stay.
     void DeleteNode();
 
     // Whether the node bears the label of the root: one that does counts as the root.

@@ -19,7 +19,8 @@ desktop::PopupMenu *MenuBar::add(const QString &name, const QString &caption)
     return menu;
 }
 
-// Every bar under the frame sees the Alt key and would take the keyboard from the others.
+// A menu bar of Qt takes the keyboard when Alt is pressed anywhere in its top-level window, which it learns from this
+// event. Under the frame that would be several bars at once, so that Alt is left to the frame's.
 bool MenuBar::eventFilter(QObject *watched, QEvent *event)
 {
     return event->type() != QEvent::ShortcutOverride && ControlOf::eventFilter(watched, event);

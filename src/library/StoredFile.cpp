@@ -17,10 +17,11 @@ void FileToStore::close() const
     runtime::CloseFile(m_handle);
 }
 
-void fetchInto(data::Field field, const QString &path)
+void fetchInto(data::Recordset &rows, QStringView column, const QString &path)
 {
     const qint16 handle = runtime::FreeFile();
     runtime::OpenBinary(path, handle, runtime::BinaryAccess::ReadWrite);
+    data::Field field = rows[column];
     const runtime::Value chunk = field.GetChunk(field.ActualSize());
     if (chunk.isNull())
         throw runtime::RuntimeError(runtime::InvalidUseOfNull);

@@ -27,8 +27,9 @@ private:
 };
 
 // Writes the field of the current row over the beginning of the file, which is made when there is none. What stood
-// there beyond the written bytes stays.
-void fetchInto(data::Field field, const QString &path);
+// there beyond the written bytes stays. The file is opened first: a column that is missing (error 3265) leaves it made
+// and open.
+void fetchInto(data::Recordset &rows, QStringView column, const QString &path);
 
 // Where the copy of a stored file goes in order to be opened, or to be scanned. The stored name decides alone: two
 // versions of one name share a path. Error 75 for a name that is no plain file name, so that a data file cannot lead

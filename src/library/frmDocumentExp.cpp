@@ -54,7 +54,8 @@ void frmDocumentExp::setUpMenus()
     setUpNodeMenus();
 }
 
-// The pop-up of the tree stands on the bar too, where the keyboard finds it.
+// The pop-up menu of the tree is the first menu of the bar as well. Only its way as a pop-up sets the states of its
+// items: opened from the bar it shows those of the last time.
 void frmDocumentExp::setUpLibraryOptions()
 {
     addItem(MnuLibraryOption, u"mnuAddCatagory", u"Add Catagory"_s, &frmDocumentExp::addCatagory);
@@ -63,8 +64,6 @@ void frmDocumentExp::setUpLibraryOptions()
     addItem(MnuLibraryOption, u"mnuEditNode", u"Edit"_s);
     addItem(MnuLibraryOption, u"MnuDeleteNode", u"Delete"_s, &frmDocumentExp::deleteNode);
     addItem(MnuLibraryOption, u"MnuRenameNode", u"Rename"_s, &frmDocumentExp::MnuRenameNode_Click);
-    desktop::on(MnuLibraryOption, &QMenu::aboutToShow, this,
-                [](frmDocumentExp *window) { runtime::endSilently([window] { window->setPopupState(); }); });
 }
 
 void frmDocumentExp::setUpFileMenu()
@@ -76,7 +75,7 @@ void frmDocumentExp::setUpFileMenu()
     addItem(file, u"mnuClose", u"Close"_s, &frmDocumentExp::mnuClose_Click);
 }
 
-// The items "Edit" and "Rename ..." have a state and nothing that they do.
+// "Rename Library", "Rename Catagory" and "Edit" are enabled and disabled like the others and have no handler.
 void frmDocumentExp::setUpNodeMenus()
 {
     PopupMenu *library = m_menuBar->add(u"MnuLibrary"_s, u"Library"_s);
@@ -222,7 +221,7 @@ void frmDocumentExp::LstStudenInformation_DblClick()
     });
 }
 
-// What the mouse does by a double click.
+// Enter does for the keyboard what a double click does for the mouse.
 void frmDocumentExp::LstStudenInformation_KeyUp(int keyCode)
 {
     if (keyCode == desktop::vbKeyReturn)

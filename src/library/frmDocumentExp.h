@@ -1,9 +1,9 @@
 // The document library: its structure as a tree on the left, the documents of the selected node on the right.
 //
 // Its opener decides by adminFunction what it is: the manager, which builds the structure and takes files in, or the
-// browser, in which a double click links a document to a person. A failure ends the program, also the one of an upload
-// that is cancelled; the press of a mouse button in the tree, the states of the menus, the splitter and the link
-// swallow theirs. What is not saved is lost without a question.
+// browser, in which a double click links a document to a person. A failure ends the program, and so does cancelling an
+// upload (error 424). Four handlers pass over their failures: a mouse button pressed in the tree, the states of the
+// menus, the splitter and the link. What is not saved is lost without a question.
 #pragma once
 
 #include "library/LibraryDocuments.h"
@@ -18,8 +18,8 @@ class frmDocumentExp : public desktop::Form
 public:
     frmDocumentExp();
 
-    QString NodeName;        // nobody sets it
-    QString NodeDescription; // nor this one
+    QString NodeName; // unused, as the next one
+    QString NodeDescription;
     bool adminFunction = false;
     QString PersonalInformationId; // whom the browser links to
 

@@ -1,10 +1,9 @@
 #include "search/frmFindInfo.h"
 
+#include "library/AttachmentRows.h"
 #include "library/ClsBinaryFunctions.h"
-#include "library/StoredFile.h"
 #include "parts/ListedColumns.h"
 #include "platform/desktop/Keys.h"
-#include "platform/desktop/Launch.h"
 #include "platform/desktop/MsgBox.h"
 #include "platform/runtime/Conversion.h"
 #include "shell/store/CLsDataBaseConnection.h"
@@ -230,7 +229,7 @@ void frmFindInfo::optSearchVersion_Click(int Index)
     txtSpecifyVersion->setEnabled(Index == 1);
 }
 
-// What a file holds can only be searched for what it contains.
+// A search by content is always for a text that the file contains, never for an exact phrase.
 void frmFindInfo::optSearchSummary_Click(int Index)
 {
     optSearchExactPhrase(0)->setEnabled(Index != 1);
@@ -247,7 +246,7 @@ void frmFindInfo::cmdSearch_Click()
 {
     const QString phrase = txtSearchString->text();
     if (optSearchSummary(0)->Value())
-        summaryStatement(phrase); // and there it ends: a search by summary is not carried out
+        summaryStatement(phrase); // only its message is seen: a search by summary is composed and not run
     else if (optSearchSummary(1)->Value())
         searchContent(phrase);
 }
@@ -312,7 +311,6 @@ void frmFindInfo::searchContent(const QString &phrase)
     fillList(*lstViewResults, hits, {}, hitColumns);
 }
 
-// The copy stays where it is until the main window closes.
 void frmFindInfo::lstViewResults_DblClick()
 {
     data::Connection connection;
@@ -320,13 +318,10 @@ void frmFindInfo::lstViewResults_DblClick()
     const desktop::ListItem &hit = *lstViewResults->SelectedItem();
     data::Recordset attachment =
         openRows(connection, u"select * from Attachments where AttachmentsId = "_s + hit.Text());
-    const QString path = temporaryPath(hit.SubItems(1));
-    fetchInto(attachment[u"Attachments"], path);
-    connection.Close();
-    desktop::ShellExecute(path);
+    viewAttachment(connection, attachment, hit.SubItems(1));
 }
 
-// The keyboard's way to what the mouse does by a double click.
+// Enter does for the keyboard what a double click does for the mouse; without a selected hit it does nothing.
 void frmFindInfo::lstViewResults_KeyUp(int keyCode)
 {
     if (keyCode == desktop::vbKeyReturn && lstViewResults->SelectedItem())

@@ -2,8 +2,8 @@
 // through it, the window blocked until it has come to its end; a search by summary is composed and shows nothing.
 //
 // The opener sets MemberId before the first touch that loads the window. Each content search adds its three columns to
-// those that are there. Nothing holds a failure back: a phrase never reaches a statement of a content search, but a
-// file type with an apostrophe or a version that is no number breaks it.
+// those that are there. No handler catches a failure. The phrase is no part of a content search's statement; a file
+// type with an apostrophe or a version that is no number breaks it.
 #pragma once
 
 #include "platform/desktop/ControlArray.h"
@@ -33,7 +33,7 @@ public:
     desktop::ComboBox *lstSearchFileType;
     desktop::ControlArray<desktop::OptionButton> optSearchVersion; // 0 all versions, 1 one
     desktop::TextBox *txtSpecifyVersion;
-    desktop::ListBox *lstSearchCategory; // nobody fills or reads it
+    desktop::ListBox *lstSearchCategory; // stays empty and has no effect
     desktop::CommandButton *cmdSearch;
     desktop::CommandButton *cmdCancel;
     desktop::ListView *lstViewResults;
@@ -46,7 +46,8 @@ public:
     void lstViewResults_DblClick();
     void lstViewResults_KeyUp(int keyCode);
 
-    // What a search asks the store for; unset when a member is to be specified and none is, which a message has told.
+    // The statement of a search. Unset when a member is to be specified and none is selected; a message has told the
+    // user.
     std::optional<QString> summaryStatement(const QString &phrase) const;
     std::optional<QString> contentStatement() const;
 

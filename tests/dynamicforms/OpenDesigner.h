@@ -69,8 +69,14 @@ public:
         QApplication::sendEvent(&control, &move);
     }
     void gather(int index) { QTest::mouseClick(box(index), Qt::LeftButton, Qt::ShiftModifier); }
-    // The button at that place of the toolbar, from 1.
-    void press(int button) { window.Toolbar1->actions().at(button - 1)->trigger(); }
+    void press(const QString &tool)
+    {
+        for (QAction *button : window.Toolbar1->actions()) {
+            if (button->text() == tool)
+                return button->trigger();
+        }
+        qFatal("no tool %s", qPrintable(tool));
+    }
     void generate(QMessageBox::StandardButton answer)
     {
         BoxAnswers boxes({answer});

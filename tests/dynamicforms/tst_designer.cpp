@@ -66,6 +66,51 @@ private Q_SLOTS:
         QCOMPARE(designer.fields().size(), 1);
     }
 
+    // The load ends where it meets the Null, with what stands until then, and what it did not read is not lost.
+    void aFormThatWasNotReadWholeIsNotSaved()
+    {
+        for (const auto &[change, expected, columns] :
+             {std::tuple("UPDATE TabInfo SET TabNam = NULL WHERE TabId = 11", QStringList(u""_s), QStringList()),
+              {"UPDATE TabInfo SET TabDescription = NULL WHERE TabId = 11", {u"Work"_s}, {}},
+              {"UPDATE FieldInfo SET FieldName = NULL WHERE FieldName = 'Street'", {u"Work"_s, u"Home"_s}, {}},
+              {"UPDATE FieldInfo SET fieldLeft = NULL WHERE FieldName = 'Street'",
+               {u"Work"_s, u"Home"_s},
+               {u"Street"_s}}}) {
+            m_folder.emplace(DataStoreFolder::Content::Empty);
+            m_folder->execute(twoPages);
+            m_folder->execute(change);
+            const QStringList stored = m_folder->rows(storedPages) + m_folder->rows(storedFields);
+            OpenDesigner designer;
+            QStringList captions;
+            for (int tab = 1; tab <= designer.window.TabStrip1->Count(); ++tab)
+                captions << designer.window.TabStrip1->Caption(tab);
+            QCOMPARE(captions, expected);
+            QCOMPARE(designer.fields(), QStringList());
+            designer.window.cmdSave->click();
+            QCOMPARE(m_errors->takeNumber(), 94);
+            QCOMPARE(m_folder->rows(storedPages) + m_folder->rows(storedFields), stored);
+            if (columns == QStringList(u"Street"_s)) { // what was read of its row stands
+                designer.generate(QMessageBox::No);
+                QCOMPARE(columnsOf(*m_folder, "Home").mid(3), columns);
+            }
+        }
+    }
+
+    // As in "R & D" and "<b>": no shortcut and no rich text.
+    void namesAreShownAsTheyStand()
+    {
+        m_folder->execute(twoPages);
+        m_folder->execute("UPDATE TabInfo SET TabNam = 'R & D && <b>x</b>' WHERE TabId = 11;"
+                          "UPDATE FieldInfo SET FieldName = '<b>A</b> & B' WHERE FieldName = 'Post'");
+        OpenDesigner designer;
+        QCOMPARE(designer.window.TabStrip1->Caption(1), u"R & D && <b>x</b>"_s);
+        QCOMPARE(designer.label(1)->text(), u"<b>A</b> & B"_s);
+        QCOMPARE(designer.label(1)->textFormat(), Qt::PlainText);
+        QVERIFY(!designer.label(1)->buddy()); // which would make the ampersand a shortcut
+        designer.window.cmdSave->click();
+        QCOMPARE(m_folder->rows(storedPages).value(0), u"R & D && <b>x</b>|At work"_s);
+    }
+
     void withoutAFormTwoMovesAreFatal()
     {
         m_folder->execute(noForm);
@@ -88,10 +133,9 @@ private Q_SLOTS:
         designer.addField({});
         designer.addField(u"Phone"_s);
         designer.addTab({});
-        QStringList texts;
-        for (const SeenBox &box : boxes.seen)
-            texts << box.text;
-        QCOMPARE(texts, (QStringList{u"Invalid Field Name"_s, u"Invalid Form Name"_s, u"Invalid Tab Name"_s}));
+        const QStringList expected{u"Invalid Field Name"_s, u"Invalid Form Name"_s, u"Invalid Tab Name"_s};
+        for (qsizetype at = 0; at < expected.size(); ++at)
+            QCOMPARE(boxes.seen.value(at).text, expected[at]);
         designer.window.cmdFieldClear->click();
         QCOMPARE(designer.window.txtFieldName->text(), QString());
     }
@@ -106,13 +150,13 @@ private Q_SLOTS:
         OpenDesigner::drag(*designer.label(1), 15, 15, Qt::ShiftModifier); // which means nothing to a label
         QCOMPARE(designer.fields().value(0), u"Post 315,1815 3060,1770 1500"_s);
         OpenDesigner::drag(*designer.box(2), 60, 60, Qt::ShiftModifier);
-        designer.press(1);
+        designer.press(u"Lock Objects"_s);
         OpenDesigner::drag(*designer.box(3), 60, 60);
         OpenDesigner::drag(*designer.label(3), 60, 60);
         QCOMPARE(designer.fields().sliced(1),
                  (QStringList{u"Firm 300,600 3000,600 1500"_s, u"Desk 300,1200 3000,1200 1500"_s}));
         QCOMPARE(designer.window.txtWidth->Tag, u"3"_s); // a locked box is still the chosen one
-        designer.press(2);
+        designer.press(u"Unlock Objects"_s);
         OpenDesigner::drag(*designer.box(3), 60, 60);
         QCOMPARE(designer.fields().value(2), u"Desk 300,1200 3060,1260 1500"_s);
     }
@@ -136,26 +180,31 @@ private Q_SLOTS:
         OpenDesigner designer;
         {
             BoxAnswers boxes({QMessageBox::Ok});
-            designer.press(4);
+            designer.press(u"Align Top"_s);
             QCOMPARE(boxes.seen.value(0).text, u"Please select two or more objects"_s);
         }
         designer.box(3)->setWidth(3300);
         designer.gather(3);
         designer.gather(1);
         designer.gather(1);
-        designer.press(4);
+        designer.press(u"Align Top"_s);
         QCOMPARE(designer.fields(), (QStringList{u"Post 300,1800 3000,1200 1500"_s, u"Firm 300,600 3000,600 1500"_s,
                                                  u"Desk 300,1200 3000,1200 3300"_s}));
-        designer.press(7); // nothing is gathered any more, and that is no failure any more
+        designer.press(u"Same Width"_s); // nothing is gathered any more, and that is no failure any more
         designer.gather(3);
         designer.gather(2);
-        designer.press(7);
+        designer.press(u"Same Width"_s);
         QCOMPARE(designer.box(2)->Width(), 3300);
+        designer.box(1)->setLeft(1200);
+        designer.gather(1);
+        designer.gather(3);
+        designer.press(u"Align Left"_s);
+        QCOMPARE(designer.box(3)->Left(), 1200);
         designer.gather(3);
         designer.gather(1);
         designer.clickTab(2); // where there is no third box
         BoxAnswers boxes({QMessageBox::Ok});
-        designer.press(5);
+        designer.press(u"Align Left"_s);
     }
 
     void aPageKeepsItsPlacesButForTheFirstRow()
@@ -169,24 +218,6 @@ private Q_SLOTS:
         designer.clickTab(1);
         QCOMPARE(designer.fields(), (QStringList{u"Post 300,1800 3000,1800 1500"_s, u"Firm 345,645 3030,630 1500"_s,
                                                  u"Desk 300,1200 3000,1200 1500"_s}));
-    }
-
-    void gridLines_data()
-    {
-        QTest::addColumn<float>("x");
-        QTest::addColumn<int>("step");
-        QTest::addColumn<float>("line");
-        QTest::newRow("below the middle") << 99.0F << 200 << 0.0F;
-        QTest::newRow("the middle") << 100.0F << 200 << 200.0F;
-        QTest::newRow("rounded before it is compared") << 299.6F << 200 << 400.0F;
-        QTest::newRow("rounded onto the next line") << 399.6F << 200 << 200.0F;
-        QTest::newRow("another step") << 1030.0F << 50 << 1050.0F;
-    }
-    void gridLines()
-    {
-        QFETCH(float, x);
-        QFETCH(int, step);
-        QTEST(snappedToGrid(x, qint16(step)), "line");
     }
 
     void pointsShowOnlyWithTheGrid()
@@ -274,9 +305,6 @@ private Q_SLOTS:
         m_folder->execute(twoPages);
         OpenDesigner designer;
         designer.addTab(u"Home"_s);
-        designer.clickTab(3);
-        QCOMPARE(designer.fields().size(), 1);
-        designer.clickTab(1);
         designer.window.cmdSave->click();
         QCOMPARE(m_folder->row("SELECT count(*), count(DISTINCT TabId) FROM FieldInfo WHERE FieldName = 'Street'"),
                  u"2|1"_s); // on the first page of that caption
@@ -338,22 +366,6 @@ private Q_SLOTS:
         QCOMPARE(columnsOf(*m_folder, "MemberType").sliced(2), (QStringList{u"Post"_s, u"Desk"_s}));
         QCOMPARE(m_folder->row("SELECT group_concat(MemberType) FROM MemberType"), before);
         QCOMPARE(m_folder->row("SELECT type FROM sqlite_master WHERE name = 'Home'"), u"view"_s);
-    }
-
-    void oddNamesBecomeTablesOrNothing()
-    {
-        m_folder->execute(noForm);
-        constexpr const char *tables = "SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY rowid";
-        const QStringList before = m_folder->rows(tables);
-        OpenDesigner designer;
-        const QStringList names{u"it's"_s, u"Select"_s, u"a \"b\" c."_s, QString(200, u'n'), u"[x]"_s};
-        for (const QString &name : names)
-            designer.addTab(name);
-        designer.addField(u"Order"_s); // on the first page
-        designer.addField(u"it's"_s);
-        designer.generate(QMessageBox::No);
-        QCOMPARE(m_folder->rows(tables).sliced(before.size()), names.first(4));
-        QCOMPARE(columnsOf(*m_folder, "it''s").sliced(3), (QStringList{u"Order"_s, u"it's"_s}));
     }
 
 private:

@@ -66,54 +66,39 @@ private Q_SLOTS:
         QCOMPARE(library.documents().size(), 5);
     }
 
-    void whatCannotBeUploadedEndsTheProgram_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("error");
-        QTest::newRow("cancelled") << QString() << 424;
-        QTest::newRow("apostrophe") << u"it's.txt"_s << -2147217900;
-        QTest::newRow("behind the last version") << u"full.txt"_s << -2147217887;
-        QTest::newRow("behind an unknown version") << u"null.txt"_s << 0;
-    }
     void whatCannotBeUploadedEndsTheProgram()
     {
-        QFETCH(QString, name);
-        QFETCH(int, error);
         m_folder->execute("INSERT INTO Resources (ObjectIndex, DocumentName, DocuemntVersion) VALUES"
                           " (1, 'full.txt', 2147483647), (1, 'null.txt', NULL)");
         OpenLibrary library;
-        FileAnswers files({name.isEmpty() ? QString() : m_folder->write(name, "x")});
-        library.choose("mnuUpLoadDocument");
-        QCOMPARE(m_errors->takeNumber(), error);
-        QCOMPARE(m_folder->row("SELECT count(*), count(DocuemntVersion) FROM Resources"),
-                 error == 0 ? u"3|1"_s : u"2|1"_s);
-        QCOMPARE(m_folder->row("PRAGMA integrity_check"), u"ok"_s);
+        for (const auto &[name, error] : {std::pair(QString(), 424),
+                                          {u"it's.txt"_s, -2147217900},
+                                          {u"full.txt"_s, -2147217887},
+                                          {u"null.txt"_s, 0}}) {
+            FileAnswers files({name.isEmpty() ? QString() : m_folder->write(name, "x")});
+            library.choose("mnuUpLoadDocument");
+            QCOMPARE(m_errors->takeNumber(), error);
+            QCOMPARE(m_folder->row("SELECT count(*), count(DocuemntVersion) FROM Resources"),
+                     error == 0 ? u"3|1"_s : u"2|1"_s);
+        }
     }
 
-    void aDoubleClickLinksInTheBrowser_data()
-    {
-        QTest::addColumn<Mode>("mode");
-        QTest::addColumn<QString>("person");
-        QTest::addColumn<QStringList>("links");
-        QTest::newRow("browser") << Mode::Browser << u"7"_s << QStringList{u"2|7"_s, u"2|7"_s};
-        QTest::newRow("manager") << Mode::Manager << u"7"_s << QStringList();
-        QTest::newRow("no person") << Mode::Browser << QString() << QStringList();
-        QTest::newRow("no number") << Mode::Browser << u"Cole"_s << QStringList();
-    }
     void aDoubleClickLinksInTheBrowser()
     {
-        QFETCH(Mode, mode);
-        QFETCH(QString, person);
-        QFETCH(QStringList, links);
         m_folder->execute("INSERT INTO Resources (ObjectIndex, DocumentName) VALUES (2, 'a.txt'), (2, 'b.txt')");
-        OpenLibrary library(mode, person);
-        library.window().PersonalInformationId = person;
-        QTest::mouseDClick(library.list().viewport(), Qt::LeftButton, {}, QPoint(10, 10)); // an empty list
-        library.press(2);
         BoxAnswers boxes; // nothing is told
-        library.doubleClickDocument(2);
-        QTest::keyClick(&library.list(), Qt::Key_Return);
-        QCOMPARE(m_folder->rows("SELECT DocumentId, PersonalInformationId FROM ReferenceInfo"), links);
+        for (const auto &[mode, person, links] : {std::tuple(Mode::Manager, u"7"_s, QStringList()),
+                                                  {Mode::Browser, QString(), {}},
+                                                  {Mode::Browser, u"Cole"_s, {}},
+                                                  {Mode::Browser, u"7"_s, {u"2|7"_s, u"2|7"_s}}}) {
+            OpenLibrary library(mode, person);
+            library.window().PersonalInformationId = person;
+            QTest::mouseDClick(library.list().viewport(), Qt::LeftButton, {}, QPoint(10, 10)); // an empty list
+            library.press(2);
+            library.doubleClickDocument(2);
+            QTest::keyClick(&library.list(), Qt::Key_Return);
+            QCOMPARE(m_folder->rows("SELECT DocumentId, PersonalInformationId FROM ReferenceInfo"), links);
+        }
     }
 
 private:
