@@ -43,7 +43,7 @@ private:
     }
 
     std::vector<const char *> m_names;
-    std::vector<int> m_limits; // sums of the weights up to and with each name
+    std::vector<int> m_limits; // for each name the sum of the weights up to and including its own
 };
 
 QByteArray number(int value)
@@ -51,7 +51,8 @@ QByteArray number(int value)
     return QByteArray::number(value);
 }
 
-// No statement draws twice: the order in which a compiler evaluates operands must not change the file.
+// Each statement draws one random number at most: compilers evaluate operands in different orders, and the file must
+// not depend on that.
 class Generator
 {
 public:
@@ -100,7 +101,7 @@ private:
         return text;
     }
 
-    // A text, the empty text or Null.
+    // The text, or in the remaining cases the empty text or Null, as often each.
     runtime::Value optional(int filledPercent, const QByteArray &text)
     {
         const int draw = m_random.below(100);
@@ -235,7 +236,7 @@ void Generator::addNotes()
     }
 }
 
-// Pieces of the pool, up to the length of a file, and the zero byte.
+// The content of a file as an upload stores it: pieces of the pool up to the length asked for, then one zero byte.
 QByteArray Generator::someContent(const QByteArray &pool)
 {
     const qsizetype length = m_options.attachmentBytes;
@@ -254,7 +255,7 @@ void Generator::addAttachments()
     Inserter insert(m_file, "INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion, AttachmentsDate, "
                             "AttachmentDescription, AttachmentExtension, Attachments) VALUES (?, ?, ?, ?, ?, ?, ?)");
     const QByteArray pool = m_options.attachments ? someText(10'000) : QByteArray();
-    QHash<QByteArray, int> versions; // by the name alone, as every upload counts them
+    QHash<QByteArray, int> versions; // for each name; an upload counts over all members
     for (int i = 0; i < m_options.attachments; ++i) {
         const int member = someMember();
         const char *stem = m_random.oneOf(fileStems());
