@@ -1,5 +1,6 @@
 #include "datafile/Schema.h"
 
+#include "datafile/Groups.h"
 #include "datafile/WholeResult.h"
 #include "platform/runtime/RuntimeError.h"
 
@@ -27,6 +28,7 @@ void fillNewFile(const QString &path, const std::function<void(data::Database &)
     file.execute(builtIn(u"seed.sql"_s));
     if (fill)
         fill(file);
+    addMissingGroups(file);
     file.execute("COMMIT");
 }
 
