@@ -1,5 +1,7 @@
 #include "datafile/Check.h"
 
+#include "datafile/Progress.h"
+#include "datafile/RowChecks.h"
 #include "datafile/Schema.h"
 #include "platform/data/engine/ColumnType.h"
 
@@ -65,7 +67,7 @@ Layout layoutOf(const data::Database &file)
 Layout expectedLayout()
 {
     data::Database scratch;
-    scratch.create(u":memory:"_s);
+    scratch.createInMemory();
     createTables(scratch);
     Layout layout = layoutOf(scratch);
     layout.tables.removeIf([](const auto &entry) { return entry.key().startsWith("sqlite_"); });
@@ -136,17 +138,33 @@ void checkSoundness(const data::Database &file, QStringList &faults)
     }
 }
 
-} // namespace
-
-QStringList faultsOf(const QString &path)
+QStringList faultsOfLayout(data::Database &file)
 {
-    data::Database file;
-    file.open(path);
+    stopOnSignals(file);
     QStringList faults;
     const Layout actual = layoutOf(file);
     compareLayouts(expectedLayout(), actual, faults);
     checkSeedRows(file, actual, faults);
     checkSoundness(file, faults);
+    return faults;
+}
+
+} // namespace
+
+QStringList faultsOfLayout(const QString &path)
+{
+    data::Database file;
+    file.open(path);
+    return faultsOfLayout(file);
+}
+
+QStringList faultsOf(const QString &path)
+{
+    data::Database file;
+    file.open(path);
+    QStringList faults = faultsOfLayout(file);
+    if (faults.isEmpty()) // otherwise a statement may name a table or column that is missing
+        faults = faultsOfRows(file);
     return faults;
 }
 

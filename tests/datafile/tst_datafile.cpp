@@ -79,6 +79,33 @@ void tst_datafile::checkFinds_data()
         "DROP TABLE MemberType; CREATE TABLE MemberType (MemberTypeId INTEGER PRIMARY KEY, MemberType TEXT);"
         "INSERT INTO MemberType VALUES (1, 'Regular')",
         u"column [MemberType].[MemberTypeId] is no key"_s);
+    row("date", "INSERT INTO Contributions (ContributionDate) VALUES ('5/1/2003')",
+        u"row 1 of [Contributions]: \"5/1/2003\" in column [ContributionDate] is not"_s);
+    row("no such day", "INSERT INTO MeetingInfo (MeetingDate) VALUES ('2003-02-30 00:00:00')",
+        u"row 1 of [MeetingInfo]: \"2003-02-30 00:00:00\""_s);
+    row("amount", "INSERT INTO Contributions (ContributionAmount) VALUES ('many')", u"row 1 of [Contributions]"_s);
+    row("17 bits", "INSERT INTO Attachments (AttachmentsName, AttachmentVersion) VALUES ('a', 32768)",
+        u"row 1 of [Attachments]: \"32768\""_s);
+    row("path", "INSERT INTO Attachments (AttachmentsName) VALUES ('../Tolmark.mdb')",
+        u"row 1 of [Attachments]: the file cannot be opened under its name \"../Tolmark.mdb\""_s);
+    row("nameless document", "INSERT INTO Resources (DocumentId) VALUES (7)", u"row 7 of [Resources]: the file"_s);
+    row("group", "INSERT INTO MemberInformation (LastName) VALUES ('élan'), ('Éclair')",
+        u"\"Éclair\" and 1 more are in no group of the explorers; INSERT INTO NodeInformation (NodeName, NodeActive) "
+        u"VALUES ('É', 1)"_s);
+    row("group switched off",
+        "UPDATE NodeInformation SET NodeActive = 0 WHERE NodeName = 'P';"
+        "INSERT INTO EventInformation (EventName) VALUES ('Picnic')",
+        u"\"Picnic\" is in no group"_s);
+    row("no last name", "INSERT INTO MemberInformation (FirstName) VALUES ('Ann')", u"\"\" is in no group"_s);
+    row("page without table", "INSERT INTO TabInfo (TabNam) VALUES ('Skills')", u"page \"Skills\" has no table"_s);
+    row("page without link", "INSERT INTO TabInfo (TabNam) VALUES ('Security')",
+        u"page \"Security\": its table lacks"_s);
+    row("field without column", "INSERT INTO FieldInfo (TabId, FieldName) VALUES (1, 'Shoe')",
+        u"page \"Personal Information\": its table has no column for the field \"Shoe\""_s);
+    row("person without row",
+        "INSERT INTO TabInfo (TabNam) VALUES ('My \"Page');"
+        "CREATE TABLE \"My \"\"Page\" (PersonalInformationId INTEGER)",
+        u"page \"My \"Page\": no row in its table for 1 of the"_s);
     row("further table and column", "CREATE TABLE More (Id INTEGER); ALTER TABLE Security ADD COLUMN Shoe TEXT", {});
     row("same type, other words",
         "DROP TABLE CategoryInfo; CREATE TABLE categoryinfo (CATEGORYNAME VARCHAR(50), CategoryActive BOOL DEFAULT -1);"
