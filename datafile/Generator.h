@@ -3,6 +3,8 @@
 // Members are numbered from 1 without a gap. Raises 5 for a count outside its range, and the errors of createDataFile.
 #pragma once
 
+#include "datafile/Progress.h"
+
 #include <QString>
 
 namespace datafile {
@@ -28,6 +30,6 @@ struct GeneratorOptions
     int events = 200;
 };
 
-void createGeneratedFile(const QString &path, const GeneratorOptions &options);
+void createGeneratedFile(const QString &path, const GeneratorOptions &options, Progress *progress = nullptr);
 
 } // namespace datafile
