@@ -1,5 +1,7 @@
 #include "datafile/Check.h"
 
+#include "datafile/Progress.h"
+#include "datafile/RowChecks.h"
 #include "datafile/Schema.h"
 #include "platform/data/engine/ColumnType.h"
 
@@ -28,14 +30,14 @@ struct Table
     QMap<QByteArray, Column> columns;
 };
 
-// By lower-case names: names do not differ by case.
+// Keyed by the names in lower case, because SQLite compares names without regard to case.
 struct Layout
 {
     QMap<QByteArray, Table> tables;
     QMap<QByteArray, QByteArray> indexes;
 };
 
-// Without these rows the explorers, the note window, the login or the record window fail or show nothing.
+// Where one of these is empty, the explorers, the note window, the login or the record window fail or show nothing.
 constexpr std::array seededTables{"NodeInformation", "MemberType", "CategoryInfo", "Security", "TabInfo", "FieldInfo"};
 
 Layout layoutOf(const data::Database &file)
@@ -61,18 +63,19 @@ Layout layoutOf(const data::Database &file)
     return layout;
 }
 
-// What a new file has, without SQLite's own tables.
+// The layout of a new file, without the tables that SQLite adds for itself.
 Layout expectedLayout()
 {
     data::Database scratch;
-    scratch.create(u":memory:"_s);
+    scratch.createInMemory();
     createTables(scratch);
     Layout layout = layoutOf(scratch);
     layout.tables.removeIf([](const auto &entry) { return entry.key().startsWith("sqlite_"); });
     return layout;
 }
 
-// A constant has to be the same; how a current date is come by is the file's own affair.
+// A default that is a constant has to be equal. One that is the current date may be any expression, since a file can
+// compute it in several ways.
 bool serves(const QByteArray &actualDefault, const QByteArray &expectedDefault)
 {
     bool isConstant = false;
@@ -118,7 +121,7 @@ void checkSeedRows(const data::Database &file, const Layout &actual, QStringList
 {
     for (const char *name : seededTables) {
         if (!actual.tables.contains(QByteArray(name).toLower()))
-            continue; // told already
+            continue; // compareLayouts has told that it is missing
         data::Statement row = file.prepare(QByteArray("SELECT 1 FROM ") + name + " LIMIT 1");
         if (!row.step())
             faults << u"table [%1] has no rows"_s.arg(QString::fromUtf8(name));
@@ -135,17 +138,33 @@ void checkSoundness(const data::Database &file, QStringList &faults)
     }
 }
 
-} // namespace
-
-QStringList faultsOf(const QString &path)
+QStringList faultsOfLayout(data::Database &file)
 {
-    data::Database file;
-    file.open(path);
+    stopOnSignals(file);
     QStringList faults;
     const Layout actual = layoutOf(file);
     compareLayouts(expectedLayout(), actual, faults);
     checkSeedRows(file, actual, faults);
     checkSoundness(file, faults);
+    return faults;
+}
+
+} // namespace
+
+QStringList faultsOfLayout(const QString &path)
+{
+    data::Database file;
+    file.open(path);
+    return faultsOfLayout(file);
+}
+
+QStringList faultsOf(const QString &path)
+{
+    data::Database file;
+    file.open(path);
+    QStringList faults = faultsOfLayout(file);
+    if (faults.isEmpty()) // otherwise a statement may name a table or column that is missing
+        faults = faultsOfRows(file);
     return faults;
 }
 

@@ -43,7 +43,7 @@ private:
     }
 
     std::vector<const char *> m_names;
-    std::vector<int> m_limits; // sums of the weights up to and with each name
+    std::vector<int> m_limits; // for each name the sum of the weights up to and including its own
 };
 
 QByteArray number(int value)
@@ -51,12 +51,13 @@ QByteArray number(int value)
     return QByteArray::number(value);
 }
 
-// No statement draws twice: the order in which a compiler evaluates operands must not change the file.
+// Each statement draws one random number at most: compilers evaluate operands in different orders, and the file must
+// not depend on that.
 class Generator
 {
 public:
-    Generator(data::Database &file, const GeneratorOptions &options)
-        : m_file(file), m_options(options), m_random(options.seed)
+    Generator(data::Database &file, const GeneratorOptions &options, Progress *progress)
+        : m_file(file), m_options(options), m_progress(progress), m_random(options.seed)
     {
     }
 
@@ -72,6 +73,15 @@ public:
     }
 
 private:
+    // Before each row of a table.
+    void tell()
+    {
+        const GeneratorOptions &all = m_options;
+        if (m_progress)
+            m_progress->at(m_done++, qint64(all.members) + all.interests + all.events + all.assignedEvents +
+                                         all.contributions + all.notes + all.attachments);
+    }
+
     int someMember() { return 1 + m_random.below(m_options.members); }
 
     QByteArray someDay() { return QDate(1998, 1, 1).addDays(m_random.below(2000)).toString(Qt::ISODate).toLatin1(); }
@@ -100,7 +110,7 @@ private:
         return text;
     }
 
-    // A text, the empty text or Null.
+    // The text, or in the remaining cases the empty text or Null, as often each.
     runtime::Value optional(int filledPercent, const QByteArray &text)
     {
         const int draw = m_random.below(100);
@@ -120,6 +130,8 @@ private:
 
     data::Database &m_file;
     const GeneratorOptions &m_options;
+    Progress *m_progress;
+    qint64 m_done = 0; // rows
     Random m_random;
     QByteArrayList m_eventNames;
 };
@@ -134,6 +146,7 @@ void Generator::addMembers()
     const SurnameDrawer all;
     const SurnameDrawer crowd(m_options.crowdInitial);
     for (int id = 1; id <= m_options.members; ++id) {
+        tell();
         QByteArray lastName = (id <= m_options.crowd ? crowd : all).draw(m_random);
         if (m_random.percent(3))
             lastName += QByteArray("-") + all.draw(m_random);
@@ -161,6 +174,7 @@ void Generator::addInterests()
 {
     Inserter insert(m_file, "INSERT INTO MemberInterest (MemberId, Interest, InterestDescription) VALUES (?, ?, ?)");
     for (int i = 0; i < m_options.interests; ++i) {
+        tell();
         const int member = someMember();
         const char *interest = m_random.oneOf(interests());
         insert(member, interest, optional(60, someText(4)));
@@ -173,6 +187,7 @@ void Generator::addEvents()
                             "EventEndDate, EventStartTime, EventEndTime, EventStartTimeAmPm, EventEndTimeAmPm, Active) "
                             "VALUES (?, ?, ?, ?, ?, ?, ?, 'AM', 'PM', ?)");
     for (int i = 0; i < m_options.events; ++i) {
+        tell();
         const QByteArray name = m_random.oneOf(eventNames()) + QByteArray(" ") + number(i + 1);
         const QByteArray month = number(1 + m_random.below(12));
         const QByteArray day = month + '/' + number(1 + m_random.below(28)) + "/2003";
@@ -192,6 +207,7 @@ void Generator::addAssignedEvents()
     Inserter insert(m_file, "INSERT INTO EventMemberInfo (MemberId, EventName, EventActualStartTime, "
                             "EventActualEndTime, EventActualDate, EventComments) VALUES (?, ?, ?, ?, ?, ?)");
     for (int i = 0; i < m_options.assignedEvents; ++i) {
+        tell();
         const int member = someMember();
         const QByteArray &event = m_random.oneOf(m_eventNames);
         const QByteArray start = someMinute(6);
@@ -206,6 +222,7 @@ void Generator::addContributions()
     Inserter insert(m_file, "INSERT INTO Contributions (MemberId, ContributionDate, ContributionAmount, "
                             "ContributionNotes) VALUES (?, ?, ?, ?)");
     for (int i = 0; i < m_options.contributions; ++i) {
+        tell();
         const int member = someMember();
         const QByteArray day = someDay() + " 00:00:00";
         const runtime::Value amount(runtime::Currency::fromScaled((1 + m_random.below(50'000)) * qint64(100)));
@@ -221,6 +238,7 @@ void Generator::addNotes()
                             "MeetingEnteredDate, MeetingType, MeetingCatagory, MeetingSubject, MeetingNotes) "
                             "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)");
     for (int i = 0; i < m_options.notes; ++i) {
+        tell();
         const int member = someMember();
         const QByteArray day = someDay();
         const QByteArray start = "1899-12-30 " + someMinute(7) + ":00";
@@ -235,7 +253,7 @@ void Generator::addNotes()
     }
 }
 
-// Pieces of the pool, up to the length of a file, and the zero byte.
+// The content of a file as an upload stores it: pieces of the pool up to the length asked for, then one zero byte.
 QByteArray Generator::someContent(const QByteArray &pool)
 {
     const qsizetype length = m_options.attachmentBytes;
@@ -254,8 +272,9 @@ void Generator::addAttachments()
     Inserter insert(m_file, "INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion, AttachmentsDate, "
                             "AttachmentDescription, AttachmentExtension, Attachments) VALUES (?, ?, ?, ?, ?, ?, ?)");
     const QByteArray pool = m_options.attachments ? someText(10'000) : QByteArray();
-    QHash<QByteArray, int> versions; // by the name alone, as every upload counts them
+    QHash<QByteArray, int> versions; // for each name; an upload counts over all members
     for (int i = 0; i < m_options.attachments; ++i) {
+        tell();
         const int member = someMember();
         const char *stem = m_random.oneOf(fileStems());
         const char *extension = m_random.oneOf(extensions);
@@ -287,10 +306,10 @@ void checkOptions(const GeneratorOptions &options)
 
 } // namespace
 
-void createGeneratedFile(const QString &path, const GeneratorOptions &options)
+void createGeneratedFile(const QString &path, const GeneratorOptions &options, Progress *progress)
 {
     checkOptions(options);
-    createDataFile(path, [&options](data::Database &file) { Generator(file, options).run(); });
+    createDataFile(path, [&options, progress](data::Database &file) { Generator(file, options, progress).run(); });
 }
 
 } // namespace datafile

@@ -1,8 +1,9 @@
 // Organisations of any size, the same for the same options on every system: for tests and benchmarks.
 //
-// Members are numbered from 1 without a gap. Raises 5 for counts outside their ranges, otherwise as createDataFile
-// does.
+// Members are numbered from 1 without a gap. Raises 5 for a count outside its range, and the errors of createDataFile.
 #pragma once
+
+#include "datafile/Progress.h"
 
 #include <QString>
 
@@ -13,8 +14,8 @@ struct GeneratorOptions
     quint32 seed = 1;
     int members = 1000; // 1 .. 32,767: the windows keep a member's number in 16 bits
     int inactivePercent = 5;
-    // So many members, the first ones, have a last name with this initial ('A' .. 'Z'); the others' names spread
-    // over the letters as surnames do.
+    // The first `crowd` members have a last name with this initial ('A' .. 'Z'), for a group of a known size. The other
+    // names are drawn from all surnames by their frequency.
     int crowd = 0;
     char crowdInitial = 'S';
 
@@ -23,12 +24,12 @@ struct GeneratorOptions
     int contributions = 2000;
     int assignedEvents = 2000;
     int notes = 1000;
-    int attachments = 300;     // some of them later versions of a file
+    int attachments = 300;     // a name that is drawn again becomes the next version of the file
     int attachmentBytes = 400; // of each file; the stored value has a zero byte more
 
     int events = 200;
 };
 
-void createGeneratedFile(const QString &path, const GeneratorOptions &options);
+void createGeneratedFile(const QString &path, const GeneratorOptions &options, Progress *progress = nullptr);
 
 } // namespace datafile

@@ -13,7 +13,7 @@ constexpr std::array surnameTable{
     Surname{"Brown", 98},     Surname{"Butler", 15},     Surname{"Byrne", 4},       Surname{"Campbell", 28},
     Surname{"Carter", 27},    Surname{"Clark", 40},      Surname{"Collins", 22},    Surname{"Cook", 21},
     Surname{"Cooper", 20},    Surname{"Cox", 19},        Surname{"Cruz", 18},       Surname{"Davis", 80},
-    Surname{"Diaz", 18},      Surname{"Dixon", 8},       Surname{"Duncan", 7},      Surname{"D'Amico", 2},
+    Surname{"Diaz", 18},      Surname{"Dixon", 8},       Surname{"Duncan", 7},      Surname{"Damico", 2},
     Surname{"Edwards", 23},   Surname{"Evans", 25},      Surname{"Ellis", 13},      Surname{"Erickson", 6},
     Surname{"Fisher", 13},    Surname{"Flores", 22},     Surname{"Ford", 13},       Surname{"Foster", 14},
     Surname{"Freeman", 11},   Surname{"Garcia", 61},     Surname{"Gonzalez", 42},   Surname{"Graham", 13},
@@ -28,8 +28,8 @@ constexpr std::array surnameTable{
     Surname{"Martin", 47},    Surname{"Martinez", 55},   Surname{"Mason", 10},      Surname{"Miller", 80},
     Surname{"Mitchell", 27},  Surname{"Moore", 53},      Surname{"Morgan", 19},     Surname{"Morris", 21},
     Surname{"Murphy", 20},    Surname{"Murray", 11},     Surname{"McDonald", 11},   Surname{"Nelson", 29},
-    Surname{"Nguyen", 21},    Surname{"Newman", 6},      Surname{"Núñez", 4},       Surname{"O'Brien", 8},
-    Surname{"O'Connor", 6},   Surname{"Olson", 11},      Surname{"Ortiz", 17},      Surname{"Owens", 11},
+    Surname{"Nguyen", 21},    Surname{"Newman", 6},      Surname{"Núñez", 4},       Surname{"Oakley", 8},
+    Surname{"Odom", 6},       Surname{"Olson", 11},      Surname{"Ortiz", 17},      Surname{"Owens", 11},
     Surname{"Öberg", 1},      Surname{"Parker", 23},     Surname{"Patel", 12},      Surname{"Perez", 33},
     Surname{"Perry", 14},     Surname{"Peterson", 19},   Surname{"Phillips", 26},   Surname{"Powell", 14},
     Surname{"Price", 15},     Surname{"Quinn", 5},       Surname{"Quigley", 1},     Surname{"Ramirez", 33},
@@ -64,7 +64,7 @@ constexpr std::array firstNameTable{
 constexpr std::array streetTable{
     "Main Street", "Oak Avenue",    "Maple Street",  "Cedar Lane",     "Park Road",   "Lake Drive",    "Hill Street",
     "River Road",  "Church Street", "School Street", "Elm Street",     "Mill Lane",   "Spring Street", "Sunset Drive",
-    "Broadway",    "Orchard Court", "King's Way",    "Prospect Place", "Harbor View", "Station Road",
+    "Broadway",    "Orchard Court", "Kings Way",     "Prospect Place", "Harbor View", "Station Road",
 };
 
 constexpr std::array townTable{
@@ -96,7 +96,7 @@ constexpr std::array employerTable{
     "Middle School",
     "Fire Department",
     "Railroad Museum",
-    "O'Neill & Daughters",
+    "Norris & Daughters",
     "Pacific Aquarium",
     "North Shore Clinic",
     "County Court",
@@ -112,10 +112,10 @@ constexpr std::array interestTable{
 };
 
 constexpr std::array eventNameTable{
-    "Annual Dinner",    "Bird Walk",        "Book Sale",  "Chess Tournament", "Choir Evening", "Debate",
-    "First Aid Course", "Garden Day",       "Hike",       "Indoor Games",     "Jazz Night",    "Knitting Hour",
-    "Lecture",          "Members' Evening", "Open House", "Picnic",           "Quiz",          "Regatta",
-    "Summer School",    "Trail Survey",     "Workshop",
+    "Annual Dinner",    "Bird Walk",       "Book Sale",  "Chess Tournament", "Choir Evening", "Debate",
+    "First Aid Course", "Garden Day",      "Hike",       "Indoor Games",     "Jazz Night",    "Knitting Hour",
+    "Lecture",          "Members Evening", "Open House", "Picnic",           "Quiz",          "Regatta",
+    "Summer School",    "Trail Survey",    "Workshop",
 };
 
 constexpr std::array fileStemTable{

@@ -1,4 +1,5 @@
-// Numbers that are the same for a seed on every system: the standard fixes the engine but not its distributions.
+// Random numbers that are the same for a seed on every system. The distributions of the standard library are not used,
+// since each library may compute them in its own way; only the engine is fixed.
 #pragma once
 
 #include <QtGlobal>

@@ -16,7 +16,7 @@ struct SampleAttachment
     int member; // 0: the file of a person
     int person; // 0: the file of a member
     const char *name;
-    int version; // counted by the name alone, over all owners
+    int version; // from 1 for each name, over all owners
     const char *date;
     const char *description;
     const char *extension;
@@ -49,12 +49,12 @@ struct SampleDocument
 {
     int node; // ObjectIndex
     const char *name;
-    int version; // counted by name and node
+    int version; // from 1 for each name in a node
     const char *date;
     const char *content; // under sample/files
 };
 
-// In the order of their numbers, from 1.
+// The store numbers them from 1 in this order; `links` refers to these numbers.
 constexpr std::array documents{
     SampleDocument{3, "Bylaws.txt", 1, "1999-10-01 12:00:00", "bylaws.txt"},
     SampleDocument{3, "Bylaws.txt", 2, "2003-01-26 12:00:00", "bylaws-2.txt"},
@@ -74,7 +74,7 @@ struct Link
 
 constexpr std::array links{Link{2, 2}, Link{2, 3}, Link{3, 4}, Link{4, 2}};
 
-// As every upload keeps a file: its bytes and one zero byte.
+// An upload stores the bytes of a file and one zero byte behind them.
 runtime::Value stored(const char *content)
 {
     return runtime::Value(builtIn(u"sample/files/"_s + QString::fromUtf8(content)) + '\0');

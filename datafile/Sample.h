@@ -1,5 +1,5 @@
-// The sample organisation: some sixty members with all that the windows show of them. Two samples are equal byte for
-// byte: every date in it is fixed.
+// The sample organisation: some sixty members with everything that the windows can show of a member. Every date in it
+// is fixed, so that two samples are equal byte for byte.
 #pragma once
 
 #include <QString>

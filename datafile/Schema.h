@@ -1,8 +1,7 @@
 // Makes data files: the tables, the rows with which every file begins, and what the caller puts in besides.
 //
-// A file is made beside its place and put there complete or not at all; whatever stands at the path already (a file, a
-// folder, a link) is left as it is. Raises RuntimeError 58 for a path that is taken, 76 for a folder that is not there,
-// 75 for one that cannot be written, and the store's errors.
+// A file appears complete or not at all, and nothing is overwritten; see WholeResult.h for the errors of paths. Raises
+// the store's errors besides.
 #pragma once
 
 #include "platform/data/engine/Database.h"

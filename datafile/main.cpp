@@ -1,50 +1,86 @@
-// tolmark-datafile: makes and checks the data file. Exit code 0: done; 1: refused, failed or faulty; 2: wrong usage.
-#include "datafile/Check.h"
-#include "datafile/Sample.h"
-#include "datafile/Schema.h"
+// tolmark-datafile: makes, checks, copies, reads out and fills the data file. Exit code 0: done; 1: refused, failed or
+// faulty; 2: wrong usage.
+#include "datafile/Progress.h"
+#include "datafile/commands/Command.h"
 #include "platform/runtime/RuntimeError.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QTextStream>
 
+#include <algorithm>
 #include <cstdio>
+#include <new>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr auto usage = "Usage: tolmark-datafile create FILE   makes the data file of an empty organisation\n"
-                       "       tolmark-datafile sample FILE   makes one with a sample organisation\n"
-                       "       tolmark-datafile check FILE    tells whether FILE can serve as the data file\n"
-                       "An existing FILE is never overwritten.\n";
+QList<commands::Command> allCommands()
+{
+    using namespace commands;
+    return {createCommand(), sampleCommand(),  generateCommand(), checkCommand(),
+            backupCommand(), restoreCommand(), exportCommand(),   importMembersCommand()};
+}
+
+QString usageOfAll()
+{
+    QString usage;
+    for (const commands::Command &command : allCommands())
+        usage += (usage.isEmpty() ? u"Usage: "_s : u"       "_s) +
+                 u"tolmark-datafile %1 %2\n           %3\n"_s.arg(command.name, command.arguments, command.summary);
+    return usage + u"\"tolmark-datafile COMMAND --help\" tells more. An existing file is never overwritten.\n"_s;
+}
+
+QString usageOf(const commands::Command &command)
+{
+    return u"Usage: tolmark-datafile %1 %2\n%3.\n%4"_s.arg(
+        command.name, command.arguments, command.summary.left(1).toUpper() + command.summary.mid(1), command.help);
+}
 
 void print(std::FILE *stream, const QString &text)
 {
-    QTextStream(stream) << text << Qt::endl;
+    QTextStream(stream) << text << Qt::flush;
 }
 
-int check(const QString &path)
+int refuse(const QString &reason, const QString &usage)
 {
-    const QStringList faults = datafile::faultsOf(path);
-    for (const QString &fault : faults)
-        print(stdout, fault);
-    if (!faults.isEmpty())
-        return 1;
-    print(stdout, u"%1: good"_s.arg(path));
-    return 0;
+    print(stderr, u"tolmark-datafile: %1\n%2"_s.arg(reason, usage));
+    return 2;
 }
 
-int run(const QString &command, const QString &path)
+// A failure tells the file that it is about, once.
+QString messageOf(const runtime::RuntimeError &error, const QStringList &paths)
 {
-    if (command == u"create"_s)
-        datafile::createDataFile(path);
-    else if (command == u"sample"_s)
-        datafile::createSampleFile(path);
-    else
-        return check(path);
-    print(stdout, u"%1: made; the administrator is \"admin\" with the password \"tolmark\""_s.arg(path));
-    return 0;
+    const QString text = datafile::isStopAsked() ? u"interrupted; nothing was left behind"_s : error.description();
+    const bool isNamed =
+        std::any_of(paths.begin(), paths.end(), [&](const QString &path) { return text.contains(path); });
+    return isNamed || paths.isEmpty() ? text : paths.last() + u": "_s + text;
+}
+
+int run(const commands::Command &command, const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.addOption(QCommandLineOption(QStringList{u"help"_s, u"h"_s}));
+    parser.addOptions(command.options);
+    if (!parser.parse(QStringList(command.name) + arguments))
+        return refuse(parser.errorText(), usageOf(command));
+    if (parser.isSet(u"help"_s)) {
+        print(stdout, usageOf(command));
+        return 0;
+    }
+    const QStringList paths = parser.positionalArguments();
+    if (paths.size() != command.paths || paths.contains(QString()))
+        return refuse(u"%1 takes %2"_s.arg(command.name, command.arguments), usageOf(command));
+    try {
+        return command.run(parser);
+    } catch (const commands::UsageError &error) {
+        return refuse(error.text(), usageOf(command));
+    } catch (const runtime::RuntimeError &error) {
+        print(stderr, u"tolmark-datafile: %1\n"_s.arg(messageOf(error, paths)));
+    } catch (const std::bad_alloc &) {
+        print(stderr, u"tolmark-datafile: %1\n"_s.arg(runtime::errorText(runtime::OutOfMemory)));
+    }
+    return 1;
 }
 
 } // namespace
@@ -52,20 +88,16 @@ int run(const QString &command, const QString &path)
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    const QStringList commands{u"create"_s, u"sample"_s, u"check"_s};
-    if (arguments.size() == 2 && (arguments.at(1) == u"--help"_s || arguments.at(1) == u"-h"_s)) {
-        std::fputs(usage, stdout);
+    datafile::stopOnSignals();
+    const QStringList arguments = QCoreApplication::arguments().mid(1);
+    if (arguments == QStringList{u"--help"_s} || arguments == QStringList{u"-h"_s}) {
+        print(stdout, usageOfAll());
         return 0;
     }
-    if (arguments.size() != 3 || !commands.contains(arguments.at(1)) || arguments.at(2).isEmpty()) {
-        std::fputs(usage, stderr);
-        return 2;
-    }
-    try {
-        return run(arguments.at(1), arguments.at(2));
-    } catch (const runtime::RuntimeError &error) {
-        print(stderr, u"tolmark-datafile: "_s + error.description());
-        return 1;
-    }
+    for (const commands::Command &command : allCommands())
+        if (!arguments.isEmpty() && command.name == arguments.first())
+            return run(command, arguments.mid(1));
+    return refuse(arguments.isEmpty() ? u"a command is missing"_s
+                                      : u"there is no command \"%1\""_s.arg(arguments.first()),
+                  usageOfAll());
 }

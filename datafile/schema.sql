@@ -8,8 +8,9 @@
 --   DATETIME                           text "yyyy-mm-dd hh:mm:ss", always 19 characters, on the workstation's clock
 --   TEXT, LONGTEXT                     text; LONGTEXT is the memo
 --   DOUBLE, BLOB                       floating-point number, bytes
--- NOCASE stands on every text, so that indexes serve prefix searches and any SQLite tool can read and write the file.
--- Binary columns come last in their tables: what stands before them is read without passing through the bytes.
+-- Every text has the collation NOCASE: an index on it then serves a LIKE that begins with letters, and any SQLite tool can
+-- read and write the file, which a collation of our own would prevent.
+-- A binary column is the last of its table, since SQLite reads past a large value to reach the columns behind it.
 
 PRAGMA application_id = 1416392043; -- "Tlmk"
 PRAGMA user_version = 1;
@@ -28,7 +29,7 @@ CREATE TABLE Security (
 );
 CREATE INDEX Security_UserLastName ON Security (UserLastName);
 
--- Read without an order: the rows show in the order in which they were added.
+-- The explorers read it without ORDER BY and so show the groups in the order in which they were added.
 CREATE TABLE NodeInformation (
     NodeName TEXT COLLATE NOCASE,
     NodeActive INTEGER DEFAULT 1
@@ -137,7 +138,8 @@ CREATE TABLE EventMemberInfo (
 );
 CREATE INDEX EventMemberInfo_MemberId ON EventMemberInfo (MemberId);
 
--- Start and end are real dates: a text that is none is refused when it is saved, not whenever the note is read.
+-- Start and end are dates rather than texts, so that an invalid one is refused when the note is saved; as a text it would
+-- make every later reading of the note fail.
 CREATE TABLE MeetingInfo (
     MeetingId INTEGER PRIMARY KEY AUTOINCREMENT,
     MemberId INTEGER,
@@ -177,7 +179,8 @@ CREATE TABLE Resources (
     DocuemntVersion INTEGER,
     Document BLOB -- the file's bytes and one zero byte
 );
--- All that a list of documents shows, in the order of their keys: it need not go to the pages where the files stand.
+-- It holds every column that a list of documents shows, so that the list is read from the index alone and never from the
+-- pages that hold the files.
 CREATE INDEX Resources_ObjectIndex
     ON Resources (ObjectIndex, DocumentId, DocumentName, DocumentDate, DocuemntVersion);
 
@@ -212,9 +215,9 @@ CREATE TABLE FieldInfo (
 );
 CREATE INDEX FieldInfo_TabId ON FieldInfo (TabId);
 
--- The record window adds a new person twice: as the person, then, by the person's number, as the row of the page
--- "Personal Information". The second row is the first one again, so the key leaves it out without an error.
--- Every further column is edited in a text box, which may be empty: all are text.
+-- The record window saves a new person in two steps: it adds the person, and then for each page a row with the person's
+-- number. For the page "Personal Information" that is the same table, so the second row has a number that is taken:
+-- ON CONFLICT IGNORE drops it without an error. The further columns are edited in text boxes and are therefore texts.
 CREATE TABLE "Personal Information" (
     PersonalInformationId INTEGER PRIMARY KEY ON CONFLICT IGNORE AUTOINCREMENT,
     Active INTEGER DEFAULT 1,

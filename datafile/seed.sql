@@ -8,7 +8,7 @@ INSERT INTO NodeInformation (NodeName, NodeActive) VALUES
 INSERT INTO MemberType (MemberTypeId, MemberType) VALUES
     (1, 'Regular'), (2, 'Family'), (3, 'Student'), (4, 'Senior'), (5, 'Life'), (6, 'Honorary');
 
--- They follow the four that the note window has of its own.
+-- The note window lists them behind four categories that it has built in.
 INSERT INTO CategoryInfo (CategoryName, CategoryActive) VALUES
     ('Membership', -1), ('Fund Raising', -1), ('Volunteering', -1), ('Complaint', -1), ('General', -1), ('Archive', 0);
 

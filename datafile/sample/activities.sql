@@ -2,7 +2,7 @@
 
 INSERT INTO EventInformation (EventIdentification, EventDate, EventName, EventDescription, EventStartDate, EventEndDate,
                               EventStartTime, EventEndTime, EventStartTimeAmPm, EventEndTimeAmPm, Active) VALUES
-( 1, '2003-01-06 00:00:00', 'Annual Dinner', 'Dinner with the treasurer''s report', '3/15/2003', '3/15/2003', '18:30', '22:00', 'PM', 'PM', -1),
+( 1, '2003-01-06 00:00:00', 'Annual Dinner', 'Dinner, then the report on the year', '3/15/2003', '3/15/2003', '18:30', '22:00', 'PM', 'PM', -1),
 ( 2, '2003-01-06 00:00:00', 'Annual General Meeting', 'Elections and budget', '1/25/2003', '1/25/2003', '10:0', '12:30', 'AM', 'PM', -1),
 ( 3, '2003-01-20 00:00:00', 'Bird Walk', 'Wetlands, bring boots', '4/12/2003', '4/12/2003', '6:30', '10:0', 'AM', 'AM', -1),
 ( 4, '2003-02-03 00:00:00', 'Book Sale', '', '5/10/2003', '5/11/2003', '9:0', '17:0', 'AM', 'PM', -1),
@@ -10,10 +10,10 @@ INSERT INTO EventInformation (EventIdentification, EventDate, EventName, EventDe
 ( 6, '2003-02-17 00:00:00', 'Choir Evening', 'Songs of the sea', '6/6/2003', '6/6/2003', '19:0', '21:0', 'PM', 'PM', -1),
 ( 7, '2003-03-03 00:00:00', 'First Aid Course', 'Two evenings', '3/24/2003', '3/25/2003', '18:0', '21:0', 'PM', 'PM', -1),
 ( 8, '2003-03-17 00:00:00', 'Garden Day', 'Planting in the city park', '4/26/2003', '4/26/2003', '10:0', '16:0', 'AM', 'PM', -1),
-( 9, '2003-03-17 00:00:00', 'New Members'' Evening', NULL, '4/4/2003', '', '19:0', '', 'PM', '', -1),
+( 9, '2003-03-17 00:00:00', 'New Member Evening', NULL, '4/4/2003', '', '19:0', '', 'PM', '', -1),
 (10, '2003-04-07 00:00:00', 'Open House', 'Everybody is welcome', '5/3/2003', '5/3/2003', '13:0', '17:0', 'PM', 'PM', -1),
 (11, '2003-04-07 00:00:00', 'Pottery Workshop', 'Clay is provided', '5/17/2003', '5/18/2003', '10:0', '15:0', 'AM', 'PM', -1),
-(12, '2002-04-22 00:00:00', 'Picnic 2002', 'Last year''s picnic', '6/22/2002', '6/22/2002', '11:0', '16:0', 'AM', 'PM', 0),
+(12, '2002-04-22 00:00:00', 'Picnic 2002', 'The picnic of last year', '6/22/2002', '6/22/2002', '11:0', '16:0', 'AM', 'PM', 0),
 (13, '2003-04-22 00:00:00', 'Regatta', 'On the bay; depends on the weather', '7/12/2003', '7/13/2003', '8:0', '18:0', 'AM', 'PM', -1),
 (14, '2003-05-05 00:00:00', 'Summer Picnic', 'Bring a dish', '6/21/2003', '6/21/2003', '11:0', '16:0', 'AM', 'PM', -1),
 (15, '2003-05-05 00:00:00', 'Trail Survey', '', 'the first dry weekend', '', '', '', '', '', -1),
@@ -23,7 +23,7 @@ INSERT INTO EventInformation (EventIdentification, EventDate, EventName, EventDe
 -- The name is a copy: "Annual Banquet" was renamed since.
 INSERT INTO EventMemberInfo (MemberId, EventName, EventActualStartTime, EventActualEndTime, EventActualDate,
                              EventComments) VALUES
-( 1, 'Annual Dinner', '18:30', '22:00', '3/15/2003', 'Sat at the speakers'' table'),
+( 1, 'Annual Dinner', '18:30', '22:00', '3/15/2003', 'Sat at the table of the speakers'),
 ( 1, 'Book Sale', '9:00', '13:00', '5/10/2003', ''),
 ( 2, 'Annual Banquet', '18:00', '21:15', '3/16/2002', 'Guest of honour'),
 ( 3, 'First Aid Course', '18:00', '21:00', '3/24/2003', 'Taught the course'),
@@ -38,7 +38,7 @@ INSERT INTO EventMemberInfo (MemberId, EventName, EventActualStartTime, EventAct
 (28, 'Chess Tournament', '9:30', '17:00', '2/22/2003', ''), (31, 'Open House', '13:00', '17:00', '5/3/2003', 'Origami table'),
 (36, 'Regatta', '8:00', '18:30', '7/12/2003', 'Winner'), (41, 'Annual Dinner', '18:30', '22:00', '3/15/2003', 'Pictures'),
 (47, 'Chess Tournament', '9:30', '18:00', '2/22/2003', 'Winner, 6½ points'), (53, 'Garden Day', '10:00', '16:00', '4/26/2003', 'Brought seeds'),
-(58, 'Garden Day', '10:00', '14:00', '4/26/2003', NULL), (61, 'New Members'' Evening', '19:00', '21:00', '4/4/2003', '');
+(58, 'Garden Day', '10:00', '14:00', '4/26/2003', NULL), (61, 'New Member Evening', '19:00', '21:00', '4/4/2003', '');
 
 INSERT INTO Contributions (MemberId, ContributionDate, ContributionAmount, ContributionNotes) VALUES
 ( 1, '2002-12-30 00:00:00', 50, 'Dues 2003'), ( 1, '2003-03-15 00:00:00', 125.5, 'Raffle at the annual dinner'),
@@ -64,7 +64,7 @@ INSERT INTO MeetingInfo (MemberId, PersonalInformationId, MeetingDate, MeetingSt
 ( 7, NULL, '2003-02-11 00:00:00', '1899-12-30 13:05:00', '1899-12-30 13:50:00', '2003-02-11 14:00:00', 'Member Meeting', 'Membership', 'Family membership', NULL),
 ( 8, NULL, '2003-07-11 00:00:00', '2003-07-11 22:30:00', '2003-07-12 01:10:00', '2003-07-14 08:00:00', 'Regatta', 'Event Planning', 'Buoys laid at night', 'On the water past midnight.'),
 (10, NULL, '2003-01-28 00:00:00', '1899-12-30 11:00:00', '1899-12-30 11:20:30', '2003-01-28 11:21:00', 'Phone Conversation', 'Fund Raising', 'Pledge', 'Pays in three parts.'),
-(16, NULL, '2003-03-10 00:00:00', '1899-12-30 07:45:00', '1899-12-30 07:58:00', '2003-03-10 08:00:00', 'Phone Conversation', 'Event Planning', 'D''Angelo: bread', '120 rolls, 15 loaves'),
+(16, NULL, '2003-03-10 00:00:00', '1899-12-30 07:45:00', '1899-12-30 07:58:00', '2003-03-10 08:00:00', 'Phone Conversation', 'Event Planning', 'Dangelo: bread', '120 rolls, 15 loaves'),
 (20, NULL, '2003-01-30 00:00:00', '1899-12-30 14:00:00', '1899-12-30 14:06:00', '2003-01-30 14:06:30', 'Phone Conversation', 'Complaint', 'Dues taken twice', 'Treasurer returns 50.00.'),
 (26, NULL, '2002-10-04 00:00:00', '1899-12-30 15:30:00', '1899-12-30 16:00:00', '2002-10-04 16:05:00', 'Member Meeting', 'Membership', 'Moves away', 'Leaves at the end of the year.'),
 (32, NULL, '2003-04-08 00:00:00', '1899-12-30 17:00:00', '1899-12-30 18:45:00', '2003-04-09 09:00:00', 'Member Conference', 'Training', 'Student project', ''),

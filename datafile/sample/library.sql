@@ -29,10 +29,10 @@ INSERT INTO "Personal Information" (PersonalInformationId, Active, "Title", "Fir
     (2, 1, 'Ms.', 'Helen', 'B.', 'Ashworth', '12 Garden Street', '', 'Portland', 'Maine', '04102', '207-555-0170', '', '207-555-0171', 'helen.ashworth@example.org', 'Coordinates the volunteers'),
     (3, 1, 'Mr.', 'Émile', '', 'Beaumont', '4 Station Road', 'Box 12', 'Bangor', 'Maine', '04401', '', '207-555-0172', '', 'emile@example.net', ''),
     (4, 1, 'Dr.', 'Grace', 'Eun-ji', 'Kim', '99 Summit Avenue', NULL, 'Lewiston', 'Maine', '04240', NULL, '207-555-0173', NULL, NULL, NULL),
-    (5, 1, '', 'Shane', '', 'O''Leary', '', '', '', '', '', '', '', '', '', ''),
+    (5, 1, '', 'Shane', '', 'Oakes', '', '', '', '', '', '', '', '', '', ''),
     (6, 0, 'Mrs.', 'Wanda', 'K.', 'Tillman', '1 Ferry Road', '', 'Augusta', 'Maine', '04330', '207-555-0174', '', '', '', 'Left in 2002');
 
--- A page as the designer writes it, with a table like the one that it generates.
+-- A page with its fields as the designer saves them, and the table as the designer generates it.
 INSERT INTO TabInfo (TabId, TabNam, TabDescription) VALUES (2, 'Volunteer Profile', 'What a volunteer likes to do');
 
 INSERT INTO FieldInfo (TabId, FieldDisplayOrder, FieldName, FieldDescription,

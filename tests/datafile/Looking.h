@@ -1,8 +1,7 @@
-// What the tests of the data file look at: rows as text, bytes, errors by number, and a folder of one test's own.
+// What the tests of the data file look at: rows as text, bytes, and a folder of one test's own.
 #pragma once
 
 #include "platform/data/engine/Database.h"
-#include "platform/runtime/RuntimeError.h"
 
 #include <QDir>
 #include <QFile>
@@ -35,17 +34,6 @@ inline QByteArray bytesOf(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-// The number of the error that the call raises, 0 for none.
-template <class Call> int errorOf(Call &&call)
-{
-    try {
-        call();
-    } catch (const runtime::RuntimeError &error) {
-        return error.number();
-    }
-    return 0;
 }
 
 // A folder that goes with the test.

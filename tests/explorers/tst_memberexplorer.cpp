@@ -37,7 +37,7 @@ private Q_SLOTS:
     {
         CaughtErrors errors;
         Explorer explorer;
-        QCOMPARE(explorer.tree().Nodes.Count(), 26);
+        QCOMPARE(explorer.tree().Nodes.Count(), 31);
         QCOMPARE(explorer.tree().Nodes(1).Text(), u"A     (3)"_s);
         QVERIFY(explorer.tree().Nodes(1).font(0).bold());
         QCOMPARE(explorer.tree().Nodes(2).Text(), u"B"_s);

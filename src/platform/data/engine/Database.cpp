@@ -123,6 +123,11 @@ bool StoreError::isReadOnly() const
     return (m_extendedCode & 0xff) == SQLITE_READONLY;
 }
 
+bool StoreError::isUnreadable() const
+{
+    return (m_extendedCode & 0xff) == SQLITE_NOTADB || (m_extendedCode & 0xff) == SQLITE_CORRUPT;
+}
+
 void Database::Close::operator()(sqlite3 *handle) const noexcept
 {
     sqlite3_close_v2(handle);
@@ -304,6 +309,39 @@ void Database::provideLike()
     check(sqlite3_create_function_v2(m_handle.get(), "store_like", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
                                      likeForSqlite, nullptr, nullptr, nullptr));
     m_hasLike = true;
+}
+
+void Database::stopWhen(bool (*isAsked)())
+{
+    constexpr int instructions = 100'000; // between two questions: some milliseconds
+    sqlite3_progress_handler(
+        m_handle.get(), instructions, [](void *asked) -> int { return reinterpret_cast<bool (*)()>(asked)() ? 1 : 0; },
+        reinterpret_cast<void *>(isAsked));
+}
+
+void Database::copyTo(Database &target, const std::function<void(int done, int all)> &told) const
+{
+    constexpr int pages = 256;     // in one step: a megabyte, during which others cannot write
+    constexpr int mostWaits = 200; // in a row, for a writer
+    constexpr int waitMilliseconds = 50;
+    const auto finish = [](sqlite3_backup *backup) { sqlite3_backup_finish(backup); };
+    const std::unique_ptr<sqlite3_backup, decltype(finish)> backup(
+        sqlite3_backup_init(target.m_handle.get(), "main", m_handle.get(), "main"));
+    if (!backup)
+        target.fail(sqlite3_errcode(target.m_handle.get()));
+    int waits = 0;
+    for (int code = SQLITE_OK; code != SQLITE_DONE;) {
+        code = sqlite3_backup_step(backup.get(), pages);
+        const bool isHeld = code == SQLITE_BUSY || code == SQLITE_LOCKED;
+        if (isHeld && ++waits <= mostWaits)
+            sqlite3_sleep(waitMilliseconds);
+        else if (code != SQLITE_OK && code != SQLITE_DONE)
+            throw StoreError(code, QString::fromUtf8(sqlite3_errstr(code)), target.m_path);
+        else
+            waits = 0;
+        const int all = sqlite3_backup_pagecount(backup.get());
+        told(all - sqlite3_backup_remaining(backup.get()), all);
+    }
 }
 
 } // namespace data

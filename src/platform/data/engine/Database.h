@@ -9,6 +9,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -24,6 +25,8 @@ public:
     int extendedCode() const { return m_extendedCode; }
     bool isConstraint() const;
     bool isReadOnly() const;
+    // The file is damaged or of another kind.
+    bool isUnreadable() const;
 
 private:
     int m_extendedCode;
@@ -70,6 +73,13 @@ public:
     std::optional<qint64> blobSize(const QByteArray &table, const QByteArray &column, qint64 rowId) const;
     // Provides the SQL function store_like(PATTERN, VALUE) of Collation.h.
     void provideLike();
+    // Lets statements end with an error (SQLITE_INTERRUPT) once the function, which is asked every now and then, says
+    // so.
+    void stopWhen(bool (*isAsked)());
+    // Writes the whole file, as it is at one moment, into another that is open and empty. Between a few pages and the
+    // next other connections may write; the copy begins again then. `told` hears how many pages of how many are done,
+    // and stops the copy by an exception.
+    void copyTo(Database &target, const std::function<void(int done, int all)> &told) const;
 
 private:
     struct Close

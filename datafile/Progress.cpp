@@ -1,0 +1,74 @@
+#include "datafile/Progress.h"
+
+#include "platform/runtime/RuntimeError.h"
+
+#include <atomic>
+#include <csignal>
+#include <cstdio>
+#include <unistd.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace datafile {
+
+namespace {
+
+constexpr int Interrupted = 18;      // the run-time's number for a break by the user
+constexpr qint64 firstShown = 1000;  // milliseconds
+constexpr qint64 betweenShown = 200; // milliseconds
+
+std::atomic_bool stopAsked = false;
+static_assert(std::atomic_bool::is_always_lock_free, "a signal handler may set it");
+
+} // namespace
+
+void stopOnSignals()
+{
+    struct sigaction action = {};
+    action.sa_handler = [](int) { stopAsked = true; };
+    sigemptyset(&action.sa_mask);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP})
+        sigaction(number, &action, nullptr);
+}
+
+bool isStopAsked()
+{
+    return stopAsked;
+}
+
+void stopOnSignals(data::Database &file)
+{
+    file.stopWhen(isStopAsked);
+}
+
+Progress::Progress(const QString &what) : m_what(what), m_isTerminal(isatty(STDERR_FILENO) == 1)
+{
+    m_sinceBegin.start();
+}
+
+Progress::~Progress()
+{
+    finish();
+}
+
+void Progress::finish()
+{
+    if (m_lastShown > 0)
+        std::fputs("\r\033[K", stderr);
+    m_lastShown = 0;
+}
+
+void Progress::at(qint64 done, qint64 all)
+{
+    if (stopAsked)
+        throw runtime::RuntimeError(Interrupted, u"interrupted"_s);
+    const qint64 now = m_sinceBegin.elapsed();
+    if (!m_isTerminal || now < firstShown || now < m_lastShown + betweenShown)
+        return;
+    m_lastShown = now;
+    const qint64 percent = all > 0 ? done * 100 / all : 100;
+    std::fprintf(stderr, "\r%s: %lld %%\033[K", qPrintable(m_what), static_cast<long long>(percent));
+    std::fflush(stderr);
+}
+
+} // namespace datafile

@@ -1,0 +1,91 @@
+#include "datafile/WholeResult.h"
+
+#include "platform/runtime/RuntimeError.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace datafile {
+
+namespace {
+
+constexpr int FileAlreadyExists = 58;
+
+[[noreturn]] void failToWrite(const QString &path)
+{
+    throw runtime::RuntimeError(runtime::PathFileAccess,
+                                u"'%1' cannot be written: %2."_s.arg(path, qt_error_string(errno)));
+}
+
+QString existingFolderOf(const QString &path)
+{
+    const QString folder = QFileInfo(path).absolutePath();
+    if (!QFileInfo(folder).isDir())
+        throw runtime::RuntimeError(runtime::PathNotFound, u"The folder '%1' does not exist."_s.arg(folder));
+    return folder;
+}
+
+// For file systems that cannot rename without replacing: takes the name with an empty file or folder, which fails where
+// anything stands, and lets the result replace that.
+void claimAndReplace(const QString &from, const QString &to)
+{
+    if (QFileInfo(from).isDir()) {
+        if (!QDir().mkdir(to))
+            failToWrite(to);
+    } else {
+        QFile claim(to);
+        if (!claim.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+            failToWrite(to);
+    }
+    if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0) {
+        const int reason = errno;
+        QFileInfo(to).isDir() ? QDir().rmdir(to) : QFile::remove(to);
+        errno = reason;
+        failToWrite(to);
+    }
+}
+
+} // namespace
+
+void refuseTakenPath(const QString &path)
+{
+    const QFileInfo place(path);
+    if (place.exists() || place.isSymLink()) // a link that leads nowhere does not "exist"
+        throw runtime::RuntimeError(FileAlreadyExists, u"'%1' already exists; it was left as it is."_s.arg(path));
+}
+
+void renameWithoutReplacing(const QString &from, const QString &to)
+{
+    if (renameat2(AT_FDCWD, QFile::encodeName(from).constData(), AT_FDCWD, QFile::encodeName(to).constData(),
+                  RENAME_NOREPLACE) == 0)
+        return;
+    if (errno == EINVAL || errno == ENOSYS)
+        return claimAndReplace(from, to);
+    const int reason = errno;
+    refuseTakenPath(to);
+    errno = reason;
+    failToWrite(to);
+}
+
+WholeResult::WholeResult(const QString &path)
+    : m_path((refuseTakenPath(path), path)), m_workshop(existingFolderOf(path) + u"/.tolmark-datafile-XXXXXX"_s)
+{
+    if (!m_workshop.isValid())
+        throw runtime::RuntimeError(
+            runtime::PathFileAccess,
+            u"The folder '%1' cannot be written: %2."_s.arg(QFileInfo(path).absolutePath(), m_workshop.errorString()));
+}
+
+void WholeResult::finish()
+{
+    renameWithoutReplacing(unfinished(), m_path);
+}
+
+} // namespace datafile
