@@ -1,5 +1,6 @@
 #include "dossier/OpenDossier.h"
 #include "support/Launches.h"
+#include "support/UnitedStates.h"
 
 #include <QDropEvent>
 #include <QMimeData>
@@ -42,6 +43,7 @@ private Q_SLOTS:
 
     void namesStandInDescendingOrderWhileOnlyCurrentVersionsShow()
     {
+        const UnitedStates region;
         m_folder->execute("INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion, AttachmentsDate) "
                           "VALUES (1, 'b', 2, '2026-01-01 00:00:00'), (1, 'c', 1, NULL), (1, 'b', 1, '2026-02-01 "
                           "10:00:00'), (1, NULL, 1, NULL)");

@@ -2,6 +2,7 @@
 #include "dossier/OpenDossier.h"
 #include "events/frmMeeting.h"
 #include "platform/desktop/MdiForm.h"
+#include "support/UnitedStates.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -129,6 +130,7 @@ private Q_SLOTS:
     }
     void contributions()
     {
+        const UnitedStates region;
         QFETCH(QString, typed);
         QFETCH(QString, message);
         QFETCH(QString, stored);
@@ -172,6 +174,7 @@ private Q_SLOTS:
 
     void rowsWithNullsLeaveTheirCellsEmpty()
     {
+        const UnitedStates region;
         m_folder->execute("INSERT INTO Contributions (MemberId, ContributionDate, ContributionAmount) VALUES"
                           " (1, NULL, NULL), (1, '2026-01-31 00:00:00', 123456789.1234);"
                           "INSERT INTO MeetingInfo (MemberId, MeetingStartTime) VALUES (1, '1899-12-30 09:00:00');"
@@ -299,6 +302,7 @@ private Q_SLOTS:
 
     void notesAreShownAndAdded()
     {
+        const UnitedStates region;
         m_folder->execute("INSERT INTO MeetingInfo (MemberId, MeetingDate, MeetingType, MeetingCatagory, "
                           "MeetingSubject, MeetingStartTime, MeetingEndTime, MeetingNotes) VALUES (1, '2026-01-31 "
                           "00:00:00', 'Call', 'Training', 'Fees', '1899-12-30 09:00:00', '1899-12-30 10:30:15', 'ok')");

@@ -3,6 +3,7 @@
 #include "events/frmMeeting.h"
 #include "library/frmDocumentExp.h"
 #include "support/Launches.h"
+#include "support/UnitedStates.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -249,6 +250,7 @@ private Q_SLOTS:
 
     void anEventIsShownByADoubleClick()
     {
+        const UnitedStates region;
         OpenRecord record;
         record.turnTo(u"Resources"_s);
         doubleClick(record);

@@ -2,6 +2,7 @@
 #include "dynamicforms/OpenRecord.h"
 #include "dynamicforms/frmOpenRecord.h"
 #include "shell/session/Session.h"
+#include "support/UnitedStates.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -100,6 +101,7 @@ private Q_SLOTS:
 
     void theListsShowWhatThePersonHas()
     {
+        const UnitedStates region;
         m_folder->execute(
             "DELETE FROM Attachments; DELETE FROM ReferenceInfo; DELETE FROM Resources;"
             "INSERT INTO Attachments (MemberId, PersonalInformationId, AttachmentsName, AttachmentVersion, "

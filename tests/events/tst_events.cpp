@@ -4,6 +4,7 @@
 #include "support/DataStoreFolder.h"
 #include "support/Dialogs.h"
 #include "support/Outcome.h"
+#include "support/UnitedStates.h"
 
 #include <QPointer>
 #include <QTableView>
@@ -74,6 +75,7 @@ private Q_SLOTS:
     // Without leading zeros; past midnight the end keeps the date of the start.
     void theLoadTakesTheClock()
     {
+        const UnitedStates region;
         const QList<std::pair<QString, QString>> moments{
             {u"2026-01-31T09:05:59"_s, u"1/31/2026 9:5 1/31/2026 10:5"_s},
             {u"2026-12-31T23:30:00"_s, u"12/31/2026 23:30 12/31/2026 0:30"_s}};
@@ -91,6 +93,7 @@ private Q_SLOTS:
 
     void anEventTypedByKeyboardIsStored()
     {
+        const UnitedStates region;
         CaughtErrors errors;
         QPointer<FrmAddEvent> window = desktop::showNew<FrmAddEvent>();
         QApplication::setActiveWindow(window);
@@ -171,6 +174,7 @@ private Q_SLOTS:
     // Whatever the box holds, the calendar stands at today; the last click wins, however many are open.
     void theCalendarFillsItsBox()
     {
+        const UnitedStates region;
         CaughtErrors errors;
         MainWindow frame;
         frame.Show();
@@ -202,6 +206,7 @@ private Q_SLOTS:
 
     void theCalendarOutlivesTheEventWindow()
     {
+        const UnitedStates region;
         CaughtErrors errors;
         MainWindow frame;
         frame.Show();
@@ -221,6 +226,7 @@ private Q_SLOTS:
 
     void aDayForTheClosedSharedWindowStandsAtItsNextOpening()
     {
+        const UnitedStates region;
         CaughtErrors errors;
         MainWindow frame;
         frame.Show();
@@ -237,6 +243,7 @@ private Q_SLOTS:
 
     void theSharedWindowIsFreshEachTime()
     {
+        const UnitedStates region;
         CaughtErrors errors;
         MainWindow frame;
         frame.Show();

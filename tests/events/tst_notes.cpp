@@ -6,6 +6,7 @@
 #include "support/DataStoreFolder.h"
 #include "support/Dialogs.h"
 #include "support/PdfText.h"
+#include "support/UnitedStates.h"
 
 #include <QPointer>
 
@@ -75,6 +76,7 @@ private Q_SLOTS:
 
     void aNewNoteOffersWhatIsActive()
     {
+        const UnitedStates region;
         CaughtErrors errors;
         const std::unique_ptr<frmMeeting> window(newNote({}));
         QCOMPARE(itemsOf(*window->lstEventType), (QStringList{u"Phone Conversation"_s, u"Member Meeting"_s,
@@ -91,6 +93,7 @@ private Q_SLOTS:
 
     void theButtonsTakeTheTime()
     {
+        const UnitedStates region;
         CaughtErrors errors;
         const std::unique_ptr<frmMeeting> window(newNote({}));
         window->lstEventType->setText(u"Picnic"_s);

@@ -7,6 +7,7 @@
 #include "shell/session/Session.h"
 #include "shell/users/frmNewUser.h"
 #include "support/DataStoreFolder.h"
+#include "support/UnitedStates.h"
 
 #include <QPointer>
 
@@ -73,6 +74,7 @@ private Q_SLOTS:
 
     void aClickListsTheGroup()
     {
+        const UnitedStates region;
         CaughtErrors errors;
         Explorer explorer;
         QCOMPARE(explorer.window().windowTitle(), u"Tolmark Event Explorer"_s);
@@ -195,6 +197,7 @@ private Q_SLOTS:
 
     void enterOpensEverySelectedEvent()
     {
+        const UnitedStates region;
         CaughtErrors errors;
         Explorer explorer;
         explorer.clickGroup(u"A"_s);

@@ -1,5 +1,6 @@
 // The documents of the library: their list, the upload with its versions, and the links to persons.
 #include "library/OpenLibrary.h"
+#include "support/UnitedStates.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -24,6 +25,7 @@ private Q_SLOTS:
 
     void allVersionsOfANodeAreListed()
     {
+        const UnitedStates region;
         m_folder->execute("INSERT INTO Resources (ObjectIndex, DocumentName, DocumentDate, DocuemntVersion) VALUES"
                           " (2, 'a.txt', '2003-01-06 00:00:00', 1), (3, 'b.txt', NULL, 1), (2, 'a.txt', NULL, 2),"
                           " (2, NULL, NULL, NULL)");

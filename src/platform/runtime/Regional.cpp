@@ -118,6 +118,10 @@ QString plainlyTyped(QStringView text)
             plain += u'-';
         else if (character == U'\u2019')
             plain += u'\'';
+        else if (character == U'\u066b') // the decimal and the thousands sign of Arabic
+            plain += u'.';
+        else if (character == U'\u066c')
+            plain += u',';
         else
             plain += QChar::fromUcs4(character);
     }

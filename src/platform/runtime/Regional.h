@@ -25,7 +25,8 @@ QString longTimeText(QTime time);
 QString shortTimeText(QTime time);
 
 // The text as a keyboard without the region's own keys would type it: digits 0 to 9, plain blanks, hyphen and
-// apostrophe, no marks for the direction of writing. Two texts are alike to a reader when these are the same.
+// apostrophe, point and comma for the Arabic signs, no marks for the direction of writing. Two texts are alike to a
+// reader when these are the same.
 QString plainlyTyped(QStringView text);
 
 // One piece of a form: a field, named by its letter ("y", "M", "d", "h" also for the hour of 24, "m", "s", and "AP" for

@@ -1,5 +1,6 @@
 #include "platform/data/Command.h"
 #include "support/DataFolder.h"
+#include "support/UnitedStates.h"
 
 #include <QTest>
 
@@ -461,6 +462,7 @@ void RecordsetTest::convertsValues_data()
 
 void RecordsetTest::convertsValues()
 {
+    const UnitedStates region;
     QFETCH(QString, table);
     QFETCH(QString, field);
     QFETCH(Value, value);

@@ -1,4 +1,5 @@
 #include "support/DataFolder.h"
+#include "support/UnitedStates.h"
 
 #include <QFile>
 #include <QTest>
@@ -92,6 +93,7 @@ void StatementsTest::runsWhatTheWindowsCompose_data()
 
 void StatementsTest::runsWhatTheWindowsCompose()
 {
+    const UnitedStates region;
     QFETCH(QString, statement);
     QFETCH(QString, error);
     const DataFolder folder(DataFolder::Content::None);

@@ -9,6 +9,7 @@
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/Conversion.h"
 #include "support/Outcome.h"
+#include "support/UnitedStates.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -395,6 +396,7 @@ private Q_SLOTS:
 
     void panelsFollowKeyboardAndClock()
     {
+        const UnitedStates region;
         QDateTime now(QDate(2026, 3, 4), QTime(9, 5));
         runtime::setClock([&now] { return now; });
         QWidget window;

@@ -1,5 +1,4 @@
 #include "platform/runtime/BinaryFile.h"
-#include "support/OrdinaryUser.h"
 #include "support/Outcome.h"
 
 #include <QDir>
@@ -103,21 +102,6 @@ private Q_SLOTS:
         QTEST(sizeOf(1, BinaryAccess::Read), "toRead");
         QTEST(sizeOf(2, BinaryAccess::ReadWrite), "toWrite");
         QCOMPARE(contentOf(u"Letter.doc"_s), "0123456789");
-    }
-
-    void doesNotOpenWhatItMayNot()
-    {
-        const auto everybodyReads = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
-        QVERIFY(QFile::setPermissions(m_folder->path(), everybodyReads | QFile::WriteOwner | QFile::ExeOwner |
-                                                            QFile::ExeGroup | QFile::ExeOther));
-        QVERIFY(QFile::setPermissions(m_folder->filePath(u"Letter.doc"_s), everybodyReads));
-        QVERIFY(QFile::setPermissions(m_folder->filePath(u"empty"_s), {}));
-        const OrdinaryUser user;
-        if (!user.isInEffect())
-            QSKIP("The system lets this user read and write every file.");
-        QCOMPARE(opened(u"Letter.doc"_s, 1), u"done"_s);
-        QCOMPARE(opened(u"Letter.doc"_s, 2, BinaryAccess::ReadWrite), u"error 75"_s);
-        QCOMPARE(opened(u"empty"_s, 2), u"error 75"_s);
     }
 
     void takesNumbers_data()

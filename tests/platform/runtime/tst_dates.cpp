@@ -14,212 +14,163 @@ class DatesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
-    void readsDates_data();
-    void readsDates();
-    void readsDatesOfOtherRegions_data();
-    void readsDatesOfOtherRegions();
-    void countsDays_data();
-    void countsDays();
-    void comesBackFromTheStoresForm_data();
-    void comesBackFromTheStoresForm();
-    void ordersAsTimeGoes();
-    void countsBoundaries_data();
-    void countsBoundaries();
-};
-
-void DatesTest::init()
-{
-    runtime::setClock([] { return QDateTime(QDate(2003, 5, 17), QTime(14, 30)); });
-}
-
-void DatesTest::cleanup()
-{
-    runtime::setClock({});
-    QLocale::setDefault(QLocale::c());
-}
-
-void DatesTest::readsDates_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("moment");
-
-    const auto day = [](const char *written, const char *iso) {
-        QTest::newRow(written) << QString::fromUtf8(written) << QString::fromLatin1(iso);
-    };
-    day("1/31/2001", "2001-01-31 00:00:00");
-    day("2/3/2001", "2001-02-03 00:00:00");
-    day("31/1/2001", "2001-01-31 00:00:00"); // there is no month 31
-    day("1-31-01", "2001-01-31 00:00:00");
-    day("1.31.99", "1999-01-31 00:00:00");
-    day("1 31 2001", "2001-01-31 00:00:00");
-    day("1/1/29", "2029-01-01 00:00:00");
-    day("1/1/30", "1930-01-01 00:00:00");
-    day("2001-01-31", "2001-01-31 00:00:00");
-    day("2001-01-31 17:04:09", "2001-01-31 17:04:09");
-    day("2/29/2000", "2000-02-29 00:00:00");
-    day("1/31", "2003-01-31 00:00:00");
-    day("Jan 31, 2001", "2001-01-31 00:00:00");
-    day("31 january 01", "2001-01-31 00:00:00");
-    day("March 3", "2003-03-03 00:00:00");
-    day("1/1/100", "0100-01-01 00:00:00");
-    day("12/31/9999", "9999-12-31 00:00:00");
-
-    day("10:05", "1899-12-30 10:05:00");
-    day("5 PM", "1899-12-30 17:00:00");
-    day("12:00 am", "1899-12-30 00:00:00");
-    day("12:30PM", "1899-12-30 12:30:00");
-    day("1/31/2001 10:05:00 AM", "2001-01-31 10:05:00");
-    day("17:04 Jan 31 2001", "2001-01-31 17:04:00");
-    day("36922.25", "2001-01-31 06:00:00"); // a number of days
-
-    for (const char *written :
-         {"", " ", "2/29/2001", "13/32/2001", "0/1/2001", "2001-31-01x", "1/2/3/4", "Jan", "Janus 3 2001", "25:00",
-          "10:60", "13 PM", "10:00 11:00", "Monday, January 1, 2001", "noon", "the first dry weekend"})
-        day(written, "error 13");
-}
-
-void DatesTest::readsDates()
-{
-    QFETCH(QString, text);
-    QTEST(outcomeOf([&] { return runtime::toDate(Value(text)).toIsoText(); }), "moment");
-}
-
-void DatesTest::readsDatesOfOtherRegions_data()
-{
-    QTest::addColumn<QLocale>("region");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("moment");
-
-    const QLocale british(QLocale::English, QLocale::UnitedKingdom);
-    const QLocale german(QLocale::German, QLocale::Germany);
-    QTest::newRow("day first") << british << u"2/3/2001"_s << u"2001-03-02 00:00:00"_s;
-    QTest::newRow("impossible month") << british << u"1/31/2001"_s << u"2001-01-31 00:00:00"_s;
-    QTest::newRow("year first in every region") << british << u"2001-02-03"_s << u"2001-02-03 00:00:00"_s;
-    QTest::newRow("points") << german << u"2.3.2001"_s << u"2001-03-02 00:00:00"_s;
-    QTest::newRow("name of its month") << german << u"5. März 2001"_s << u"2001-03-05 00:00:00"_s;
-    QTest::newRow("short name of its month") << german << u"5. Dez. 2001"_s << u"2001-12-05 00:00:00"_s;
-    QTest::newRow("English name") << german << u"5 March 2001"_s << u"2001-03-05 00:00:00"_s;
-}
-
-void DatesTest::readsDatesOfOtherRegions()
-{
-    QFETCH(QLocale, region);
-    QFETCH(QString, text);
-    QLocale::setDefault(region);
-    QTEST(outcomeOf([&] { return runtime::toDate(Value(text)).toIsoText(); }), "moment");
-}
-
-void DatesTest::countsDays_data()
-{
-    QTest::addColumn<double>("serial");
-    QTest::addColumn<QString>("moment");
-
-    QTest::newRow("day 0") << 0.0 << u"1899-12-30 00:00:00"_s;
-    QTest::newRow("noon of a day") << 36922.5 << u"2001-01-31 12:00:00"_s;
-    // Before day 0 the fraction still counts forward from midnight.
-    QTest::newRow("evening before day 0") << -1.75 << u"1899-12-29 18:00:00"_s;
-    QTest::newRow("first day") << -657434.0 << u"0100-01-01 00:00:00"_s;
-    QTest::newRow("last second") << 2958465.0 + 86399.0 / 86400 << u"9999-12-31 23:59:59"_s;
-    QTest::newRow("rounds beyond the last day") << 2958465.9999999 << u"error 6"_s;
-    QTest::newRow("after the last day") << 2958466.0 << u"error 6"_s;
-    QTest::newRow("before the first day") << -657435.0 << u"error 6"_s;
-}
-
-void DatesTest::countsDays()
-{
-    QFETCH(double, serial);
-    QFETCH(QString, moment);
-    QCOMPARE(outcomeOf([&] { return Date::fromSerial(serial).toIsoText(); }), moment);
-    if (!moment.startsWith(u"error"))
-        QCOMPARE(Date::fromSerial(serial).toSerial(), serial);
-}
-
-void DatesTest::comesBackFromTheStoresForm_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("moment"); // empty for what is no date of the store
-
-    const auto row = [](const char *written, const char *iso) {
-        QTest::newRow(written) << QString::fromLatin1(written) << QString::fromLatin1(iso);
-    };
-    row("2001-01-31 17:04:09", "2001-01-31 17:04:09");
-    row("2001-01-31T17:04:09", "2001-01-31 17:04:09");
-    row("2001-01-31 17:04", "2001-01-31 17:04:00");
-    row("2001-01-31", "2001-01-31 00:00:00");
-    row("1899-12-30 23:59:59", "1899-12-30 23:59:59");
-    row("1850-06-01 00:00:01", "1850-06-01 00:00:01");
-    row("0100-01-01 00:00:00", "0100-01-01 00:00:00");
-    for (const char *written : {"", "2001-01", "2001-02-30", "1/31/2001", "2001-01-31 25:00:00", "2001-01-31x",
-                                "2001-01-31 ", "0099-12-31", "2001-01-31 5 PM"})
-        row(written, "");
-}
-
-void DatesTest::comesBackFromTheStoresForm()
-{
-    QFETCH(QString, text);
-    const auto date = Date::fromIsoText(text);
-    QTEST(date ? date->toIsoText() : QString(), "moment");
-}
-
-// The store compares the texts: their order has to be that of the moments.
-void DatesTest::ordersAsTimeGoes()
-{
-    const QList<Date> moments{Date(QDate(100, 1, 1)),
-                              Date(QDate(1899, 12, 29), QTime(18, 0)),
-                              Date(),
-                              Date(QDate(1899, 12, 30), QTime(0, 0, 1)),
-                              Date(QDate(2001, 1, 31), QTime(9, 0)),
-                              Date(QDate(2001, 1, 31), QTime(10, 0)),
-                              Date(QDate(2001, 10, 1))};
-    for (qsizetype at = 1; at < moments.size(); ++at) {
-        QVERIFY(moments[at - 1] < moments[at]);
-        QVERIFY(moments[at - 1].toIsoText() < moments[at].toIsoText());
+    void init()
+    {
+        runtime::setClock([] { return QDateTime(QDate(2003, 5, 17), QTime(14, 30)); });
     }
-}
 
-void DatesTest::countsBoundaries_data()
-{
-    QTest::addColumn<QString>("interval");
-    QTest::addColumn<QString>("from");
-    QTest::addColumn<QString>("to");
-    QTest::addColumn<QString>("count");
+    void cleanup()
+    {
+        runtime::setClock({});
+        QLocale::setDefault(QLocale::c());
+    }
 
-    const auto row = [](const char *interval, const char *from, const char *to, const char *count) {
-        QTest::addRow("%s %s, %s", interval, from, to) << QString::fromLatin1(interval) << QString::fromLatin1(from)
-                                                       << QString::fromLatin1(to) << QString::fromLatin1(count);
-    };
-    row("n", "2001-01-31 10:00:59", "2001-01-31 10:01:00", "1");
-    row("n", "2001-01-31 10:00:00", "2001-01-31 10:00:59", "0");
-    row("n", "2001-01-31 10:00:50", "2001-01-31 10:01:10", "1");
-    row("s", "2001-01-31 10:00:50", "2001-01-31 10:01:10", "20");
-    row("n", "2001-01-31 10:01:00", "2001-01-31 10:00:59", "-1");
-    row("N", "2001-01-31 23:00:00", "2001-02-02 01:00:00", "1560");
-    row("n", "1899-12-29 23:59:59", "1899-12-30 00:00:01", "1");
-    row("n", "1899-12-29 23:58:59", "1899-12-29 23:59:00", "1");
-    row("h", "2001-01-31 10:59:59", "2001-01-31 11:00:00", "1");
-    row("d", "1899-12-29 18:00:00", "1899-12-30 06:00:00", "1");
-    row("m", "2000-12-31", "2001-01-01", "1");
-    row("yyyy", "2000-12-31 23:59:59", "2001-01-01", "1");
-    row("yyyy", "2001-01-01", "2001-12-31", "0");
-    row("s", "1970-01-01", "2038-01-19 03:14:07", "2147483647");
-    row("s", "1970-01-01", "2038-01-19 03:14:08", "error 6");
-    row("s", "2038-01-19 03:14:08", "1970-01-01", "-2147483648");
-    row("n", "0100-01-01", "9999-12-31", "error 6");
-    row("minutes", "2001-01-31", "2001-01-31", "error 5");
-    row("", "2001-01-31", "2001-01-31", "error 5");
-}
+    void readsDates_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("moment");
 
-void DatesTest::countsBoundaries()
-{
-    QFETCH(QString, interval);
-    QFETCH(QString, from);
-    QFETCH(QString, to);
-    QTEST(outcomeOf([&] { return runtime::DateDiff(interval, *Date::fromIsoText(from), *Date::fromIsoText(to)); }),
-          "count");
-}
+        const auto day = [](const char *written, const char *iso) {
+            QTest::newRow(written) << QString::fromUtf8(written) << QString::fromLatin1(iso);
+        };
+        day("1/31/2001", "2001-01-31 00:00:00");
+        day("31/1/2001", "2001-01-31 00:00:00"); // there is no month 31
+        day("1-31-01", "2001-01-31 00:00:00");
+        day("1/1/29", "2029-01-01 00:00:00");
+        day("1/1/30", "1930-01-01 00:00:00");
+        day("2001-01-31", "2001-01-31 00:00:00");
+        day("2001-01-31 17:04:09", "2001-01-31 17:04:09");
+        day("1/31", "2003-01-31 00:00:00");
+        day("Jan 31, 2001", "2001-01-31 00:00:00");
+        day("31 january 01", "2001-01-31 00:00:00");
+        day("March 3", "2003-03-03 00:00:00");
+        day("1/1/100", "0100-01-01 00:00:00");
+        day("12/31/9999", "9999-12-31 00:00:00");
+
+        day("10:05", "1899-12-30 10:05:00");
+        day("5 PM", "1899-12-30 17:00:00");
+        day("12:00 am", "1899-12-30 00:00:00");
+        day("12:30PM", "1899-12-30 12:30:00");
+        day("1/31/2001 10:05:00 AM", "2001-01-31 10:05:00");
+        day("36922.25", "2001-01-31 06:00:00"); // a number of days
+
+        for (const char *written :
+             {"", " ", "2/29/2001", "13/32/2001", "0/1/2001", "2001-31-01x", "1/2/3/4", "Jan", "Janus 3 2001", "25:00",
+              "10:60", "13 PM", "10:00 11:00", "Monday, January 1, 2001", "noon", "the first dry weekend"})
+            day(written, "error 13");
+    }
+    void readsDates()
+    {
+        QFETCH(QString, text);
+        QTEST(outcomeOf([&] { return runtime::toDate(Value(text)).toIsoText(); }), "moment");
+    }
+
+    void readsDatesOfOtherRegions_data()
+    {
+        QTest::addColumn<QLocale>("region");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("moment");
+
+        const QLocale british(QLocale::English, QLocale::UnitedKingdom);
+        const QLocale german(QLocale::German, QLocale::Germany);
+        QTest::newRow("day first") << british << u"2/3/2001"_s << u"2001-03-02 00:00:00"_s;
+        QTest::newRow("impossible month") << british << u"1/31/2001"_s << u"2001-01-31 00:00:00"_s;
+        QTest::newRow("year first in every region") << british << u"2001-02-03"_s << u"2001-02-03 00:00:00"_s;
+        QTest::newRow("short name of its month") << german << u"5. Dez. 2001"_s << u"2001-12-05 00:00:00"_s;
+        QTest::newRow("English name") << german << u"5 March 2001"_s << u"2001-03-05 00:00:00"_s;
+    }
+    void readsDatesOfOtherRegions()
+    {
+        QFETCH(QLocale, region);
+        QFETCH(QString, text);
+        QLocale::setDefault(region);
+        QTEST(outcomeOf([&] { return runtime::toDate(Value(text)).toIsoText(); }), "moment");
+    }
+
+    void countsDays_data()
+    {
+        QTest::addColumn<double>("serial");
+        QTest::addColumn<QString>("moment");
+
+        QTest::newRow("day 0") << 0.0 << u"1899-12-30 00:00:00"_s;
+        QTest::newRow("noon of a day") << 36922.5 << u"2001-01-31 12:00:00"_s;
+        // Before day 0 the fraction still counts forward from midnight.
+        QTest::newRow("evening before day 0") << -1.75 << u"1899-12-29 18:00:00"_s;
+        QTest::newRow("first day") << -657434.0 << u"0100-01-01 00:00:00"_s;
+        QTest::newRow("last second") << 2958465.0 + 86399.0 / 86400 << u"9999-12-31 23:59:59"_s;
+        QTest::newRow("rounds beyond the last day") << 2958465.9999999 << u"error 6"_s;
+        QTest::newRow("after the last day") << 2958466.0 << u"error 6"_s;
+        QTest::newRow("before the first day") << -657435.0 << u"error 6"_s;
+    }
+    void countsDays()
+    {
+        QFETCH(double, serial);
+        QFETCH(QString, moment);
+        QCOMPARE(outcomeOf([&] { return Date::fromSerial(serial).toIsoText(); }), moment);
+        if (!moment.startsWith(u"error"))
+            QCOMPARE(Date::fromSerial(serial).toSerial(), serial);
+    }
+
+    void comesBackFromTheStoresForm_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("moment"); // empty for what is no date of the store
+
+        const auto row = [](const char *written, const char *iso) {
+            QTest::newRow(written) << QString::fromLatin1(written) << QString::fromLatin1(iso);
+        };
+        row("2001-01-31 17:04:09", "2001-01-31 17:04:09");
+        row("2001-01-31T17:04:09", "2001-01-31 17:04:09");
+        row("2001-01-31", "2001-01-31 00:00:00");
+        row("1899-12-30 23:59:59", "1899-12-30 23:59:59");
+        row("1850-06-01 00:00:01", "1850-06-01 00:00:01");
+        for (const char *written : {"", "2001-01", "2001-02-30", "1/31/2001", "2001-01-31 25:00:00", "2001-01-31x",
+                                    "2001-01-31 ", "0099-12-31", "2001-01-31 5 PM"})
+            row(written, "");
+    }
+    void comesBackFromTheStoresForm()
+    {
+        QFETCH(QString, text);
+        const auto date = Date::fromIsoText(text);
+        QTEST(date ? date->toIsoText() : QString(), "moment");
+    }
+
+    void countsBoundaries_data()
+    {
+        QTest::addColumn<QString>("interval");
+        QTest::addColumn<QString>("from");
+        QTest::addColumn<QString>("to");
+        QTest::addColumn<QString>("count");
+
+        const auto row = [](const char *interval, const char *from, const char *to, const char *count) {
+            QTest::addRow("%s %s, %s", interval, from, to) << QString::fromLatin1(interval) << QString::fromLatin1(from)
+                                                           << QString::fromLatin1(to) << QString::fromLatin1(count);
+        };
+        row("n", "2001-01-31 10:00:59", "2001-01-31 10:01:00", "1");
+        row("n", "2001-01-31 10:00:50", "2001-01-31 10:01:10", "1");
+        row("s", "2001-01-31 10:00:50", "2001-01-31 10:01:10", "20");
+        row("n", "2001-01-31 10:01:00", "2001-01-31 10:00:59", "-1");
+        row("N", "2001-01-31 23:00:00", "2001-02-02 01:00:00", "1560");
+        row("n", "1899-12-29 23:59:59", "1899-12-30 00:00:01", "1");
+        row("h", "2001-01-31 10:59:59", "2001-01-31 11:00:00", "1");
+        row("d", "1899-12-29 18:00:00", "1899-12-30 06:00:00", "1");
+        row("m", "2000-12-31", "2001-01-01", "1");
+        row("yyyy", "2000-12-31 23:59:59", "2001-01-01", "1");
+        row("s", "1970-01-01", "2038-01-19 03:14:07", "2147483647");
+        row("s", "1970-01-01", "2038-01-19 03:14:08", "error 6");
+        row("s", "2038-01-19 03:14:08", "1970-01-01", "-2147483648");
+        row("minutes", "2001-01-31", "2001-01-31", "error 5");
+        row("", "2001-01-31", "2001-01-31", "error 5");
+    }
+    void countsBoundaries()
+    {
+        QFETCH(QString, interval);
+        QFETCH(QString, from);
+        QFETCH(QString, to);
+        QTEST(outcomeOf([&] { return runtime::DateDiff(interval, *Date::fromIsoText(from), *Date::fromIsoText(to)); }),
+              "count");
+    }
+};
 
 QTEST_APPLESS_MAIN(DatesTest)
 #include "tst_dates.moc"

@@ -4,6 +4,7 @@
 #include "shell/users/frmTip.h"
 #include "support/DataStoreFolder.h"
 #include "support/Dialogs.h"
+#include "support/UnitedStates.h"
 
 #include <QPointer>
 #include <QSet>
@@ -91,6 +92,7 @@ private Q_SLOTS:
 
     void theSettingDecides()
     {
+        const UnitedStates region;
         CaughtErrors errors;
         for (const auto &[setting, shown, error] :
              {std::tuple(u" -1 "_s, true, 0), std::tuple(u"0.0"_s, false, 0), std::tuple(u"True"_s, false, 13)}) {
