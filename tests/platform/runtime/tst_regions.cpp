@@ -120,6 +120,7 @@ private Q_SLOTS:
         QTest::newRow("days") << u"da_DK"_s << u"36922,25"_s << u"2001-01-31 06:00:00"_s;
         QTest::newRow("day and time of a region of points")
             << u"da_DK"_s << u"1.12.01 9.05"_s << u"2001-12-01 09:05:00"_s;
+        QTest::newRow("point for the Arabic sign") << u"ar_EG"_s << u"36922.25"_s << u"2001-01-31 06:00:00"_s;
         QTest::newRow("time typed as elsewhere") << u"fr_CA"_s << u"22:5"_s << u"1899-12-30 22:05:00"_s;
         QTest::newRow("half of the day typed as elsewhere") << u"ko_KR"_s << u"5 pm"_s << u"1899-12-30 17:00:00"_s;
     }
