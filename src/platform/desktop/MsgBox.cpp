@@ -49,8 +49,6 @@ public:
     {
         setTitle(*this, title);
         setTextFormat(Qt::PlainText);
-        if (m_mustAnswer)
-            setWindowFlag(Qt::WindowCloseButtonHint, false);
     }
 
 protected:

@@ -74,13 +74,11 @@ private Q_SLOTS:
     void aUserThatIsNotThereIsReported()
     {
         CaughtErrors errors;
-        BoxAnswers none;
         for (const auto &[user, error] : {std::pair(QString(), -2147217900), std::pair(u"77"_s, 3021)}) {
             frmOptions &window = *openOptions(user);
             window.txtOldPassword->setText(u"x"_s);
             window.cmdOK->click();
             QCOMPARE(errors.takeNumber(), error);
-            QVERIFY(window.isVisible());
             window.Unload();
         }
     }

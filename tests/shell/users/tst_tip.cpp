@@ -78,16 +78,14 @@ private Q_SLOTS:
 
     void withoutAFileItIsSaidWhatToDo()
     {
-        CaughtErrors errors;
         QVERIFY(QDir(m_folder->folder()).mkdir(u"TIPOFDAY.TXT"_s)); // which is no file
-        QPointer<frmTip> window = desktop::showNew<frmTip>();
-        const QString text = u"That the TIPOFDAY.TXT file was not found? \n\nCreate a text file named TIPOFDAY.TXT "
-                             "using NotePad with 1 tip per line. Then place it in the same directory as the "
-                             "application. "_s;
-        window->cmdNextTip->click();
-        QCOMPARE(window->lblTipText->text(), text);
-        QVERIFY(!window->LoadTips({}));
-        window->Unload();
+        frmTip &window = *desktop::showNew<frmTip>();
+        window.cmdNextTip->click();
+        QCOMPARE(window.lblTipText->text(),
+                 u"That the TIPOFDAY.TXT file was not found? \n\nCreate a text file named TIPOFDAY.TXT using NotePad "
+                 "with 1 tip per line. Then place it in the same directory as the application. "_s);
+        QVERIFY(!window.LoadTips({}));
+        window.Unload();
     }
 
     void theSettingDecides()
@@ -110,32 +108,29 @@ private Q_SLOTS:
 
     void theCheckBoxKeepsTheSetting()
     {
-        QPointer<frmTip> window = desktop::showNew<frmTip>();
-        QApplication::setActiveWindow(window);
-        QVERIFY(QTest::qWaitForWindowActive(window));
-        window->chkLoadTipsAtStartup->click();
+        frmTip &window = *desktop::showNew<frmTip>();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        window.chkLoadTipsAtStartup->click();
         QCOMPARE(storedSetting(), u"0"_s);
-        QTest::keyClick(window, Qt::Key_S, Qt::AltModifier);
+        QTest::keyClick(&window, Qt::Key_S, Qt::AltModifier);
         QTRY_COMPARE(storedSetting(), u"1"_s);
-        window->Unload();
+        window.Unload();
     }
 
     // The file that goes with the program.
-    void theShippedTips()
+    void noShippedTipIsCutOff()
     {
-        QFile file(QStringLiteral(TIPS_FILE));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        writeTips(file.readAll());
-        QPointer<frmTip> window = desktop::showNew<frmTip>();
+        writeTips(contentOf(QStringLiteral(TIPS_FILE)));
+        frmTip &window = *desktop::showNew<frmTip>();
+        const desktop::Label &tip = *window.lblTipText;
         QSet<QString> seen;
         for (int click = 0; click < 1000; ++click) {
-            window->cmdNextTip->click();
-            const desktop::Label &tip = *window->lblTipText;
-            QVERIFY2(tip.heightForWidth(tip.width()) <= tip.height(), qPrintable(tip.text())); // none is cut off
+            window.cmdNextTip->click();
+            QVERIFY2(tip.heightForWidth(tip.width()) <= tip.height(), qPrintable(tip.text()));
             seen << tip.text();
         }
         QCOMPARE(seen.size(), 20);
-        window->Unload();
+        window.Unload();
     }
 
 private:
