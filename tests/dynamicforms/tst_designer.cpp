@@ -104,6 +104,7 @@ private Q_SLOTS:
                           "UPDATE FieldInfo SET FieldName = '<b>A</b> & B' WHERE FieldName = 'Post'");
         OpenDesigner designer;
         QCOMPARE(designer.window.TabStrip1->Caption(1), u"R & D && <b>x</b>"_s);
+        QCOMPARE(designer.window.TabStrip1->tabText(0), u"R && D &&&& <b>x</b>"_s);
         QCOMPARE(designer.label(1)->text(), u"<b>A</b> & B"_s);
         QCOMPARE(designer.label(1)->textFormat(), Qt::PlainText);
         QVERIFY(!designer.label(1)->buddy()); // which would make the ampersand a shortcut

@@ -88,10 +88,10 @@ private Q_SLOTS:
     void untouchedValuesStayAsTheyWere()
     {
         m_folder->execute(
-            "UPDATE [Personal Information] SET Comments = printf('%.*c', 30000, 'x') || char(13, 10, 160, "
+            "UPDATE [Personal Information] SET Comments = printf('%.*c', 40000, 'x') || char(13, 10, 160, "
             "8232, 9) || 'end', City = ' a' || char(10) || 'b ' WHERE PersonalInformationId = 4;"
             "UPDATE [Volunteer Profile] SET Skills = 'a' || char(13, 10) || 'b' || char(160) || "
-            "printf('%.*c', 32000, 'y') WHERE PersonalInformationId = 4");
+            "printf('%.*c', 33000, 'y') WHERE PersonalInformationId = 4");
         constexpr const char *values = "SELECT length(Comments), hex(substr(Comments, -9)), hex(City), length(Skills), "
                                        "hex(substr(Skills, 1, 5)), [Last Name] FROM [Personal Information] JOIN "
                                        "[Volunteer Profile] USING (PersonalInformationId) WHERE "

@@ -185,18 +185,10 @@ private Q_SLOTS:
 
     void onlyTheManagerEditsByAClickOnTheSelectedNode()
     {
-        OpenLibrary browser(Mode::Browser);
-        OpenLibrary manager;
-        for (OpenLibrary *library : {&browser, &manager}) {
-            library->tree().setFocus();
-            library->press(2);
-            library->press(2);
+        for (const Mode mode : {Mode::Browser, Mode::Manager}) {
+            OpenLibrary library(mode);
+            QCOMPARE(library.tree().editTriggers() == QAbstractItemView::SelectedClicked, mode == Mode::Manager);
         }
-        QTRY_VERIFY(manager.editor());
-        QVERIFY(!browser.editor());
-        manager.editor()->setText(u"left"_s);
-        QTest::mouseClick(manager.list().viewport(), Qt::LeftButton); // leaving the editor ends the edit
-        QTRY_COMPARE(manager.tree().Nodes(2).Text(), u"left"_s);
     }
 
     // Nodes: the root, "Office" (a library), "Bylaws" (a catagory), and one that bears the root's label. Each has

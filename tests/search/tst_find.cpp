@@ -26,14 +26,6 @@ QStringList lines(const desktop::ListView &list)
     return all;
 }
 
-QStringList itemsOf(const QComboBox &box)
-{
-    QStringList items;
-    for (int index = 0; index < box.count(); ++index)
-        items << box.itemText(index);
-    return items;
-}
-
 void click(QAbstractButton *button)
 {
     QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
@@ -67,13 +59,14 @@ private Q_SLOTS:
 
     void offersMembersAndFileTypes()
     {
-        QCOMPARE(itemsOf(*m_window->lstSearchClient), (QStringList{u"Ann  B  Cole"_s, u"Dan    O'Hara"_s}));
+        QCOMPARE(m_window->lstSearchClient->count(), 2);
+        QCOMPARE(m_window->lstSearchClient->itemText(0), u"Ann  B  Cole"_s);
+        QCOMPARE(m_window->lstSearchClient->itemText(1), u"Dan    O'Hara"_s);
         QCOMPARE(m_window->lstSearchClient->ListIndex(), -1);
-        QStringList types = itemsOf(*m_window->lstSearchFileType);
-        QCOMPARE(types.takeFirst(), u"All"_s);
-        types.sort();
-        QCOMPARE(types, (QStringList{u"doc"_s, u"txt"_s}));
         QCOMPARE(m_window->lstSearchFileType->Text(), u"All"_s);
+        QCOMPARE(m_window->lstSearchFileType->count(), 3);
+        QVERIFY(m_window->lstSearchFileType->findText(u"doc"_s) > 0 &&
+                m_window->lstSearchFileType->findText(u"txt"_s) > 0);
     }
 
     void onlyWithAMemberTheCurrentOneCanBeSearched()
@@ -141,6 +134,10 @@ private Q_SLOTS:
         QCOMPARE(m_window->lstViewResults->ColumnHeaders(5).Text, u"File Name"_s);
         QCOMPARE(m_window->lstViewResults->ColumnHeaders(6).Text, u"File Version"_s);
         QVERIFY(QDir(m_folder->path(u"temp/Search"_s)).isEmpty());
+        m_window->optSearchSummary(0)->setValue(true); // is not run, so that a broken statement does not show
+        m_window->txtSearchString->setText(u"it's"_s);
+        click(m_window->cmdSearch);
+        QCOMPARE(columns(), 3 * searches);
     }
 
     void filtersWhatItLooksThrough()
@@ -181,17 +178,6 @@ private Q_SLOTS:
             QCOMPARE(refusal.title, u"Error"_s);
             QCOMPARE(refusal.icon, QMessageBox::Critical);
         }
-    }
-
-    // Not even a broken statement shows itself.
-    void aSummarySearchLeavesTheListAsItWas()
-    {
-        search(u"annual"_s);
-        m_window->optSearchSummary(0)->setValue(true);
-        m_window->txtSearchString->setText(u"it's"_s);
-        click(m_window->cmdSearch);
-        QCOMPARE(columns(), 3);
-        QCOMPARE(hits(), 3);
     }
 
     void whatFailsEndsInTheReport()
@@ -254,8 +240,7 @@ private Q_SLOTS:
         do {
             const QWidget *stop = QApplication::focusWidget();
             stops << stop->objectName();
-            QVERIFY2(!stop->accessibleName().isEmpty() || qobject_cast<const QAbstractButton *>(stop),
-                     qPrintable(stops.constLast()));
+            QVERIFY(!stop->accessibleName().isEmpty() || qobject_cast<const QAbstractButton *>(stop));
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         } while (QApplication::focusWidget() != m_window->txtSearchString && stops.size() < 20);
         QCOMPARE(stops, (QStringList{u"txtSearchString"_s, u"optSearchSummary(1)"_s, u"optSearchExactPhrase(1)"_s,
