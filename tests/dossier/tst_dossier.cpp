@@ -193,6 +193,31 @@ private Q_SLOTS:
         QCOMPARE(m_folder->row("SELECT count(*) FROM " + table).toInt(), rows - 1);
     }
 
+    // The focus marks a line as the current one without highlighting it: that is no selection.
+    void withoutAHighlightedLineNothingIsDeleted()
+    {
+        CaughtErrors errors;
+        BoxAnswers boxes({QMessageBox::Yes, QMessageBox::Ok, QMessageBox::Yes});
+        OpenDossier dossier;
+        for (QWidget *tab : {static_cast<QWidget *>(dossier->Frame4), static_cast<QWidget *>(dossier->Frame3)}) {
+            dossier.turnTo(tab);
+            auto *list = tab->findChild<desktop::ListView *>();
+            list->setFocus(Qt::OtherFocusReason);
+            list->setCurrentItem(&list->ListItems(1), 0, QItemSelectionModel::NoUpdate);
+            QTest::mouseClick(list->viewport(), Qt::RightButton, {}, list->viewport()->rect().bottomRight());
+            QApplication::activePopupWidget()->close();
+        }
+        dossier.choose("MnuDeleteAttachment");
+        QCOMPARE(boxes.seen[1].text, u"Nothing selected"_s);
+        QCOMPARE(boxes.seen[1].icon, QMessageBox::Information);
+        dossier.choose("MnuDeleteInterest");
+        QCOMPARE(errors.takeNumber(), 91);
+        dossier.choose("mnuInterestEdit");
+        QCOMPARE(errors.takeNumber(), 91);
+        QCOMPARE(m_folder->row("SELECT (SELECT count(*) FROM Attachments) + (SELECT count(*) FROM MemberInterest)"),
+                 u"5"_s);
+    }
+
     // A row without a name or a date has no key in its line: deleting it breaks the statement and deletes nothing. What
     // the window does next is not held up by that.
     void aLineWithoutKeyIsNotDeleted()

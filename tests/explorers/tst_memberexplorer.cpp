@@ -190,6 +190,10 @@ private Q_SLOTS:
         QTest::mouseDClick(explorer.list().viewport(), Qt::LeftButton, {}, second);
         QCOMPARE(dossiers().size(), 4);
         QCOMPARE(dossiers()[3]->MemberId, qint16(3));
+        // Beside the lines a double click opens nothing, whatever was clicked before.
+        QTest::mouseDClick(explorer.list().viewport(), Qt::LeftButton, {},
+                           explorer.list().viewport()->rect().bottomRight());
+        QCOMPARE(dossiers().size(), 4);
         // The answer to a box is pressed there and released over the list: no dossier.
         QTest::keyRelease(&explorer.list(), Qt::Key_Return);
         QCOMPARE(dossiers().size(), 4);
