@@ -1,5 +1,7 @@
 #include "platform/data/engine/Collation.h"
 
+#include "platform/data/sql/SqlText.h"
+
 #include <QList>
 #include <QString>
 
@@ -12,22 +14,14 @@ constexpr char32_t foldedAscii(char32_t c)
     return c >= U'A' && c <= U'Z' ? c + 32 : c;
 }
 
-// The character in its one case. What folds to an ASCII letter without being one (the Kelvin sign, the long s) stays.
+// The character in the case by which texts compare. The Kelvin sign and the long s would become ASCII letters, which
+// the file's indexes do not take them for: they stay as they are.
 char32_t folded(char32_t c)
 {
     if (c < 0x80)
         return foldedAscii(c);
     const char32_t lower = QChar::toCaseFolded(c);
     return lower < 0x80 ? c : lower;
-}
-
-bool isAscii(QByteArrayView text)
-{
-    for (const char c : text) {
-        if (uchar(c) >= 0x80)
-            return false;
-    }
-    return true;
 }
 
 int sign(qsizetype difference)
@@ -57,11 +51,11 @@ QList<char32_t> foldedCharacters(QByteArrayView text)
     return foldedOnes;
 }
 
-// The letter without its accents, where the character is composed of one.
+// The letter without its accents; another character as it is.
 char32_t base(char32_t c)
 {
     if (c < 0x80)
-        return foldedAscii(c); // the Kelvin sign is composed of a capital
+        return foldedAscii(c); // may be a capital: the Kelvin sign decomposes into one
     const QString parts = QChar::decomposition(c);
     const bool isCompatibility = QChar::decompositionTag(c) != QChar::Canonical;
     if (parts.isEmpty() || isCompatibility)
@@ -81,8 +75,8 @@ template <class Key> int compareBy(const QList<char32_t> &a, const QList<char32_
     return sign(a.size() - b.size());
 }
 
-// One position of a pattern: a run, any character, a set or the character itself.
-struct Likeness
+// One element of a pattern: any run of characters, any one character, one of a set, or one certain character.
+struct PatternElement
 {
     enum class Kind { Run, Any, Set, Same } kind = Kind::Same;
     char32_t character = 0;
@@ -90,8 +84,9 @@ struct Likeness
     QList<char32_t> set; // pairs: first and last of a range
 };
 
-// A bracket without its fellow stands for itself.
-qsizetype readSet(const QList<char32_t> &pattern, qsizetype at, Likeness &out)
+// Reads a set that opens at `at` and returns where it closes. An opening bracket that is not closed is a plain
+// character: then `at` is returned.
+qsizetype readSet(const QList<char32_t> &pattern, qsizetype at, PatternElement &out)
 {
     qsizetype end = at + 1;
     if (end < pattern.size() && pattern[end] == U'^') {
@@ -103,7 +98,7 @@ qsizetype readSet(const QList<char32_t> &pattern, qsizetype at, Likeness &out)
         ++end;
     if (end >= pattern.size())
         return at;
-    out.kind = Likeness::Kind::Set;
+    out.kind = PatternElement::Kind::Set;
     for (qsizetype in = begin; in < end; ++in) {
         const bool range = in + 2 < end && pattern[in + 1] == U'-';
         out.set << pattern[in] << pattern[range ? in + 2 : in];
@@ -112,17 +107,17 @@ qsizetype readSet(const QList<char32_t> &pattern, qsizetype at, Likeness &out)
     return end;
 }
 
-QList<Likeness> likenessesOf(QByteArrayView pattern)
+QList<PatternElement> elementsOf(QByteArrayView pattern)
 {
     const QList<char32_t> characters = foldedCharacters(pattern);
-    QList<Likeness> parts;
+    QList<PatternElement> parts;
     for (qsizetype at = 0; at < characters.size(); ++at) {
-        Likeness part;
+        PatternElement part;
         part.character = characters[at];
         if (part.character == U'%')
-            part.kind = Likeness::Kind::Run;
+            part.kind = PatternElement::Kind::Run;
         else if (part.character == U'_')
-            part.kind = Likeness::Kind::Any;
+            part.kind = PatternElement::Kind::Any;
         else if (part.character == U'[')
             at = readSet(characters, at, part);
         parts << part;
@@ -130,11 +125,11 @@ QList<Likeness> likenessesOf(QByteArrayView pattern)
     return parts;
 }
 
-bool matchesOne(const Likeness &part, char32_t c)
+bool matchesOne(const PatternElement &part, char32_t c)
 {
-    if (part.kind == Likeness::Kind::Any)
+    if (part.kind == PatternElement::Kind::Any)
         return true;
-    if (part.kind == Likeness::Kind::Same)
+    if (part.kind == PatternElement::Kind::Same)
         return part.character == c;
     bool inSet = false;
     for (qsizetype at = 0; at + 1 < part.set.size(); at += 2)
@@ -146,7 +141,7 @@ bool matchesOne(const Likeness &part, char32_t c)
 
 int compareTexts(QByteArrayView a, QByteArrayView b)
 {
-    if (isAscii(a) && isAscii(b))
+    if (sql::isAscii(a) && sql::isAscii(b))
         return compareAscii(a, b);
     const QList<char32_t> inA = foldedCharacters(a);
     const QList<char32_t> inB = foldedCharacters(b);
@@ -156,14 +151,14 @@ int compareTexts(QByteArrayView a, QByteArrayView b)
 
 bool matchesLike(QByteArrayView pattern, QByteArrayView text)
 {
-    const QList<Likeness> parts = likenessesOf(pattern);
+    const QList<PatternElement> parts = elementsOf(pattern);
     const QList<char32_t> characters = foldedCharacters(text);
     qsizetype part = 0;
     qsizetype at = 0;
-    qsizetype runPart = -1; // where to go back to when what follows the last run fails
+    qsizetype runPart = -1; // the last run so far; it takes one character more when what follows it does not match
     qsizetype runAt = 0;
     while (at < characters.size()) {
-        if (part < parts.size() && parts[part].kind == Likeness::Kind::Run) {
+        if (part < parts.size() && parts[part].kind == PatternElement::Kind::Run) {
             runPart = part++;
             runAt = at;
         } else if (part < parts.size() && matchesOne(parts[part], characters[at])) {
@@ -176,7 +171,7 @@ bool matchesLike(QByteArrayView pattern, QByteArrayView text)
             return false;
         }
     }
-    while (part < parts.size() && parts[part].kind == Likeness::Kind::Run)
+    while (part < parts.size() && parts[part].kind == PatternElement::Kind::Run)
         ++part;
     return part == parts.size();
 }

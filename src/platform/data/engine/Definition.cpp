@@ -5,7 +5,6 @@
 #include "platform/data/sql/SqlText.h"
 #include "platform/runtime/ProviderError.h"
 
-#include <algorithm>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -61,18 +60,15 @@ runtime::RuntimeError invalidName(const QString &name)
 
 QByteArray columnSql(const Database &file, const TableDefinition &table, const ColumnDefinition &column)
 {
-    // By this name the store finds a row again.
+    // A column of the name _rowid_ would hide the row identity, by which the store finds a row again.
     if (!canBeNamed(column.name) || isSameName(column.name, u"_rowid_"_s))
         throw invalidName(column.name);
     const bool hasDefault = column.defaultExpression && !column.defaultExpression->isEmpty();
-    QByteArray sql;
-    sql::appendName(sql, column.name);
-    sql += ' ';
-    sql += declarationOf(column.type);
+    QByteArray sql = sql::quotedName(column.name) + ' ' + declarationOf(column.type);
     if (column.isAutoIncrement) {
         if (ColumnType(column.type) != ColumnType::Long || hasDefault)
             throw refusedProperty();
-        return sql; // a Null is what the counter fills in
+        return sql; // nullable: the trigger puts the number where a new row has a Null
     }
     if (column.isRequired)
         sql += " NOT NULL";
@@ -86,25 +82,21 @@ QByteArray columnSql(const Database &file, const TableDefinition &table, const C
 
 QByteArray tableSql(const Database &file, const TableDefinition &table)
 {
-    QByteArray sql = "CREATE TABLE ";
-    sql::appendName(sql, table.name);
-    sql += " (";
+    QByteArray sql = "CREATE TABLE " + sql::quotedName(table.name) + " (";
     for (const auto &column : table.columns)
         sql += columnSql(file, table, *column) + ", ";
     sql.chop(2);
     return sql + ')';
 }
 
-// Numbers the rows as AUTOINCREMENT does, in SQLite's own list of counters, for a column that is no key: a number set
-// by hand is taken, a repeated one too, and no number is given out that was there before.
+// A trigger that numbers new rows as AUTOINCREMENT does, with SQLite's own table of counters, in a column that is no
+// key: a number that is set by hand is kept, also a repeated one, and no number is given out twice.
 QByteArray counterSql(const TableDefinition &table, const ColumnDefinition &column)
 {
-    QByteArray name;
-    sql::appendName(name, table.name);
+    const QByteArray name = sql::quotedName(table.name);
+    const QByteArray number = sql::quotedName(column.name);
     QByteArray text;
     sql::appendQuoted(text, table.name, '\'');
-    QByteArray number;
-    sql::appendName(number, column.name);
     const QByteArray own = " FROM sqlite_sequence WHERE name = " + text;
     return "CREATE TRIGGER " + name + " AFTER INSERT ON " + name + " BEGIN INSERT INTO sqlite_sequence (name, seq)" +
            " SELECT " + text + ", coalesce((SELECT max(" + number + ") FROM " + name +
@@ -126,8 +118,8 @@ bool isTaken(const Database &file, const QString &name)
 
 bool isSameName(const QString &a, const QString &b)
 {
-    const auto folded = [](QChar c) { return c >= u'A' && c <= u'Z' ? QChar(c.unicode() | 0x20) : c; };
-    return std::ranges::equal(a, b, {}, folded, folded); // as SQLite compares them: ASCII letters alone
+    // As SQLite compares names: this overload takes upper and lower case of ASCII letters alone for equal.
+    return a.toUtf8().compare(b.toUtf8(), Qt::CaseInsensitive) == 0;
 }
 
 runtime::RuntimeError refusedProperty()
@@ -160,7 +152,7 @@ std::vector<std::shared_ptr<ColumnDefinition>> storedColumns(const std::shared_p
                                                              const QString &table)
 {
     std::vector<std::shared_ptr<ColumnDefinition>> columns;
-    // Its step looks at sqlite_master and so notices what other connections have changed.
+    // Reading sqlite_master shows what other connections have changed, which the pragma alone would not.
     Statement rows =
         file->prepare("SELECT c.name, c.type, c.\"notnull\", c.dflt_value, "
                       "(c.pk AND t.sql LIKE '%AUTOINCREMENT%') OR EXISTS (SELECT 1 FROM sqlite_master AS n "

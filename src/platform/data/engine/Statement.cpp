@@ -42,7 +42,7 @@ void Statement::bind(int parameter, qint64 number)
 
 void Statement::bindText(int parameter, QByteArrayView utf8)
 {
-    // A text without characters may have no address, which SQLite would take for Null.
+    // SQLite takes a null pointer for Null, and an empty text may have one.
     check(sqlite3_bind_text64(m_statement.get(), parameter, utf8.isEmpty() ? "" : utf8.data(),
                               sqlite3_uint64(utf8.size()), SQLITE_TRANSIENT, SQLITE_UTF8));
 }
@@ -77,7 +77,7 @@ void Statement::bind(int parameter, const runtime::Value &value)
         break;
     case Type::Binary: {
         const QByteArray &bytes = value.get<QByteArray>();
-        // An empty array has no address, which SQLite would take for Null.
+        // SQLite takes a null pointer for Null, and an empty array may have one.
         check(sqlite3_bind_blob64(m_statement.get(), parameter, bytes.isEmpty() ? "" : bytes.constData(),
                                   sqlite3_uint64(bytes.size()), SQLITE_STATIC));
         break;
@@ -108,11 +108,6 @@ QByteArrayView Statement::declaredType(int column) const
     return viewOf(sqlite3_column_decltype(m_statement.get(), column));
 }
 
-QByteArrayView Statement::originTable(int column) const
-{
-    return viewOf(sqlite3_column_table_name(m_statement.get(), column));
-}
-
 QByteArrayView Statement::originColumn(int column) const
 {
     return viewOf(sqlite3_column_origin_name(m_statement.get(), column));
@@ -134,7 +129,8 @@ QByteArrayView Statement::text(int column) const
     return {bytes, sqlite3_column_bytes(m_statement.get(), column)};
 }
 
-// Through the value, which is looked up once. Only the thread that steps may do this.
+// Each sqlite3_column_...() call looks the column up anew; sqlite3_value_...() reads from the value that was looked up.
+// The value is unprotected: only the thread that steps the statement may read it.
 Statement::Content Statement::content(int column) const
 {
     sqlite3_value *value = sqlite3_column_value(m_statement.get(), column);
@@ -153,7 +149,7 @@ Statement::Content Statement::content(int column) const
         if (!content.bytes)
             throw std::bad_alloc();
         break;
-    case Storage::Blob: // without an address when it is empty
+    case Storage::Blob: // a null pointer when it is empty
         content.bytes = static_cast<const char *>(sqlite3_value_blob(value));
         content.size = quint32(sqlite3_value_bytes(value));
         break;

@@ -25,7 +25,7 @@ namespace {
         throw provider::error(provider::Unspecified,
                               u"The specified field '%1' could refer to more than one table listed in the "
                               u"FROM clause of your SQL statement."_s.arg(name));
-    throw; // as it is: this is called while it is handled
+    throw; // the error itself, which the caller is handling
 }
 
 } // namespace

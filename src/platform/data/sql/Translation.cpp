@@ -18,7 +18,7 @@ Translation translate(const QString &text)
 {
     Tree tree;
     parse(text, tree);
-    return written(tree, text.size());
+    return writeStatement(tree, text.size());
 }
 
 std::shared_ptr<const Translation> cachedTranslation(const QString &text)
