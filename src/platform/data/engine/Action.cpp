@@ -56,7 +56,7 @@ void runAction(Database &database, const sql::Translation &translation)
         for (const sql::Assignment &assignment : translation.assignments)
             values.push_back(literalFor(typeOfTarget(database, translation, assignment.column), assignment.literal));
     }
-    Statement statement = prepareChecked(database, translation, translation.sql);
+    Statement statement = prepareChecked(database, translation, sqlFor(database, translation));
     checkComparisons(database, translation);
     for (size_t at = 0; at < values.size(); ++at)
         statement.bind(int(at) + 1, values[at]);

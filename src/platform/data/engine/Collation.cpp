@@ -4,6 +4,12 @@
 
 #include <QList>
 #include <QString>
+#include <QStringDecoder>
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace data {
 
@@ -41,14 +47,20 @@ int compareAscii(QByteArrayView a, QByteArrayView b)
     return sign(a.size() - b.size());
 }
 
-QList<char32_t> foldedCharacters(QByteArrayView text)
+// In containers of the standard library, which raise std::bad_alloc where Qt's would go on with a null pointer.
+std::u32string foldedCharacters(QByteArrayView text)
 {
-    const QList<uint> characters = QString::fromUtf8(text).toUcs4();
-    QList<char32_t> foldedOnes;
-    foldedOnes.reserve(characters.size());
-    for (const uint c : characters)
-        foldedOnes << folded(c);
-    return foldedOnes;
+    QStringDecoder fromUtf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    std::vector<QChar> units(size_t(fromUtf8.requiredSpace(text.size())));
+    units.resize(size_t(fromUtf8.appendToBuffer(units.data(), text) - units.data()));
+    std::u32string characters;
+    characters.reserve(units.size());
+    for (size_t at = 0; at < units.size(); ++at) {
+        const bool isPair = units[at].isHighSurrogate() && at + 1 < units.size() && units[at + 1].isLowSurrogate();
+        characters += folded(isPair ? QChar::surrogateToUcs4(units[at], units[at + 1]) : units[at].unicode());
+        at += isPair ? 1 : 0;
+    }
+    return characters;
 }
 
 // The letter without its accents; another character as it is.
@@ -63,16 +75,16 @@ char32_t base(char32_t c)
     return base(parts.toUcs4().constFirst());
 }
 
-template <class Key> int compareBy(const QList<char32_t> &a, const QList<char32_t> &b, Key key)
+template <class Key> int compareBy(const std::u32string &a, const std::u32string &b, Key key)
 {
-    const qsizetype common = qMin(a.size(), b.size());
-    for (qsizetype at = 0; at < common; ++at) {
+    const size_t common = std::min(a.size(), b.size());
+    for (size_t at = 0; at < common; ++at) {
         const char32_t inA = key(a[at]);
         const char32_t inB = key(b[at]);
         if (inA != inB)
             return inA < inB ? -1 : 1;
     }
-    return sign(a.size() - b.size());
+    return sign(qsizetype(a.size()) - qsizetype(b.size()));
 }
 
 // One element of a pattern: any run of characters, any one character, one of a set, or one certain character.
@@ -81,37 +93,38 @@ struct PatternElement
     enum class Kind { Run, Any, Set, Same } kind = Kind::Same;
     char32_t character = 0;
     bool negated = false;
-    QList<char32_t> set; // pairs: first and last of a range
+    std::u32string set; // pairs: first and last of a range
 };
 
 // Reads a set that opens at `at` and returns where it closes. An opening bracket that is not closed is a plain
 // character: then `at` is returned.
-qsizetype readSet(const QList<char32_t> &pattern, qsizetype at, PatternElement &out)
+size_t readSet(const std::u32string &pattern, size_t at, PatternElement &out)
 {
-    qsizetype end = at + 1;
+    size_t end = at + 1;
     if (end < pattern.size() && pattern[end] == U'^') {
         out.negated = true;
         ++end;
     }
-    const qsizetype begin = end;
+    const size_t begin = end;
     while (end < pattern.size() && (pattern[end] != U']' || end == begin))
         ++end;
     if (end >= pattern.size())
         return at;
     out.kind = PatternElement::Kind::Set;
-    for (qsizetype in = begin; in < end; ++in) {
+    for (size_t in = begin; in < end; ++in) {
         const bool range = in + 2 < end && pattern[in + 1] == U'-';
-        out.set << pattern[in] << pattern[range ? in + 2 : in];
+        out.set += pattern[in];
+        out.set += pattern[range ? in + 2 : in];
         in += range ? 2 : 0;
     }
     return end;
 }
 
-QList<PatternElement> elementsOf(QByteArrayView pattern)
+std::vector<PatternElement> elementsOf(QByteArrayView pattern)
 {
-    const QList<char32_t> characters = foldedCharacters(pattern);
-    QList<PatternElement> parts;
-    for (qsizetype at = 0; at < characters.size(); ++at) {
+    const std::u32string characters = foldedCharacters(pattern);
+    std::vector<PatternElement> parts;
+    for (size_t at = 0; at < characters.size(); ++at) {
         PatternElement part;
         part.character = characters[at];
         if (part.character == U'%')
@@ -120,7 +133,7 @@ QList<PatternElement> elementsOf(QByteArrayView pattern)
             part.kind = PatternElement::Kind::Any;
         else if (part.character == U'[')
             at = readSet(characters, at, part);
-        parts << part;
+        parts.push_back(part);
     }
     return parts;
 }
@@ -132,31 +145,34 @@ bool matchesOne(const PatternElement &part, char32_t c)
     if (part.kind == PatternElement::Kind::Same)
         return part.character == c;
     bool inSet = false;
-    for (qsizetype at = 0; at + 1 < part.set.size(); at += 2)
+    for (size_t at = 0; at + 1 < part.set.size(); at += 2)
         inSet = inSet || (c >= part.set[at] && c <= part.set[at + 1]);
     return inSet != part.negated;
 }
 
 } // namespace
 
+thread_local bool comparisonFailed = false;
+
 int compareTexts(QByteArrayView a, QByteArrayView b)
 {
     if (sql::isAscii(a) && sql::isAscii(b))
         return compareAscii(a, b);
-    const QList<char32_t> inA = foldedCharacters(a);
-    const QList<char32_t> inB = foldedCharacters(b);
+    const std::u32string inA = foldedCharacters(a);
+    const std::u32string inB = foldedCharacters(b);
     const int byLetters = compareBy(inA, inB, base);
     return byLetters ? byLetters : compareBy(inA, inB, [](char32_t c) { return c; });
 }
 
 bool matchesLike(QByteArrayView pattern, QByteArrayView text)
 {
-    const QList<PatternElement> parts = elementsOf(pattern);
-    const QList<char32_t> characters = foldedCharacters(text);
-    qsizetype part = 0;
-    qsizetype at = 0;
-    qsizetype runPart = -1; // the last run so far; it takes one character more when what follows it does not match
-    qsizetype runAt = 0;
+    const std::vector<PatternElement> parts = elementsOf(pattern);
+    const std::u32string characters = foldedCharacters(text);
+    size_t part = 0;
+    size_t at = 0;
+    std::optional<size_t>
+        runPart; // the last run so far; it takes one character more when what follows it does not match
+    size_t runAt = 0;
     while (at < characters.size()) {
         if (part < parts.size() && parts[part].kind == PatternElement::Kind::Run) {
             runPart = part++;
@@ -164,8 +180,8 @@ bool matchesLike(QByteArrayView pattern, QByteArrayView text)
         } else if (part < parts.size() && matchesOne(parts[part], characters[at])) {
             ++part;
             ++at;
-        } else if (runPart >= 0) {
-            part = runPart + 1;
+        } else if (runPart) {
+            part = *runPart + 1;
             at = ++runAt;
         } else {
             return false;

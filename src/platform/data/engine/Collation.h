@@ -13,6 +13,9 @@ namespace data {
 // Negative, zero or positive, as for sorting; zero for texts that count as equal.
 int compareTexts(QByteArrayView a, QByteArrayView b);
 
+// Set when a comparison inside SQLite lacked memory: the statement that asked for it fails.
+extern thread_local bool comparisonFailed;
+
 // LIKE: "%" any run, "_" one character, "[abc]", "[a-z]" and "[^a]" one of a set, "[%]" the sign itself.
 bool matchesLike(QByteArrayView pattern, QByteArrayView text);
 

@@ -43,6 +43,16 @@ Cursor::Cursor(const std::shared_ptr<Database> &database, std::shared_ptr<const 
 {
 }
 
+void Cursor::close()
+{
+    m_database.reset();
+    m_source.close();
+    m_rows.reset();
+    m_addedRow.reset();
+    m_changes.clear();
+    forgetBinary();
+}
+
 void Cursor::load()
 {
     if (m_rows)
@@ -202,13 +212,14 @@ void Cursor::update()
             m_editMode = Edit::None;
             takeAdded(added);
         } else {
-            const qint64 rowId = currentRowId();
-            m_source.updateRow(rowId, m_changes);
+            const qint64 rowId = m_source.updateRow(currentRowId(), m_changes);
             m_editMode = Edit::None;
-            if (m_addedRowId)
+            if (m_addedRowId) {
+                m_addedRowId = rowId;
                 m_addedRow.reset();
-            else
+            } else {
                 m_source.readRow(rowId, *m_rows, m_row);
+            }
         }
     } catch (const StoreError &error) {
         raiseUpdateError(error);

@@ -17,6 +17,8 @@ public:
            Access access);
 
     bool isConnected() const { return !m_database.expired(); }
+    // Releases the rows and the statement; from then on it is not connected.
+    void close();
     bool isEof();
     qint32 recordCount();
     void moveFirst();

@@ -55,6 +55,20 @@ public:
     void execute(const QByteArray &sql);
     // The same in one transaction: after an error the file is as it was.
     void executeWhole(const QByteArray &sql);
+    // The same for any steps.
+    void change(const std::function<void()> &steps);
+    // While it stands, statements may change sqlite_master. Afterwards the file's definitions are read anew.
+    class WritableSchema
+    {
+    public:
+        explicit WritableSchema(Database &file) : m_file(file) { m_file.execute("PRAGMA writable_schema = ON"); }
+        WritableSchema(const WritableSchema &) = delete;
+        WritableSchema &operator=(const WritableSchema &) = delete;
+        ~WritableSchema();
+
+    private:
+        Database &m_file;
+    };
     Statement prepare(QByteArrayView sql) const;
 
     qint64 lastInsertRowId() const;

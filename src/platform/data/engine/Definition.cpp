@@ -58,25 +58,36 @@ runtime::RuntimeError invalidName(const QString &name)
                            u"characters or punctuation and that it is not too long."_s.arg(name));
 }
 
-QByteArray columnSql(const Database &file, const TableDefinition &table, const ColumnDefinition &column)
+struct ColumnSql
+{
+    QByteArray declaration; // the name and the type
+    QByteArray constraint;  // " NOT NULL" or nothing
+    QByteArray value;       // of the default, or nothing
+
+    QByteArray all() const { return declaration + constraint + (value.isEmpty() ? value : " DEFAULT " + value); }
+    bool hasComputedDefault() const { return value.startsWith('('); }
+};
+
+ColumnSql columnSql(const Database &file, const TableDefinition &table, const ColumnDefinition &column)
 {
     // A column of the name _rowid_ would hide the row identity, by which the store finds a row again.
     if (!canBeNamed(column.name) || isSameName(column.name, u"_rowid_"_s))
         throw invalidName(column.name);
     const bool hasDefault = column.defaultExpression && !column.defaultExpression->isEmpty();
-    QByteArray sql = sql::quotedName(column.name) + ' ' + declarationOf(column.type);
+    ColumnSql sql;
+    sql.declaration = sql::quotedName(column.name) + ' ' + declarationOf(column.type);
     if (column.isAutoIncrement) {
         if (ColumnType(column.type) != ColumnType::Long || hasDefault)
             throw refusedProperty();
         return sql; // nullable: the trigger puts the number where a new row has a Null
     }
     if (column.isRequired)
-        sql += " NOT NULL";
+        sql.constraint = " NOT NULL";
     if (hasDefault)
-        sql += " DEFAULT " +
-               defaultSql(file, *column.defaultExpression, ColumnType(column.type), table.name + u'.' + column.name);
+        sql.value =
+            defaultSql(file, *column.defaultExpression, ColumnType(column.type), table.name + u'.' + column.name);
     else if (ColumnType(column.type) == ColumnType::Boolean)
-        sql += " DEFAULT 0";
+        sql.value = "0";
     return sql;
 }
 
@@ -84,7 +95,7 @@ QByteArray tableSql(const Database &file, const TableDefinition &table)
 {
     QByteArray sql = "CREATE TABLE " + sql::quotedName(table.name) + " (";
     for (const auto &column : table.columns)
-        sql += columnSql(file, table, *column) + ", ";
+        sql += columnSql(file, table, *column).all() + ", ";
     sql.chop(2);
     return sql + ')';
 }
@@ -112,6 +123,31 @@ bool isTaken(const Database &file, const QString &name)
     Statement taken = file.prepare("SELECT 1 FROM sqlite_master WHERE name = ?1 COLLATE NOCASE AND type <> 'trigger'");
     taken.bindText(1, name.toUtf8());
     return taken.step();
+}
+
+// SQLite adds no column with a computed default to a table that has rows. The way that its manual gives for changing a
+// default is taken: the column is added without one, the rows there get the value of this moment, and then the default
+// is written into the table's definition.
+void addColumnWithComputedDefault(Database &file, const QByteArray &table, const ColumnDefinition &column,
+                                  const ColumnSql &sql)
+{
+    file.change([&] {
+        file.execute("ALTER TABLE " + table + " ADD COLUMN " + sql.declaration + "; UPDATE " + table + " SET " +
+                     sql::quotedName(column.name) + " = " + sql.value);
+        const QByteArray here =
+            " WHERE type = 'table' AND '\"' || replace(name, '\"', '\"\"') || '\"' = ?1 COLLATE NOCASE";
+        Statement stored = file.prepare("SELECT sql FROM sqlite_master" + here);
+        stored.bindText(1, table);
+        stored.step();
+        QByteArray definition = stored.text(0).toByteArray();
+        stored.reset();
+        definition.replace(definition.lastIndexOf(sql.declaration), sql.declaration.size(), sql.all());
+        const Database::WritableSchema writable(file);
+        Statement change = file.prepare("UPDATE sqlite_master SET sql = ?2" + here);
+        change.bindText(1, table);
+        change.bindText(2, definition);
+        change.step();
+    });
 }
 
 } // namespace
@@ -199,9 +235,15 @@ void storeColumn(Database &file, const TableDefinition &table, const ColumnDefin
 {
     if (column.isAutoIncrement) // the rows that the table has would have to be numbered
         throw refusedProperty();
-    QByteArray sql = "ALTER TABLE ";
-    sql::appendName(sql, table.name);
-    file.execute(sql + " ADD COLUMN " + columnSql(file, table, column));
+    const ColumnSql sql = columnSql(file, table, column);
+    const QByteArray name = sql::quotedName(table.name);
+    const bool hasRows = file.prepare("SELECT 1 FROM " + name + " LIMIT 1").step();
+    if (hasRows && column.isRequired && sql.value.isEmpty())
+        throw provider::requiredField(table.name + u'.' + column.name);
+    if (hasRows && sql.hasComputedDefault())
+        addColumnWithComputedDefault(file, name, column, sql);
+    else
+        file.execute("ALTER TABLE " + name + " ADD COLUMN " + sql.all());
 }
 
 } // namespace data

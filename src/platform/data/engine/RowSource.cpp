@@ -12,6 +12,7 @@ namespace data {
 RowSource::RowSource(std::weak_ptr<Database> file, std::shared_ptr<const sql::Translation> translation)
     : m_database(std::move(file)), m_translation(std::move(translation))
 {
+    m_sql = sqlFor(database(), *m_translation);
     prepared();
     checkComparisons(database(), *m_translation);
 }
@@ -27,7 +28,7 @@ Database &RowSource::database() const
 Statement &RowSource::prepared()
 {
     if (!m_statement.isPrepared())
-        m_statement = prepareChecked(database(), *m_translation, m_translation->sql);
+        m_statement = prepareChecked(database(), *m_translation, m_sql);
     return m_statement;
 }
 
@@ -122,7 +123,7 @@ QByteArray RowSource::listOfOrigins() const
 
 QByteArray RowSource::readingSql()
 {
-    QByteArray sql = m_translation->sql;
+    QByteArray sql = m_sql;
     return sql.replace(m_translation->listBegin, m_translation->listLength, listOfOrigins());
 }
 
@@ -151,7 +152,7 @@ qint32 RowSource::count()
 {
     describeColumns();
     // To sort rows SQLite copies them: binary values must not be among them.
-    const QByteArray rows = m_hasBinary ? readingSql() : m_translation->sql;
+    const QByteArray rows = m_hasBinary ? readingSql() : m_sql;
     Statement statement = prepareChecked(database(), *m_translation, "SELECT COUNT(*) FROM (" + rows + ')');
     statement.step();
     return qint32(statement.integer(0));
@@ -218,7 +219,7 @@ RowSource::Added RowSource::insertRow(const Changes &changes)
     return {database().lastInsertRowId(), false};
 }
 
-void RowSource::updateRow(qint64 rowId, const Changes &changes)
+qint64 RowSource::updateRow(qint64 rowId, const Changes &changes)
 {
     QByteArray settings;
     for (size_t column = 0; column < changes.size(); ++column) {
@@ -226,18 +227,22 @@ void RowSource::updateRow(qint64 rowId, const Changes &changes)
             settings += sql::quotedName(m_columns[column].origin) + "=?" + QByteArray::number(qint64(column) + 1) + ',';
     }
     if (settings.isEmpty())
-        return;
+        return rowId;
     settings.chop(1);
     const int last = int(changes.size()) + 1;
     Statement statement = database().prepare("UPDATE " + sql::quotedName(m_translation->table) + " SET " + settings +
-                                             " WHERE _rowid_=?" + QByteArray::number(last));
+                                             " WHERE _rowid_=?" + QByteArray::number(last) + " RETURNING _rowid_");
     for (size_t column = 0; column < changes.size(); ++column) {
         if (changes[column])
             statement.bind(int(column) + 1, *changes[column]);
     }
     statement.bind(last, rowId);
-    statement.step();
+    const bool found = statement.step();
+    const qint64 rowIdNow = found ? statement.integer(0) : rowId;
+    while (statement.step()) // to its end, which completes the change
+        ;
     requireChange();
+    return rowIdNow;
 }
 
 void RowSource::deleteRow(qint64 rowId)

@@ -31,6 +31,9 @@ class RowSource
 public:
     RowSource(std::weak_ptr<Database> file, std::shared_ptr<const sql::Translation> translation);
 
+    // Finalizes the statement.
+    void close() { m_statement.finalize(); }
+
     const std::vector<SourceColumn> &columns();
     // The column of a name, without regard to case; -1 when there is none. Until the rows are read, the call may find
     // that another connection has added columns; they come behind the others.
@@ -57,8 +60,9 @@ public:
             isNew; // false where a trigger of the table ignored the insertion; `rowId` is then the row that has its key
     };
     Added insertRow(const Changes &changes);
-    // Both raise error 3021 when the row is gone.
-    void updateRow(qint64 rowId, const Changes &changes);
+    // Both raise error 3021 when the row is gone. An update of the key column gives the row another identity, which is
+    // returned.
+    qint64 updateRow(qint64 rowId, const Changes &changes);
     void deleteRow(qint64 rowId);
 
 private:
@@ -74,6 +78,7 @@ private:
 
     std::weak_ptr<Database> m_database;
     std::shared_ptr<const sql::Translation> m_translation;
+    QByteArray m_sql; // the translation's, for this file
     Statement m_statement;
     std::vector<SourceColumn> m_columns;
     bool m_described = false;

@@ -1,7 +1,10 @@
 #include "platform/data/engine/Statement.h"
 
+#include "platform/data/engine/Collation.h"
+#include "platform/data/engine/ColumnType.h"
 #include "platform/data/engine/Database.h"
 
+#include <cmath>
 #include <new>
 #include <sqlite3.h>
 #include <utility>
@@ -67,7 +70,7 @@ void Statement::bind(int parameter, const runtime::Value &value)
         check(sqlite3_bind_double(m_statement.get(), parameter, value.get<double>()));
         break;
     case Type::Currency:
-        bindText(parameter, value.get<runtime::Currency>().toPlainText().toLatin1());
+        bindAmount(parameter, value.get<runtime::Currency>());
         break;
     case Type::Date:
         bindText(parameter, value.get<runtime::Date>().toIsoText().toLatin1());
@@ -85,9 +88,22 @@ void Statement::bind(int parameter, const runtime::Value &value)
     }
 }
 
+void Statement::bindAmount(int parameter, runtime::Currency amount)
+{
+    const double number = amount.toDouble();
+    constexpr double largest = 9e14; // less than the largest amount, so that its neighbours are in range
+    const bool isExact = std::abs(number) < largest && runtime::Currency::fromDouble(number) == amount;
+    if (isExact)
+        check(sqlite3_bind_double(m_statement.get(), parameter, number));
+    else
+        bindText(parameter, amount.toPlainText().toLatin1() + exactAmountMark.toByteArray());
+}
+
 bool Statement::step()
 {
     const int code = sqlite3_step(m_statement.get());
+    if (std::exchange(comparisonFailed, false))
+        throw StoreError(SQLITE_NOMEM, {}, m_path);
     check(code);
     m_columnCount = sqlite3_column_count(m_statement.get());
     return code == SQLITE_ROW;

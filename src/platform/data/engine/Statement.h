@@ -68,6 +68,7 @@ private:
         void operator()(sqlite3_stmt *statement) const noexcept;
     };
     void check(int code) const;
+    void bindAmount(int parameter, runtime::Currency amount);
 
     std::unique_ptr<sqlite3_stmt, Finalize> m_statement;
     int m_columnCount = 0;

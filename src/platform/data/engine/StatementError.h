@@ -6,6 +6,8 @@
 
 namespace data {
 
+// The translation's SQL for this file: a LIKE on a column that holds no texts is compared row by row.
+QByteArray sqlFor(const Database &database, const sql::Translation &translation);
 // Prepares `sql`, a form of the translation's SQL. An unknown table or column raises the dialect's error.
 Statement prepareChecked(Database &database, const sql::Translation &translation, QByteArrayView sql);
 

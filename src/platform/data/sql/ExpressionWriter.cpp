@@ -4,6 +4,8 @@
 #include "platform/data/sql/Literal.h"
 #include "platform/data/sql/SqlText.h"
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace sql {
@@ -272,12 +274,7 @@ void ExpressionWriter::like(const Expression &node)
     if (isText(node.second)) {
         likePattern(node, at(node.second));
     } else {
-        m_out.callsLike = true;
-        m_sql += "store_like(";
-        write(node.second);
-        m_sql += ", ";
-        write(node.first);
-        m_sql += ')';
+        likeCall(node);
     }
     if (!node.affirmed) {
         --m_negations;
@@ -302,13 +299,32 @@ void ExpressionWriter::likePattern(const Expression &node, const Expression &pat
         m_sql += equalityRule(pattern.text);
         return;
     }
-    if (!parts.lowest.isEmpty())
-        range(node.first, parts.lowest, parts.beyond);
-    if (parts.kind == PatternKind::Prefix)
-        return;
+    if (parts.lowest.isEmpty() || !namesItsTable(at(node.first)))
+        return likeCall(node);
+    const qsizetype begin = m_sql.size();
+    likeCall(node);
+    LikeRange written{reference(at(node.first)), begin, 0, m_sql.sliced(begin)};
+    m_sql.truncate(begin);
+    range(node.first, parts.lowest, parts.beyond);
+    if (parts.kind == PatternKind::Mixed) {
+        m_sql += " AND ";
+        likeCall(node);
+    }
+    written.length = m_sql.size() - begin;
+    m_out.likeRanges.push_back(std::move(written));
+}
+
+// A column whose table can be told, so that the engine can look up its type.
+bool ExpressionWriter::namesItsTable(const Expression &node) const
+{
+    return node.kind == ExpressionKind::Column && (!node.qualifier.isEmpty() || m_tree.onlyTable());
+}
+
+void ExpressionWriter::likeCall(const Expression &node)
+{
     m_out.callsLike = true;
-    m_sql += parts.lowest.isEmpty() ? "store_like(" : " AND store_like(";
-    text(pattern);
+    m_sql += "store_like(";
+    write(node.second);
     m_sql += ", ";
     write(node.first);
     m_sql += ')';

@@ -34,6 +34,8 @@ private:
     void concatenation(const Expression &node);
     void like(const Expression &node);
     void likePattern(const Expression &node, const Expression &pattern);
+    bool namesItsTable(const Expression &node) const;
+    void likeCall(const Expression &node);
     void range(Node column, const QString &lowest, const QString &beyond);
     void between(const Expression &node);
     void inList(const Expression &node);
