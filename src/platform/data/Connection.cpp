@@ -3,7 +3,7 @@
 #include "platform/data/engine/Database.h"
 #include "platform/runtime/ProviderError.h"
 
-#include <QStringTokenizer>
+#include <QStringView>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -11,13 +11,39 @@ namespace data {
 
 namespace {
 
-// The value of a keyword in "Keyword=value;Keyword=value;", empty when it is not there.
-QString connectionValue(const QString &connectionString, QStringView keyword)
+// The value that begins at `at`, and `at` moves to the semicolon behind it. A value in quotes may hold semicolons, and
+// its quote doubled.
+QString valueAt(QStringView settings, qsizetype &at)
 {
-    for (const QStringView setting : QStringTokenizer(connectionString, u';')) {
-        const qsizetype equals = setting.indexOf(u'=');
-        if (equals > 0 && setting.first(equals).trimmed().compare(keyword, Qt::CaseInsensitive) == 0)
-            return setting.sliced(equals + 1).trimmed().toString();
+    while (at < settings.size() && settings[at].isSpace())
+        ++at;
+    const QChar quote = at < settings.size() ? settings[at] : QChar();
+    QString quoted;
+    if (quote == u'"' || quote == u'\'') {
+        for (++at; at < settings.size(); ++at) {
+            if (settings[at] == quote && (++at >= settings.size() || settings[at] != quote))
+                break;
+            quoted += settings[at];
+        }
+    }
+    const qsizetype begin = at;
+    at = settings.indexOf(u';', at);
+    at = at < 0 ? settings.size() : at;
+    return quote == u'"' || quote == u'\'' ? quoted : settings.sliced(begin, at - begin).trimmed().toString();
+}
+
+// The value of a keyword in "Keyword=value;Keyword=value;", empty when it is not there.
+QString connectionValue(QStringView settings, QStringView keyword)
+{
+    for (qsizetype at = 0; at < settings.size(); ++at) {
+        const qsizetype equals = settings.indexOf(u'=', at);
+        if (equals < 0)
+            break;
+        const QStringView known = settings.sliced(at, equals - at);
+        at = equals + 1;
+        const QString value = valueAt(settings, at);
+        if (known.trimmed().compare(keyword, Qt::CaseInsensitive) == 0)
+            return value;
     }
     return {};
 }
@@ -31,7 +57,7 @@ void Connection::Open(const QString &connectionString, const QString &, const QS
     if (connectionValue(connectionString, u"Provider").isEmpty())
         throw provider::objectError(provider::NoProvider, "ADODB.Connection");
     auto database = std::make_shared<Database>();
-    database->open(connectionValue(connectionString, u"Data Source").replace(u'\\', u'/'));
+    database->open(connectionValue(connectionString, u"Data Source"));
     m_database = std::move(database);
 }
 

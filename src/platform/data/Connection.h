@@ -25,7 +25,8 @@ public:
     Connection &operator=(Connection &&) noexcept = default;
     ~Connection() = default;
 
-    // "Provider=...;Data Source=FILE;". User, password and options are taken and have no bearing on a plain file.
+    // "Provider=...;Data Source=FILE;". The path is taken exactly as it stands. In quotes, single or double, it may
+    // hold semicolons; the quote itself is doubled inside. User, password and options have no bearing on a plain file.
     void Open(const QString &connectionString, const QString &user = {}, const QString &password = {},
               int options = adOptionUnspecified);
     void Close();

@@ -9,12 +9,21 @@ namespace data {
 Recordset::Recordset() = default;
 Recordset::Recordset(std::shared_ptr<Database> rows, const QString &source)
     : m_ownRows(std::move(rows)),
-      m_cursor(std::make_unique<Cursor>(m_ownRows, sql::cachedTranslation(source), Cursor::Access::ReadWrite))
+      m_cursor(std::make_shared<Cursor>(m_ownRows, sql::cachedTranslation(source), Cursor::Access::ReadWrite))
 {
 }
 Recordset::Recordset(Recordset &&) noexcept = default;
-Recordset &Recordset::operator=(Recordset &&) noexcept = default;
-Recordset::~Recordset() = default;
+Recordset &Recordset::operator=(Recordset &&other) noexcept
+{
+    closeCursor();
+    m_cursor = std::move(other.m_cursor);
+    m_ownRows = std::move(other.m_ownRows);
+    return *this;
+}
+Recordset::~Recordset()
+{
+    closeCursor();
+}
 
 Cursor &Recordset::cursor()
 {
@@ -23,17 +32,26 @@ Cursor &Recordset::cursor()
     return *m_cursor;
 }
 
+// A field may hold the cursor longer than the recordset does, but not its rows.
+void Recordset::closeCursor()
+{
+    if (m_cursor)
+        m_cursor->close();
+    m_cursor.reset();
+    m_ownRows.reset();
+}
+
 void Recordset::Open(const QString &source, Connection &connection, CursorTypeEnum, LockTypeEnum lockType)
 {
     if (State() == adStateOpen)
         throw provider::objectError(provider::ObjectOpen, "ADODB.Recordset");
     if (connection.State() == adStateClosed)
         throw provider::objectError(provider::NoConnection, "ADODB.Recordset");
-    m_cursor.reset();
+    closeCursor();
     auto translation = sql::cachedTranslation(source);
     if (translation->kind == sql::StatementKind::Select)
         m_cursor =
-            std::make_unique<Cursor>(connection.m_database, std::move(translation),
+            std::make_shared<Cursor>(connection.m_database, std::move(translation),
                                      lockType == adLockReadOnly ? Cursor::Access::ReadOnly : Cursor::Access::ReadWrite);
     else
         runAction(*connection.m_database, *translation);
@@ -43,8 +61,7 @@ void Recordset::Close()
 {
     if (cursor().editMode() != Cursor::Edit::None)
         throw provider::objectError(provider::NotAllowedInContext, "ADODB.Recordset");
-    m_cursor.reset();
-    m_ownRows.reset();
+    closeCursor();
 }
 
 ObjectStateEnum Recordset::State() const
@@ -102,44 +119,51 @@ Field Recordset::Fields(QStringView name)
     const int column = cursor().columnOf(name);
     if (column < 0)
         throw provider::objectError(provider::NoSuchItem, "ADODB.Fields");
-    return {m_cursor.get(), column};
+    return {m_cursor, column};
 }
 
 Field Recordset::Fields(int ordinal)
 {
     if (ordinal < 0 || ordinal >= cursor().columnCount())
         throw provider::objectError(provider::NoSuchItem, "ADODB.Fields");
-    return {m_cursor.get(), ordinal};
+    return {m_cursor, ordinal};
+}
+
+Cursor &Field::cursor() const
+{
+    if (!m_cursor->isConnected())
+        throw provider::objectError(provider::ObjectClosed, "ADODB.Field");
+    return *m_cursor;
 }
 
 QString Field::Name() const
 {
-    return m_cursor->columnName(m_column);
+    return cursor().columnName(m_column);
 }
 
 runtime::Value Field::Value() const
 {
-    return m_cursor->value(m_column);
+    return cursor().value(m_column);
 }
 
 void Field::setValue(const runtime::Value &value)
 {
-    m_cursor->setValue(m_column, value);
+    cursor().setValue(m_column, value);
 }
 
 qint64 Field::ActualSize() const
 {
-    return m_cursor->actualSize(m_column);
+    return cursor().actualSize(m_column);
 }
 
 void Field::AppendChunk(const QByteArray &bytes)
 {
-    m_cursor->appendChunk(m_column, bytes);
+    cursor().appendChunk(m_column, bytes);
 }
 
 runtime::Value Field::GetChunk(qint64 bytes)
 {
-    return m_cursor->getChunk(m_column, bytes);
+    return cursor().getChunk(m_column, bytes);
 }
 
 } // namespace data

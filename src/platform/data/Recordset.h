@@ -13,13 +13,15 @@
 #include <QStringView>
 
 #include <memory>
+#include <utility>
 
 namespace data {
 
 class Cursor;
 class DataFactory;
 
-// A field of the recordset's current row. It stays valid while the recordset lives and follows its moves.
+// A field of the recordset's current row. It follows the recordset's moves until that is closed; error 3704 afterwards,
+// also when the recordset has been opened again.
 class Field
 {
 public:
@@ -38,9 +40,10 @@ public:
 
 private:
     friend class Recordset;
-    Field(Cursor *cursor, int column) : m_cursor(cursor), m_column(column) {}
+    Field(std::shared_ptr<Cursor> cursor, int column) : m_cursor(std::move(cursor)), m_column(column) {}
+    Cursor &cursor() const;
 
-    Cursor *m_cursor;
+    std::shared_ptr<Cursor> m_cursor;
     int m_column;
 };
 
@@ -49,7 +52,7 @@ class Recordset
 public:
     Recordset();
     Recordset(Recordset &&) noexcept;
-    Recordset &operator=(Recordset &&) noexcept;
+    Recordset &operator=(Recordset &&other) noexcept;
     ~Recordset();
 
     // A statement that changes rows is run and leaves the recordset closed.
@@ -84,9 +87,10 @@ private:
     Recordset(std::shared_ptr<Database> rows, const QString &source);
 
     Cursor &cursor();
+    void closeCursor();
 
-    std::shared_ptr<Database> m_ownRows; // of one without a connection; goes after the cursor over them
-    std::unique_ptr<Cursor> m_cursor;
+    std::shared_ptr<Database> m_ownRows; // of a recordset without a connection
+    std::shared_ptr<Cursor> m_cursor;    // shared with the fields that were asked for
 };
 
 } // namespace data

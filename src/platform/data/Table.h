@@ -121,7 +121,6 @@ public:
 private:
     friend class Table;
     explicit Columns(std::shared_ptr<TableDefinition> table);
-    std::vector<Column> read() const;
 
     std::shared_ptr<TableDefinition> m_table;
     std::vector<Column> m_enumerated;

@@ -44,6 +44,13 @@ runtime::RuntimeError error(int number, const QString &text)
     return {number, text, source()};
 }
 
+runtime::RuntimeError requiredField(const QString &field)
+{
+    return error(Unspecified,
+                 u"The field '%1' cannot contain a Null value because the Required property for this field "
+                 u"is set to True.  Enter a value in this field."_s.arg(field));
+}
+
 runtime::RuntimeError objectError(int number, const char *source)
 {
     QString text = runtime::errorText(number);

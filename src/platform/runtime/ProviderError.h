@@ -1,7 +1,7 @@
 // The errors of the store's provider and of the data objects, with their numbers and texts.
 //
-// The data objects' own errors have small numbers; the provider's are full result codes, which several errors share, so
-// that the text tells them apart.
+// The data objects' errors have a small number each. The provider's numbers are result codes that several errors share:
+// their texts tell them apart.
 #pragma once
 
 #include "platform/runtime/RuntimeError.h"
@@ -37,6 +37,8 @@ inline constexpr int NoConnection = 3709;
 QString source();
 // An error of the provider.
 runtime::RuntimeError error(int number, const QString &text);
+// The error for a Null in a field ("Table.Field") that has to have a value.
+runtime::RuntimeError requiredField(const QString &field);
 // An error of the data objects; the text is that of its number.
 runtime::RuntimeError objectError(int number, const char *source);
 

@@ -28,6 +28,8 @@ private Q_SLOTS:
     void evaluatesDefaults();
     void readsWhatIsStored();
     void addsColumnsToAStoredTable();
+    void addsAColumnOfTodayToRows();
+    void leavesNothingOfARefusedChange();
     void givesPropertiesWithACatalog();
     void sharesAConnectionToOneFileOnly();
 
@@ -304,8 +306,57 @@ void CatalogTest::addsColumnsToAStoredTable()
     after.Update();
     QCOMPARE(errorOf([&] { table.Columns().Append(u"FAX"_s); }),
              u"-2147217858 Field 'FAX' already exists in table 'T'."_s);
-    QVERIFY(!errorOf([&] { table.Columns().Append(u"c"_s); }).isEmpty()); // the row that is there has no value for it
+    QCOMPARE(errorOf([&] { table.Columns().Append(u"c"_s); }), // the row that is there has no value for it
+             u"-2147467259 The field 'T.c' cannot contain a Null value because the Required property for this field is "
+             u"set to True.  Enter a value in this field."_s);
     QCOMPARE(m_folder->row("SELECT * FROM T").section(u'|', 3), u"555|556"_s);
+}
+
+// The rows that are there get the day of the change, each later one its own.
+void CatalogTest::addsAColumnOfTodayToRows()
+{
+    for (const QString &name : {u"T"_s, u"say \"so\" \"Since\" DATETIME"_s}) {
+        const Table table = described(name);
+        m_catalog.Tables().Append(table);
+        Recordset rows;
+        rows.Open(u"select * from ["_s + name + u']', m_connection);
+        const auto add = [&rows] {
+            rows.AddNew();
+            rows[u"Link"].setValue(Value(17));
+            rows.Update();
+        };
+        add();
+        Column since;
+        since.setName(u"Since"_s);
+        since.setParentCatalog(m_catalog);
+        set(since, u"Default", Value(u"=Date()"_s));
+        table.Columns().Append(since, data::adDate, 0);
+        QVERIFY(table.Columns().Item(u"Since").Properties().Item(u"Default").Value().is<QString>());
+        QCOMPARE(table.Columns().Item(u"Since").Properties().Item(u"Required").Value(), Value(true));
+        add();
+        Recordset after;
+        after.Open(u"select * from ["_s + name + u"] where Since > #1/1/2001# and Since <= Now()"_s, m_connection);
+        QCOMPARE(after.RecordCount(), 2);
+    }
+    QCOMPARE(m_folder->row("PRAGMA integrity_check"), u"ok"_s);
+}
+
+void CatalogTest::leavesNothingOfARefusedChange()
+{
+    m_folder->execute("CREATE TRIGGER T AFTER DELETE ON TabInfo BEGIN SELECT 1; END");
+    QStringList before = layout();
+    QVERIFY(!errorOf([&] { m_catalog.Tables().Append(described(u"T"_s)); }).isEmpty()); // its counter has that name
+    QCOMPARE(layout(), before);
+
+    m_folder->execute("CREATE TABLE U (a TEXT); INSERT INTO U VALUES ('x');"
+                      "CREATE TRIGGER V BEFORE UPDATE ON U BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    before = layout();
+    Column day;
+    day.setName(u"Day"_s);
+    day.setParentCatalog(m_catalog);
+    set(day, u"Default", Value(u"Date()"_s));
+    QCOMPARE(errorOf([&] { stored(u"U"_s).Columns().Append(day, data::adDate, 0); }), u"-2147467259 refused"_s);
+    QCOMPARE(layout(), before);
 }
 
 void CatalogTest::givesPropertiesWithACatalog()
@@ -346,6 +397,12 @@ void CatalogTest::sharesAConnectionToOneFileOnly()
     second.Tables().Append(described(u"T"_s));
     QVERIFY(namesOf(m_catalog.Tables()).contains(u"T"_s));
     QVERIFY(!namesOf(other.Tables()).contains(u"T"_s));
+    otherFolder.execute("CREATE TABLE T (Another TEXT)"); // a table of one name in both files
+    QStringList columns;
+    for (const Table &table : other.Tables())
+        columns += table.Name() == u"T" ? namesOf(table.Columns()) : QStringList();
+    QCOMPARE(columns, QStringList{u"Another"_s});
+    QCOMPARE(namesOf(stored(u"T"_s).Columns()).first(), u"Key"_s);
     m_catalog = Catalog(); // the one that opened it
     QVERIFY(namesOf(second.Tables()).contains(u"T"_s));
 }

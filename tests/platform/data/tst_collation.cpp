@@ -5,6 +5,8 @@
 #include <QTest>
 
 #include <algorithm>
+#include <sys/resource.h>
+#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 using data::Connection;
@@ -26,7 +28,7 @@ private Q_SLOTS:
     void findsByPatternWhatThePatternMatches();
     void findsByEqualityWhatCountsAsEqual();
     void groupsAndOrdersNames();
-    void ordersNullFirst();
+    void failsWithoutMemory();
     void searchesByIndex_data();
     void searchesByIndex();
 
@@ -43,48 +45,11 @@ const QString kelvin = u"\u212A"_s;
 const QString longS = u"\u017F"_s;
 
 // Names that differ by case, accents, blanks, and signs of the dialect's own.
-const QStringList names{u""_s,
-                        u" "_s,
-                        u"Smith"_s,
-                        u"smith"_s,
-                        u"Smith "_s,
-                        u"Smyth"_s,
-                        u"Smi"_s,
-                        u"Schäfer"_s,
-                        u"SCHÄFER"_s,
-                        u"Schafer"_s,
-                        u"Elan"_s,
-                        u"Élan"_s,
-                        u"élan"_s,
-                        u"Elba"_s,
-                        u"O'Brien"_s,
-                        u"O'brian"_s,
-                        u"OBrien"_s,
-                        u"100%"_s,
-                        u"100 percent"_s,
-                        u"a_b"_s,
-                        u"axb"_s,
-                        u"[x]"_s,
-                        u"x]"_s,
-                        u"kelly"_s,
-                        u"Kelly"_s,
-                        kelvin + u"elly"_s,
-                        longS + u"mith"_s,
-                        u"Öberg"_s,
-                        u"Oberg"_s,
-                        u"Zoë"_s,
-                        u"Zoe"_s,
-                        u"Łukasz"_s,
-                        u"Lukasz"_s,
-                        u"ΣΊΣΥΦΟΣ"_s,
-                        u"σίσυφος"_s,
-                        u"a@b"_s,
-                        u"a`b"_s,
-                        u"AzZ"_s,
-                        u"a{"_s,
-                        u"日本"_s,
-                        u"😀"_s,
-                        u"a*b?"_s};
+const QStringList names =
+    QStringList{u""_s, u" "_s, kelvin + u"elly"_s, longS + u"mith"_s} +
+    u"Smith,smith,Smith ,Smyth,Smi,Schäfer,SCHÄFER,Schafer,Elan,Élan,élan,Elba,O'Brien,O'brian,OBrien,"
+    u"100%,100 percent,a_b,axb,[x],x],kelly,Kelly,Öberg,Oberg,Zoë,Zoe,Łukasz,Lukasz,ΣΊΣΥΦΟΣ,σίσυφος,"
+    u"a@b,a`b,AzZ,a{,日本,😀,a*b?"_s.split(u',');
 
 int compared(const QString &a, const QString &b)
 {
@@ -274,23 +239,39 @@ void CollationTest::groupsAndOrdersNames()
              2);
     QStringList sorted = names;
     std::stable_sort(sorted.begin(), sorted.end(), [](auto &a, auto &b) { return compared(a, b) < 0; });
-    QCOMPARE(textsOf(m_connection,
-                     u"SELECT LastName FROM MemberInformation WHERE LastName IS NOT NULL ORDER BY LastName, MemberId"_s,
-                     u"LastName"),
-             sorted);
+    QCOMPARE(
+        textsOf(m_connection, u"SELECT LastName FROM MemberInformation ORDER BY LastName, MemberId"_s, u"LastName"),
+        QStringList(QString()) + sorted); // Null comes first
 }
 
-void CollationTest::ordersNullFirst()
+// The comparison runs inside SQLite, which no exception may pass through.
+void CollationTest::failsWithoutMemory()
 {
-    data::Recordset rows;
-    rows.Open(u"SELECT LastName FROM MemberInformation ORDER BY LastName"_s, m_connection);
-    QVERIFY(rows[u"LastName"].Value().isNull());
-    rows.MoveNext();
-    QCOMPARE(rows[u"LastName"].Value(), runtime::Value(QString()));
-    data::Recordset descending;
-    descending.Open(u"SELECT LastName FROM MemberInformation ORDER BY LastName DESC"_s, m_connection);
-    descending.MoveLast();
-    QVERIFY(descending[u"LastName"].Value().isNull());
+#ifdef __SANITIZE_ADDRESS__
+    QSKIP("The sanitizer's own memory leaves no room for a limit.");
+#endif
+    const DataFolder folder(DataFolder::Content::Empty);
+    folder.execute(
+        "INSERT INTO EventInformation (EventName) VALUES (replace(hex(zeroblob(10000000)), '00', 'é')), ('e')");
+    Connection connection;
+    folder.open(connection);
+    for (const QString &condition : {u"EventName > 'é'"_s, u"EventName LIKE '%é'"_s}) {
+        data::Recordset rows;
+        rows.Open(u"SELECT EventIdentification FROM EventInformation WHERE "_s + condition, connection);
+        QFile memory(u"/proc/self/statm"_s);
+        QVERIFY(memory.open(QIODevice::ReadOnly));
+        const rlim_t used = memory.readAll().split(' ').first().toULongLong() * rlim_t(sysconf(_SC_PAGESIZE));
+        rlimit unlimited{};
+        getrlimit(RLIMIT_AS, &unlimited);
+        const rlimit limited{used + 60'000'000, unlimited.rlim_max}; // room for the text, not for its characters
+        setrlimit(RLIMIT_AS, &limited);
+        const QString error = errorOf([&] { rows.Eof(); });
+        setrlimit(RLIMIT_AS, &unlimited);
+        QCOMPARE(error, u"7 Out of memory"_s);
+        rows.Close();
+        rows.Open(u"SELECT EventName FROM EventInformation WHERE EventName = 'É' OR EventName = 'e'"_s, connection);
+        QCOMPARE(rows.RecordCount(), 1);
+    }
 }
 
 void CollationTest::searchesByIndex_data()
@@ -300,19 +281,11 @@ void CollationTest::searchesByIndex_data()
 
     QTest::newRow("explorer") << u"select * from [MemberInformation] Where [LastName] like 'A%' and Active = yes"_s
                               << u"USING INDEX MemberInformation_LastName (LastName>? AND LastName<?)"_s;
-    QTest::newRow("joined list")
-        << u"SELECT MemberInformation.MemberId, MemberType.MemberType FROM MemberInformation LEFT JOIN MemberType ON "
-           u"MemberInformation.MemberTypeId = MemberType.MemberTypeId WHERE (((MemberInformation.LastName) Like 'A%') "
-           u"AND ((MemberInformation.Active)=Yes)) ORDER BY FirstName ASC"_s
-        << u"USING INDEX MemberInformation_LastName (LastName>? AND LastName<?)"_s;
     QTest::newRow("accent behind a plain beginning")
         << u"select * from [MemberInformation] Where [LastName] like 'Schä%'"_s
         << u"USING INDEX MemberInformation_LastName (LastName>? AND LastName<?)"_s;
     QTest::newRow("equal name") << u"SELECT * FROM MemberInformation WHERE LastName = 'smith'"_s
                                 << u"USING INDEX MemberInformation_LastName (LastName=?)"_s;
-    QTest::newRow("events") << u"SELECT EventInformation.* FROM EventInformation WHERE (((EventInformation.EventName) "
-                               u"Like 'G%') AND ((EventInformation.Active)=Yes))"_s
-                            << u"USING INDEX EventInformation_EventName (EventName>? AND EventName<?)"_s;
 }
 
 void CollationTest::searchesByIndex()

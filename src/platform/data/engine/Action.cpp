@@ -46,17 +46,17 @@ runtime::Value literalFor(ColumnType type, const runtime::Value &literal)
 
 void runAction(Database &database, const sql::Translation &translation)
 {
-    if (!knowsTargets(database, translation)) // another connection may have made them
+    if (!knowsTargets(database, translation)) // another connection may have added the table or the columns
         database.refreshSchema();
     if (translation.kind == sql::StatementKind::Insert && !database.hasTable(translation.table.toUtf8()))
         throw provider::error(provider::NoSuchTable, u"Could not find output table '%1'."_s.arg(translation.table));
-    std::vector<runtime::Value> values; // outlive the statement
+    std::vector<runtime::Value> values; // declared before the statement: it must outlive the step
     if (database.hasTable(translation.table.toUtf8())) {
         values.reserve(translation.assignments.size());
         for (const sql::Assignment &assignment : translation.assignments)
             values.push_back(literalFor(typeOfTarget(database, translation, assignment.column), assignment.literal));
     }
-    Statement statement = prepareChecked(database, translation, translation.sql);
+    Statement statement = prepareChecked(database, translation, sqlFor(database, translation));
     checkComparisons(database, translation);
     for (size_t at = 0; at < values.size(); ++at)
         statement.bind(int(at) + 1, values[at]);

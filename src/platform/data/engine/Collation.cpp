@@ -1,7 +1,15 @@
 #include "platform/data/engine/Collation.h"
 
+#include "platform/data/sql/SqlText.h"
+
 #include <QList>
 #include <QString>
+#include <QStringDecoder>
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace data {
 
@@ -12,22 +20,14 @@ constexpr char32_t foldedAscii(char32_t c)
     return c >= U'A' && c <= U'Z' ? c + 32 : c;
 }
 
-// The character in its one case. What folds to an ASCII letter without being one (the Kelvin sign, the long s) stays.
+// The character in the case by which texts compare. The Kelvin sign and the long s would become ASCII letters, which
+// the file's indexes do not take them for: they stay as they are.
 char32_t folded(char32_t c)
 {
     if (c < 0x80)
         return foldedAscii(c);
     const char32_t lower = QChar::toCaseFolded(c);
     return lower < 0x80 ? c : lower;
-}
-
-bool isAscii(QByteArrayView text)
-{
-    for (const char c : text) {
-        if (uchar(c) >= 0x80)
-            return false;
-    }
-    return true;
 }
 
 int sign(qsizetype difference)
@@ -47,21 +47,27 @@ int compareAscii(QByteArrayView a, QByteArrayView b)
     return sign(a.size() - b.size());
 }
 
-QList<char32_t> foldedCharacters(QByteArrayView text)
+// In containers of the standard library, which raise std::bad_alloc where Qt's would go on with a null pointer.
+std::u32string foldedCharacters(QByteArrayView text)
 {
-    const QList<uint> characters = QString::fromUtf8(text).toUcs4();
-    QList<char32_t> foldedOnes;
-    foldedOnes.reserve(characters.size());
-    for (const uint c : characters)
-        foldedOnes << folded(c);
-    return foldedOnes;
+    QStringDecoder fromUtf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    std::vector<QChar> units(size_t(fromUtf8.requiredSpace(text.size())));
+    units.resize(size_t(fromUtf8.appendToBuffer(units.data(), text) - units.data()));
+    std::u32string characters;
+    characters.reserve(units.size());
+    for (size_t at = 0; at < units.size(); ++at) {
+        const bool isPair = units[at].isHighSurrogate() && at + 1 < units.size() && units[at + 1].isLowSurrogate();
+        characters += folded(isPair ? QChar::surrogateToUcs4(units[at], units[at + 1]) : units[at].unicode());
+        at += isPair ? 1 : 0;
+    }
+    return characters;
 }
 
-// The letter without its accents, where the character is composed of one.
+// The letter without its accents; another character as it is.
 char32_t base(char32_t c)
 {
     if (c < 0x80)
-        return foldedAscii(c); // the Kelvin sign is composed of a capital
+        return foldedAscii(c); // may be a capital: the Kelvin sign decomposes into one
     const QString parts = QChar::decomposition(c);
     const bool isCompatibility = QChar::decompositionTag(c) != QChar::Canonical;
     if (parts.isEmpty() || isCompatibility)
@@ -69,114 +75,119 @@ char32_t base(char32_t c)
     return base(parts.toUcs4().constFirst());
 }
 
-template <class Key> int compareBy(const QList<char32_t> &a, const QList<char32_t> &b, Key key)
+template <class Key> int compareBy(const std::u32string &a, const std::u32string &b, Key key)
 {
-    const qsizetype common = qMin(a.size(), b.size());
-    for (qsizetype at = 0; at < common; ++at) {
+    const size_t common = std::min(a.size(), b.size());
+    for (size_t at = 0; at < common; ++at) {
         const char32_t inA = key(a[at]);
         const char32_t inB = key(b[at]);
         if (inA != inB)
             return inA < inB ? -1 : 1;
     }
-    return sign(a.size() - b.size());
+    return sign(qsizetype(a.size()) - qsizetype(b.size()));
 }
 
-// One position of a pattern: a run, any character, a set or the character itself.
-struct Likeness
+// One element of a pattern: any run of characters, any one character, one of a set, or one certain character.
+struct PatternElement
 {
     enum class Kind { Run, Any, Set, Same } kind = Kind::Same;
     char32_t character = 0;
     bool negated = false;
-    QList<char32_t> set; // pairs: first and last of a range
+    std::u32string set; // pairs: first and last of a range
 };
 
-// A bracket without its fellow stands for itself.
-qsizetype readSet(const QList<char32_t> &pattern, qsizetype at, Likeness &out)
+// Reads a set that opens at `at` and returns where it closes. An opening bracket that is not closed is a plain
+// character: then `at` is returned.
+size_t readSet(const std::u32string &pattern, size_t at, PatternElement &out)
 {
-    qsizetype end = at + 1;
+    size_t end = at + 1;
     if (end < pattern.size() && pattern[end] == U'^') {
         out.negated = true;
         ++end;
     }
-    const qsizetype begin = end;
+    const size_t begin = end;
     while (end < pattern.size() && (pattern[end] != U']' || end == begin))
         ++end;
     if (end >= pattern.size())
         return at;
-    out.kind = Likeness::Kind::Set;
-    for (qsizetype in = begin; in < end; ++in) {
+    out.kind = PatternElement::Kind::Set;
+    for (size_t in = begin; in < end; ++in) {
         const bool range = in + 2 < end && pattern[in + 1] == U'-';
-        out.set << pattern[in] << pattern[range ? in + 2 : in];
+        out.set += pattern[in];
+        out.set += pattern[range ? in + 2 : in];
         in += range ? 2 : 0;
     }
     return end;
 }
 
-QList<Likeness> likenessesOf(QByteArrayView pattern)
+std::vector<PatternElement> elementsOf(QByteArrayView pattern)
 {
-    const QList<char32_t> characters = foldedCharacters(pattern);
-    QList<Likeness> parts;
-    for (qsizetype at = 0; at < characters.size(); ++at) {
-        Likeness part;
+    const std::u32string characters = foldedCharacters(pattern);
+    std::vector<PatternElement> parts;
+    for (size_t at = 0; at < characters.size(); ++at) {
+        PatternElement part;
         part.character = characters[at];
         if (part.character == U'%')
-            part.kind = Likeness::Kind::Run;
+            part.kind = PatternElement::Kind::Run;
         else if (part.character == U'_')
-            part.kind = Likeness::Kind::Any;
+            part.kind = PatternElement::Kind::Any;
         else if (part.character == U'[')
             at = readSet(characters, at, part);
-        parts << part;
+        parts.push_back(part);
     }
     return parts;
 }
 
-bool matchesOne(const Likeness &part, char32_t c)
+bool matchesOne(const PatternElement &part, char32_t c)
 {
-    if (part.kind == Likeness::Kind::Any)
+    if (part.kind == PatternElement::Kind::Any)
         return true;
-    if (part.kind == Likeness::Kind::Same)
+    if (part.kind == PatternElement::Kind::Same)
         return part.character == c;
     bool inSet = false;
-    for (qsizetype at = 0; at + 1 < part.set.size(); at += 2)
+    for (size_t at = 0; at + 1 < part.set.size(); at += 2)
         inSet = inSet || (c >= part.set[at] && c <= part.set[at + 1]);
     return inSet != part.negated;
 }
 
 } // namespace
 
+thread_local bool comparisonFailed = false;
+
 int compareTexts(QByteArrayView a, QByteArrayView b)
 {
-    if (isAscii(a) && isAscii(b))
+    if (sql::isAscii(a) && sql::isAscii(b))
         return compareAscii(a, b);
-    const QList<char32_t> inA = foldedCharacters(a);
-    const QList<char32_t> inB = foldedCharacters(b);
+    const std::u32string inA = foldedCharacters(a);
+    const std::u32string inB = foldedCharacters(b);
     const int byLetters = compareBy(inA, inB, base);
     return byLetters ? byLetters : compareBy(inA, inB, [](char32_t c) { return c; });
 }
 
 bool matchesLike(QByteArrayView pattern, QByteArrayView text)
 {
-    const QList<Likeness> parts = likenessesOf(pattern);
-    const QList<char32_t> characters = foldedCharacters(text);
-    qsizetype part = 0;
-    qsizetype at = 0;
-    qsizetype runPart = -1; // where to go back to when what follows the last run fails
-    qsizetype runAt = 0;
+    const std::vector<PatternElement> parts = elementsOf(pattern);
+    const std::u32string characters = foldedCharacters(text);
+    size_t part = 0;
+    size_t at = 0;
+    std::optional<size_t>
+        runPart; // the last run so far; it takes one character more when what follows it does not match
+    size_t runAt = 0;
     while (at < characters.size()) {
-        if (part < parts.size() && parts[part].kind == Likeness::Kind::Run) {
+        if (part < parts.size() && parts[part].kind == PatternElement::Kind::Run) {
             runPart = part++;
             runAt = at;
         } else if (part < parts.size() && matchesOne(parts[part], characters[at])) {
             ++part;
             ++at;
-        } else if (runPart >= 0) {
-            part = runPart + 1;
+        } else if (runPart) {
+            part = *runPart + 1;
             at = ++runAt;
         } else {
             return false;
         }
     }
-    while (part < parts.size() && parts[part].kind == Likeness::Kind::Run)
+    while (part < parts.size() && parts[part].kind == PatternElement::Kind::Run)
         ++part;
     return part == parts.size();
 }

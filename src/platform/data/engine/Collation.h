@@ -1,9 +1,9 @@
-// How the store compares texts: without regard to case in all of Unicode, with regard to accents; trailing blanks
-// count.
+// How the store compares texts: upper and lower case are equal in all of Unicode, letters with and without accents
+// differ, trailing blanks count.
 //
-// An ASCII letter equals only its own other case, so that on ASCII texts the rule agrees with SQLite's NOCASE, on which
-// the file's indexes stand. Order: by letters without accents first, then by accents, so that an accented name stands
-// beside its plain fellow. All texts are UTF-8.
+// On ASCII texts this is SQLite's NOCASE, the collation of the file's indexes; so no other character equals an ASCII
+// letter. Texts are ordered by their letters without accents first and then by the accents, so that "Élan" stands
+// beside "Elan". All texts are UTF-8. Both functions may raise std::bad_alloc.
 #pragma once
 
 #include <QByteArrayView>
@@ -12,6 +12,9 @@ namespace data {
 
 // Negative, zero or positive, as for sorting; zero for texts that count as equal.
 int compareTexts(QByteArrayView a, QByteArrayView b);
+
+// Set when a comparison inside SQLite lacked memory: the statement that asked for it fails.
+extern thread_local bool comparisonFailed;
 
 // LIKE: "%" any run, "_" one character, "[abc]", "[a-z]" and "[^a]" one of a set, "[%]" the sign itself.
 bool matchesLike(QByteArrayView pattern, QByteArrayView text);

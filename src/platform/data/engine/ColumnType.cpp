@@ -30,15 +30,6 @@ constexpr std::array declarations{
     Declaration{"VARCHAR", ColumnType::Text},     Declaration{"CHAR", ColumnType::Text},
 };
 
-// The file keeps an amount as a number that every tool can reckon with; it takes only what comes back exact, which is
-// every amount of less than some 900 thousand million.
-runtime::Currency storableAmount(runtime::Currency amount)
-{
-    if (runtime::Currency::fromDouble(amount.toDouble()) != amount)
-        throw runtime::RuntimeError(runtime::Overflow);
-    return amount;
-}
-
 } // namespace
 
 ColumnType columnTypeOfDeclaration(QByteArrayView declaration)
@@ -67,7 +58,7 @@ runtime::Value convertedTo(ColumnType type, const runtime::Value &value)
     case ColumnType::Double:
         return Value(runtime::toDouble(value));
     case ColumnType::Currency:
-        return Value(storableAmount(runtime::toCurrency(value)));
+        return Value(runtime::toCurrency(value));
     case ColumnType::Date:
         return Value(runtime::toDate(value));
     case ColumnType::Boolean:

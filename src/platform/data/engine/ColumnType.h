@@ -24,6 +24,11 @@ enum class ColumnType : int {
 // SMALLINT, INTEGER, DOUBLE, CURRENCY, DATETIME, BOOLEAN, TEXT, LONGTEXT, BLOB and what other tools write for them.
 ColumnType columnTypeOfDeclaration(QByteArrayView declaration);
 
+// The file keeps an amount as a number, with which every tool can reckon. One of more digits than a number has room for
+// (it needs more than some 900 thousand million and a fraction) is kept as a text, which this word behind the digits
+// prevents from becoming a number.
+inline constexpr QByteArrayView exactAmountMark = " exact";
+
 inline bool isText(ColumnType type)
 {
     return type == ColumnType::Text || type == ColumnType::Memo;

@@ -22,10 +22,10 @@ constexpr const char *errorSource = "ADODB.Recordset";
         throw provider::error(provider::Unspecified, u"Cannot update.  Database or object is read-only."_s);
     if (error.isConstraint())
         throw provider::error(provider::MultipleStep, error.description());
-    throw; // as it is: this is called while it is handled
+    throw; // the error itself, which the caller is handling
 }
 
-Value refusedUnless(ColumnType type, const Value &value)
+Value convertedForField(ColumnType type, const Value &value)
 {
     try {
         return convertedTo(type, value);
@@ -41,6 +41,16 @@ Cursor::Cursor(const std::shared_ptr<Database> &database, std::shared_ptr<const 
                Access access)
     : m_database(database), m_source(database, std::move(translation)), m_access(access)
 {
+}
+
+void Cursor::close()
+{
+    m_database.reset();
+    m_source.close();
+    m_rows.reset();
+    m_addedRow.reset();
+    m_changes.clear();
+    forgetBinary();
 }
 
 void Cursor::load()
@@ -96,7 +106,7 @@ void Cursor::requireUpdatable()
         throw provider::objectError(provider::NotUpdatable, errorSource);
 }
 
-// A pending change is written before the record is left.
+// Moving to another record saves a pending change.
 void Cursor::finishPending()
 {
     if (m_editMode != Edit::None)
@@ -152,7 +162,7 @@ void Cursor::moveLast()
     m_row = m_rows->rowCount() - 1;
     while (m_row >= 0 && size_t(m_row) < m_deleted.size() && m_deleted[size_t(m_row)])
         --m_row;
-    if (m_addedRowId) { // read in the statement's own order, the row may stand anywhere
+    if (m_addedRowId) { // the statement's order may have put the row anywhere
         goTo(*m_addedRowId);
         m_addedRowId.reset();
     }
@@ -170,7 +180,7 @@ void Cursor::addNew()
     m_editMode = Edit::Add;
 }
 
-// False where the row is not among those that were read.
+// Makes the row current; false when it is not among the rows that were read.
 bool Cursor::goTo(qint64 rowId)
 {
     for (qsizetype row = m_rows->rowCount() - 1; row >= 0; --row) {
@@ -202,13 +212,14 @@ void Cursor::update()
             m_editMode = Edit::None;
             takeAdded(added);
         } else {
-            const qint64 rowId = currentRowId();
-            m_source.updateRow(rowId, m_changes);
+            const qint64 rowId = m_source.updateRow(currentRowId(), m_changes);
             m_editMode = Edit::None;
-            if (m_addedRowId)
+            if (m_addedRowId) {
+                m_addedRowId = rowId;
                 m_addedRow.reset();
-            else
+            } else {
                 m_source.readRow(rowId, *m_rows, m_row);
+            }
         }
     } catch (const StoreError &error) {
         raiseUpdateError(error);
@@ -238,7 +249,7 @@ void Cursor::deleteRow()
     } catch (const StoreError &error) {
         raiseUpdateError(error);
     }
-    if (m_addedRowId) { // the statement's own condition leaves it out
+    if (m_addedRowId) { // the row does not meet the statement's condition and was not read
         m_addedRowId.reset();
         m_row = m_rows->rowCount();
         return;
@@ -263,7 +274,7 @@ Value Cursor::value(int column)
 void Cursor::setValue(int column, const Value &value)
 {
     requireUpdatable();
-    Value converted = refusedUnless(m_source.columns()[size_t(column)].type, value);
+    Value converted = convertedForField(m_source.columns()[size_t(column)].type, value);
     if (m_editMode == Edit::None) {
         current(); // there has to be a record to edit
         m_changes.assign(size_t(columnCount()), std::nullopt);
@@ -345,7 +356,7 @@ Value Cursor::getChunk(int column, qint64 bytes)
     const qsizetype taken = qsizetype(std::min<qint64>(left, bytes));
     const QByteArray chunk = taken == whole.size() ? whole : whole.sliced(m_seriesPosition, taken);
     m_seriesPosition += taken;
-    if (m_seriesPosition >= whole.size() && m_editMode == Edit::None) // the caller has them all
+    if (m_seriesPosition >= whole.size() && m_editMode == Edit::None) // all were delivered: no need to keep them
         forgetBinary();
     return Value(chunk);
 }

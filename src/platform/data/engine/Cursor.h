@@ -1,4 +1,4 @@
-// What stands behind an open recordset: the rows, the place among them and the change that is pending.
+// The inside of an open recordset: its rows, the current one among them, and the change that is pending.
 #pragma once
 
 #include "platform/data/engine/RowSource.h"
@@ -17,6 +17,8 @@ public:
            Access access);
 
     bool isConnected() const { return !m_database.expired(); }
+    // Releases the rows and the statement; from then on it is not connected.
+    void close();
     bool isEof();
     qint32 recordCount();
     void moveFirst();
@@ -42,7 +44,7 @@ private:
     void load();
     void finishPending();
     void requireUpdatable();
-    // The store and the row in it that hold the current record; error 3021 without one.
+    // Where the current record is kept; error 3021 without one.
     struct Place
     {
         const RowStore *rows;
@@ -63,7 +65,7 @@ private:
 
     std::optional<RowStore> m_rows; // empty until they are first asked for
     qsizetype m_row = 0;
-    std::vector<bool> m_deleted; // by row, once there is one
+    std::vector<bool> m_deleted; // by row; empty until a row is deleted
     qint32 m_deletedCount = 0;
 
     // A row that was added before the rows were read: the current record until the next move.

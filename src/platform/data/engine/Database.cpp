@@ -5,6 +5,7 @@
 
 #include <QFileInfo>
 
+#include <new>
 #include <sqlite3.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -39,10 +40,10 @@ NumberedText providerAnswer(int extendedCode, const QString &message, const QStr
                 u"duplicate values in the index, primary key, or relationship.  Change the data in the "
                 u"field or fields that contain duplicate data, remove the index, or redefine the index to "
                 u"permit duplicate entries and try again."_s};
-    case SQLITE_CONSTRAINT_NOTNULL:
-        return {provider::Unspecified,
-                u"The field '%1' cannot contain a Null value because the Required property for this field "
-                u"is set to True.  Enter a value in this field."_s.arg(message.section(u": "_s, 1))};
+    case SQLITE_CONSTRAINT_NOTNULL: {
+        const runtime::RuntimeError error = provider::requiredField(message.section(u": "_s, 1));
+        return {error.number(), error.description()};
+    }
     default:
         break;
     }
@@ -68,21 +69,34 @@ NumberedText providerAnswer(int extendedCode, const QString &message, const QStr
     }
 }
 
-int compareForSqlite(void *, int lengthA, const void *a, int lengthB, const void *b)
+// SQLite's C code lies between these functions and our own, so no exception may leave them. A collation has no way to
+// report a failure: it stops the running statement, and Statement::step() raises error 7.
+int compareForSqlite(void *handle, int lengthA, const void *a, int lengthB, const void *b)
 {
-    return compareTexts({static_cast<const char *>(a), lengthA}, {static_cast<const char *>(b), lengthB});
+    try {
+        return compareTexts({static_cast<const char *>(a), lengthA}, {static_cast<const char *>(b), lengthB});
+    } catch (const std::bad_alloc &) {
+        comparisonFailed = true;
+        sqlite3_interrupt(static_cast<sqlite3 *>(handle));
+        return 0;
+    }
 }
 
 // SQLite asks for a collation when a statement first names it, so that opening a file does not pay for it.
 void provideCollation(void *, sqlite3 *handle, int, const char *name)
 {
     if (qstricmp(name, "STORE") == 0)
-        sqlite3_create_collation_v2(handle, name, SQLITE_UTF8, nullptr, compareForSqlite, nullptr);
+        sqlite3_create_collation_v2(handle, name, SQLITE_UTF8, handle, compareForSqlite, nullptr);
 }
 
-QByteArrayView textOf(sqlite3_value *value)
+// Numbers have the text that a field of a text column would give them.
+QByteArray textOf(sqlite3_value *value)
 {
+    if (sqlite3_value_type(value) == SQLITE_FLOAT)
+        return QByteArray::number(sqlite3_value_double(value), 'g', 15);
     const auto *bytes = reinterpret_cast<const char *>(sqlite3_value_text(value));
+    if (!bytes)
+        throw std::bad_alloc();
     return {bytes, sqlite3_value_bytes(value)};
 }
 
@@ -90,7 +104,11 @@ void likeForSqlite(sqlite3_context *context, int, sqlite3_value **arguments)
 {
     if (sqlite3_value_type(arguments[0]) == SQLITE_NULL || sqlite3_value_type(arguments[1]) == SQLITE_NULL)
         return sqlite3_result_null(context);
-    sqlite3_result_int(context, matchesLike(textOf(arguments[0]), textOf(arguments[1])) ? 1 : 0);
+    try {
+        sqlite3_result_int(context, matchesLike(textOf(arguments[0]), textOf(arguments[1])) ? 1 : 0);
+    } catch (const std::bad_alloc &) {
+        sqlite3_result_error_nomem(context);
+    }
 }
 
 } // namespace
@@ -150,7 +168,9 @@ void Database::openWith(const QString &path, int flags)
 {
     sqlite3 *handle = nullptr;
     // Without locks round each call: a connection belongs to the one thread.
-    const int code = sqlite3_open_v2(path.toUtf8().constData(), &handle, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    // An absolute path: a relative one that begins with "file:" would be read as a URI.
+    const QString file = flags & SQLITE_OPEN_MEMORY ? path : QFileInfo(path).absoluteFilePath();
+    const int code = sqlite3_open_v2(file.toUtf8().constData(), &handle, flags | SQLITE_OPEN_NOMUTEX, nullptr);
     m_schemaReader.finalize();
     m_handle.reset(handle); // also of a failed open
     m_path = path;
@@ -209,7 +229,7 @@ void Database::create(const QString &path)
 
 void Database::createInMemory()
 {
-    openWith(u":memory:"_s, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+    openWith(u":memory:"_s, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_MEMORY);
 }
 
 void Database::execute(const QByteArray &sql)
@@ -217,13 +237,23 @@ void Database::execute(const QByteArray &sql)
     check(sqlite3_exec(m_handle.get(), sql.constData(), nullptr, nullptr, nullptr));
 }
 
+Database::WritableSchema::~WritableSchema()
+{
+    sqlite3_exec(m_file.m_handle.get(), "PRAGMA writable_schema = RESET", nullptr, nullptr, nullptr);
+}
+
 void Database::executeWhole(const QByteArray &sql)
+{
+    change([&] { execute(sql); });
+}
+
+void Database::change(const std::function<void()> &steps)
 {
     execute("BEGIN IMMEDIATE");
     try {
-        execute(sql);
+        steps();
         execute("COMMIT");
-    } catch (const StoreError &) {
+    } catch (...) {
         sqlite3_exec(m_handle.get(), "ROLLBACK", nullptr, nullptr, nullptr); // SQLite may have done it already
         throw;
     }

@@ -1,6 +1,6 @@
-// One open SQLite file: the only owner of a sqlite3 handle. It speaks SQLite's own SQL; Connection speaks the dialect.
+// One open SQLite file: the only owner of a sqlite3 handle. Its statements are in SQLite's own SQL, not in the dialect.
 //
-// Every failing call raises StoreError. A failed open closes what it had opened. Not for the windows.
+// Every failing call raises StoreError. A failed open closes what it had opened.
 #pragma once
 
 #include "platform/data/engine/Statement.h"
@@ -17,7 +17,7 @@ struct sqlite3;
 
 namespace data {
 
-// A result code of SQLite as the provider's error; the extended code is kept for who wants to tell more.
+// A result code of SQLite as the provider's error. It keeps the extended code, which tells more.
 class StoreError : public runtime::RuntimeError
 {
 public:
@@ -53,15 +53,28 @@ public:
 
     // Runs one statement or several, separated by semicolons.
     void execute(const QByteArray &sql);
-    // The same as one change of the file: with an error none of them was run.
+    // The same in one transaction: after an error the file is as it was.
     void executeWhole(const QByteArray &sql);
+    // The same for any steps.
+    void change(const std::function<void()> &steps);
+    // While it stands, statements may change sqlite_master. Afterwards the file's definitions are read anew.
+    class WritableSchema
+    {
+    public:
+        explicit WritableSchema(Database &file) : m_file(file) { m_file.execute("PRAGMA writable_schema = ON"); }
+        WritableSchema(const WritableSchema &) = delete;
+        WritableSchema &operator=(const WritableSchema &) = delete;
+        ~WritableSchema();
+
+    private:
+        Database &m_file;
+    };
     Statement prepare(QByteArrayView sql) const;
 
     qint64 lastInsertRowId() const;
     // How many rows the last INSERT, UPDATE or DELETE changed.
     int changedRows() const;
-    // Takes note of tables and columns that another connection has made or changed: what is prepared and asked after
-    // this knows them.
+    // Notices tables and columns that another connection has added or changed.
     void refreshSchema();
     // The declared type of a column; empty when the table or the column does not exist.
     std::optional<QByteArray> declaredType(const QByteArray &table, const QByteArray &column) const;
@@ -93,7 +106,7 @@ private:
     Blob openBlob(const QByteArray &table, const QByteArray &column, qint64 rowId) const;
 
     std::unique_ptr<sqlite3, Close> m_handle;
-    Statement m_schemaReader; // goes before the handle
+    Statement m_schemaReader; // declared behind the handle, so that it is finalized before the handle is closed
     QString m_path;
     bool m_hasLike = false;
 };

@@ -19,7 +19,7 @@ namespace {
 using sql::TokenKind;
 using Tokens = std::vector<sql::Token>;
 
-// As the data file's own tables have them: what an insert finds is a date in the store's form.
+// Each gives a date in the form in which the store keeps dates.
 constexpr auto today = "(strftime('%Y-%m-%d 00:00:00', 'now', 'localtime'))";
 constexpr auto timeOfDay = "(strftime('1899-12-30 %H:%M:%S', 'now', 'localtime'))";
 constexpr auto now = "(strftime('%Y-%m-%d %H:%M:%S', 'now', 'localtime'))";
@@ -44,8 +44,8 @@ Tokens tokensOf(QStringView expression)
     return tokens;
 }
 
-// The number or the text that is all of the expression.
-std::optional<runtime::Value> literalOf(const Tokens &tokens)
+// The value of an expression that is nothing but a text or a number with or without a sign.
+std::optional<runtime::Value> constantOf(const Tokens &tokens)
 {
     if (tokens.size() == 1 && tokens[0].is(TokenKind::Text))
         return runtime::Value(sql::textValue(tokens[0].text));
@@ -74,7 +74,7 @@ QByteArray storedLiteral(const Database &file, ColumnType type, const runtime::V
     return quote.text(0).toByteArray();
 }
 
-// The call of a function without arguments, whose brackets may be missing.
+// The function is called without arguments; its brackets may be missing.
 QByteArray momentSql(const QString &expression, const Tokens &tokens, ColumnType type, const QString &place)
 {
     const bool hasMark = tokens.size() > 1 && tokens[1].text == u"$";
@@ -103,7 +103,7 @@ QByteArray defaultSql(const Database &file, const QString &expression, ColumnTyp
     Tokens tokens = tokensOf(expression);
     if (!tokens.empty() && tokens[0].is(TokenKind::Equal))
         tokens.erase(tokens.begin());
-    if (const auto literal = literalOf(tokens))
+    if (const auto literal = constantOf(tokens))
         return storedLiteral(file, type, *literal);
     if (tokens.empty() || !tokens[0].is(TokenKind::Word))
         throw sql::faultIn(expression, sql::Fault::MissingOperator);

@@ -5,7 +5,6 @@
 #include "platform/data/sql/SqlText.h"
 #include "platform/runtime/ProviderError.h"
 
-#include <algorithm>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -59,52 +58,56 @@ runtime::RuntimeError invalidName(const QString &name)
                            u"characters or punctuation and that it is not too long."_s.arg(name));
 }
 
-QByteArray columnSql(const Database &file, const TableDefinition &table, const ColumnDefinition &column)
+struct ColumnSql
 {
-    // By this name the store finds a row again.
+    QByteArray declaration; // the name and the type
+    QByteArray constraint;  // " NOT NULL" or nothing
+    QByteArray value;       // of the default, or nothing
+
+    QByteArray all() const { return declaration + constraint + (value.isEmpty() ? value : " DEFAULT " + value); }
+    bool hasComputedDefault() const { return value.startsWith('('); }
+};
+
+ColumnSql columnSql(const Database &file, const TableDefinition &table, const ColumnDefinition &column)
+{
+    // A column of the name _rowid_ would hide the row identity, by which the store finds a row again.
     if (!canBeNamed(column.name) || isSameName(column.name, u"_rowid_"_s))
         throw invalidName(column.name);
     const bool hasDefault = column.defaultExpression && !column.defaultExpression->isEmpty();
-    QByteArray sql;
-    sql::appendName(sql, column.name);
-    sql += ' ';
-    sql += declarationOf(column.type);
+    ColumnSql sql;
+    sql.declaration = sql::quotedName(column.name) + ' ' + declarationOf(column.type);
     if (column.isAutoIncrement) {
         if (ColumnType(column.type) != ColumnType::Long || hasDefault)
             throw refusedProperty();
-        return sql; // a Null is what the counter fills in
+        return sql; // nullable: the trigger puts the number where a new row has a Null
     }
     if (column.isRequired)
-        sql += " NOT NULL";
+        sql.constraint = " NOT NULL";
     if (hasDefault)
-        sql += " DEFAULT " +
-               defaultSql(file, *column.defaultExpression, ColumnType(column.type), table.name + u'.' + column.name);
+        sql.value =
+            defaultSql(file, *column.defaultExpression, ColumnType(column.type), table.name + u'.' + column.name);
     else if (ColumnType(column.type) == ColumnType::Boolean)
-        sql += " DEFAULT 0";
+        sql.value = "0";
     return sql;
 }
 
 QByteArray tableSql(const Database &file, const TableDefinition &table)
 {
-    QByteArray sql = "CREATE TABLE ";
-    sql::appendName(sql, table.name);
-    sql += " (";
+    QByteArray sql = "CREATE TABLE " + sql::quotedName(table.name) + " (";
     for (const auto &column : table.columns)
-        sql += columnSql(file, table, *column) + ", ";
+        sql += columnSql(file, table, *column).all() + ", ";
     sql.chop(2);
     return sql + ')';
 }
 
-// Numbers the rows as AUTOINCREMENT does, in SQLite's own list of counters, for a column that is no key: a number set
-// by hand is taken, a repeated one too, and no number is given out that was there before.
+// A trigger that numbers new rows as AUTOINCREMENT does, with SQLite's own table of counters, in a column that is no
+// key: a number that is set by hand is kept, also a repeated one, and no number is given out twice.
 QByteArray counterSql(const TableDefinition &table, const ColumnDefinition &column)
 {
-    QByteArray name;
-    sql::appendName(name, table.name);
+    const QByteArray name = sql::quotedName(table.name);
+    const QByteArray number = sql::quotedName(column.name);
     QByteArray text;
     sql::appendQuoted(text, table.name, '\'');
-    QByteArray number;
-    sql::appendName(number, column.name);
     const QByteArray own = " FROM sqlite_sequence WHERE name = " + text;
     return "CREATE TRIGGER " + name + " AFTER INSERT ON " + name + " BEGIN INSERT INTO sqlite_sequence (name, seq)" +
            " SELECT " + text + ", coalesce((SELECT max(" + number + ") FROM " + name +
@@ -122,12 +125,37 @@ bool isTaken(const Database &file, const QString &name)
     return taken.step();
 }
 
+// SQLite adds no column with a computed default to a table that has rows. The way that its manual gives for changing a
+// default is taken: the column is added without one, the rows there get the value of this moment, and then the default
+// is written into the table's definition.
+void addColumnWithComputedDefault(Database &file, const QByteArray &table, const ColumnDefinition &column,
+                                  const ColumnSql &sql)
+{
+    file.change([&] {
+        file.execute("ALTER TABLE " + table + " ADD COLUMN " + sql.declaration + "; UPDATE " + table + " SET " +
+                     sql::quotedName(column.name) + " = " + sql.value);
+        const QByteArray here =
+            " WHERE type = 'table' AND '\"' || replace(name, '\"', '\"\"') || '\"' = ?1 COLLATE NOCASE";
+        Statement stored = file.prepare("SELECT sql FROM sqlite_master" + here);
+        stored.bindText(1, table);
+        stored.step();
+        QByteArray definition = stored.text(0).toByteArray();
+        stored.reset();
+        definition.replace(definition.lastIndexOf(sql.declaration), sql.declaration.size(), sql.all());
+        const Database::WritableSchema writable(file);
+        Statement change = file.prepare("UPDATE sqlite_master SET sql = ?2" + here);
+        change.bindText(1, table);
+        change.bindText(2, definition);
+        change.step();
+    });
+}
+
 } // namespace
 
 bool isSameName(const QString &a, const QString &b)
 {
-    const auto folded = [](QChar c) { return c >= u'A' && c <= u'Z' ? QChar(c.unicode() | 0x20) : c; };
-    return std::ranges::equal(a, b, {}, folded, folded); // as SQLite compares them: ASCII letters alone
+    // As SQLite compares names: this overload takes upper and lower case of ASCII letters alone for equal.
+    return a.toUtf8().compare(b.toUtf8(), Qt::CaseInsensitive) == 0;
 }
 
 runtime::RuntimeError refusedProperty()
@@ -160,7 +188,7 @@ std::vector<std::shared_ptr<ColumnDefinition>> storedColumns(const std::shared_p
                                                              const QString &table)
 {
     std::vector<std::shared_ptr<ColumnDefinition>> columns;
-    // Its step looks at sqlite_master and so notices what other connections have changed.
+    // Reading sqlite_master shows what other connections have changed, which the pragma alone would not.
     Statement rows =
         file->prepare("SELECT c.name, c.type, c.\"notnull\", c.dflt_value, "
                       "(c.pk AND t.sql LIKE '%AUTOINCREMENT%') OR EXISTS (SELECT 1 FROM sqlite_master AS n "
@@ -207,9 +235,15 @@ void storeColumn(Database &file, const TableDefinition &table, const ColumnDefin
 {
     if (column.isAutoIncrement) // the rows that the table has would have to be numbered
         throw refusedProperty();
-    QByteArray sql = "ALTER TABLE ";
-    sql::appendName(sql, table.name);
-    file.execute(sql + " ADD COLUMN " + columnSql(file, table, column));
+    const ColumnSql sql = columnSql(file, table, column);
+    const QByteArray name = sql::quotedName(table.name);
+    const bool hasRows = file.prepare("SELECT 1 FROM " + name + " LIMIT 1").step();
+    if (hasRows && column.isRequired && sql.value.isEmpty())
+        throw provider::requiredField(table.name + u'.' + column.name);
+    if (hasRows && sql.hasComputedDefault())
+        addColumnWithComputedDefault(file, name, column, sql);
+    else
+        file.execute("ALTER TABLE " + name + " ADD COLUMN " + sql.all());
 }
 
 } // namespace data

@@ -1,6 +1,6 @@
-// What the objects of data definition refer to, and how it gets into the data file and out of it.
+// The definitions of tables and columns behind the public objects, and how they are stored in the data file and read.
 //
-// Everything that a table or a column can be refused for is looked at before the file is touched.
+// What can be refused is checked before the file is changed, and a change that fails in the file leaves it as it was.
 #pragma once
 
 #include "platform/data/engine/ColumnType.h"
@@ -18,7 +18,7 @@ struct ColumnDefinition
     int type = int(ColumnType::Text);
     bool isAutoIncrement = false;
     bool isRequired = true;
-    std::optional<QString> defaultExpression; // of a stored column SQLite's, else the dialect's
+    std::optional<QString> defaultExpression; // in SQLite's SQL for a stored column, else in the dialect
     bool isStored = false;
     std::weak_ptr<Database> catalog;
     std::weak_ptr<TableDefinition> table;
@@ -30,11 +30,12 @@ struct TableDefinition
     QString type = QStringLiteral("TABLE");
     bool isStored = false;
     std::weak_ptr<Database> catalog;
-    std::vector<std::shared_ptr<ColumnDefinition>> columns; // of one that is not stored; else the file has them
+    std::vector<std::shared_ptr<ColumnDefinition>>
+        columns; // of a table that is not stored; those of a stored one are read from the file
 };
 
 bool isSameName(const QString &a, const QString &b);
-// A property that has no place there, and a change of what is stored.
+// The error for a property that the column cannot have and for a change of what is stored.
 runtime::RuntimeError refusedProperty();
 
 // All tables and views by name.

@@ -1,6 +1,7 @@
 #include "platform/data/engine/RowSource.h"
 
 #include "platform/data/engine/StatementError.h"
+#include "platform/data/sql/SqlText.h"
 #include "platform/runtime/ProviderError.h"
 
 #include <algorithm>
@@ -8,18 +9,10 @@
 
 namespace data {
 
-namespace {
-
-QByteArray quoted(QByteArrayView name)
-{
-    return '"' + name.toByteArray().replace('"', "\"\"") + '"';
-}
-
-} // namespace
-
 RowSource::RowSource(std::weak_ptr<Database> file, std::shared_ptr<const sql::Translation> translation)
     : m_database(std::move(file)), m_translation(std::move(translation))
 {
+    m_sql = sqlFor(database(), *m_translation);
     prepared();
     checkComparisons(database(), *m_translation);
 }
@@ -29,13 +22,13 @@ Database &RowSource::database() const
     const std::shared_ptr<Database> database = m_database.lock();
     if (!database)
         throw provider::objectError(provider::ObjectClosed, "ADODB.Recordset");
-    return *database; // the connection keeps it while the one thread is in here
+    return *database; // stays open meanwhile: its connection holds it, and there is one thread
 }
 
 Statement &RowSource::prepared()
 {
     if (!m_statement.isPrepared())
-        m_statement = prepareChecked(database(), *m_translation, m_translation->sql);
+        m_statement = prepareChecked(database(), *m_translation, m_sql);
     return m_statement;
 }
 
@@ -55,7 +48,7 @@ void RowSource::describe(const Statement &statement)
     for (int index = 0; index < count; ++index) {
         SourceColumn &column = m_columns[size_t(index)];
         column.name = QString::fromUtf8(statement.columnName(index));
-        column.origin = statement.originColumn(index).toByteArray();
+        column.origin = QString::fromUtf8(statement.originColumn(index));
         column.type = columnTypeOfDeclaration(statement.declaredType(index));
         for (const sql::ComputedColumn &computed : m_translation->computed) {
             const QString &table = computed.source.table.isEmpty() ? m_translation->table : computed.source.table;
@@ -113,7 +106,7 @@ int RowSource::describedColumnOf(QStringView name)
     int column = find(guess, count, isSame);
     if (column < 0)
         column = find(0, guess, isSame);
-    if (column < 0) // rarely: most handlers write a name as it is
+    if (column < 0) // last, since most handlers write the name as the file has it
         column = find(0, count, isAlike);
     if (column >= 0)
         m_nextGuess = column + 1;
@@ -124,13 +117,13 @@ QByteArray RowSource::listOfOrigins() const
 {
     QByteArray list;
     for (const SourceColumn &column : m_columns)
-        list += column.isApart ? "NULL," : quoted(column.origin) + ',';
+        list += column.isApart ? "NULL," : sql::quotedName(column.origin) + ',';
     return list + "_rowid_";
 }
 
 QByteArray RowSource::readingSql()
 {
-    QByteArray sql = m_translation->sql;
+    QByteArray sql = m_sql;
     return sql.replace(m_translation->listBegin, m_translation->listLength, listOfOrigins());
 }
 
@@ -158,8 +151,8 @@ RowStore RowSource::readAll()
 qint32 RowSource::count()
 {
     describeColumns();
-    // An order makes SQLite carry the rows about, which must not happen to the bytes in them.
-    const QByteArray rows = m_hasBinary ? readingSql() : m_translation->sql;
+    // To sort rows SQLite copies them: binary values must not be among them.
+    const QByteArray rows = m_hasBinary ? readingSql() : m_sql;
     Statement statement = prepareChecked(database(), *m_translation, "SELECT COUNT(*) FROM (" + rows + ')');
     statement.step();
     return qint32(statement.integer(0));
@@ -169,7 +162,7 @@ bool RowSource::readRow(qint64 rowId, RowStore &rows, std::optional<qsizetype> i
 {
     describeColumns();
     Statement statement = database().prepare("SELECT " + listOfOrigins() + " FROM " +
-                                             quoted(m_translation->table.toUtf8()) + " WHERE _rowid_=?1");
+                                             sql::quotedName(m_translation->table) + " WHERE _rowid_=?1");
     statement.bind(1, rowId);
     if (!statement.step())
         return false;
@@ -182,12 +175,12 @@ bool RowSource::readRow(qint64 rowId, RowStore &rows, std::optional<qsizetype> i
 
 std::optional<QByteArray> RowSource::readBinary(qint64 rowId, int column)
 {
-    return database().readBlob(m_translation->table.toUtf8(), m_columns[size_t(column)].origin, rowId);
+    return database().readBlob(m_translation->table.toUtf8(), m_columns[size_t(column)].origin.toUtf8(), rowId);
 }
 
 std::optional<qint64> RowSource::binarySize(qint64 rowId, int column)
 {
-    return database().blobSize(m_translation->table.toUtf8(), m_columns[size_t(column)].origin, rowId);
+    return database().blobSize(m_translation->table.toUtf8(), m_columns[size_t(column)].origin.toUtf8(), rowId);
 }
 
 void RowSource::requireChange() const
@@ -203,12 +196,12 @@ RowSource::Added RowSource::insertRow(const Changes &changes)
     for (size_t column = 0; column < changes.size(); ++column) {
         if (!changes[column])
             continue;
-        names += quoted(m_columns[column].origin) + ',';
+        names += sql::quotedName(m_columns[column].origin) + ',';
         places += '?' + QByteArray::number(qint64(column) + 1) + ',';
     }
     names.chop(1);
     places.chop(1);
-    const QByteArray into = "INSERT INTO " + quoted(m_translation->table.toUtf8());
+    const QByteArray into = "INSERT INTO " + sql::quotedName(m_translation->table);
     Statement statement = database().prepare(names.isEmpty() ? into + " DEFAULT VALUES"
                                                              : into + " (" + names + ") VALUES (" + places + ')');
     for (size_t column = 0; column < changes.size(); ++column) {
@@ -220,38 +213,42 @@ RowSource::Added RowSource::insertRow(const Changes &changes)
         return {database().lastInsertRowId(), true};
     for (size_t column = 0; column < changes.size(); ++column) {
         if (changes[column] && changes[column]->is<qint32>() &&
-            database().isKey(m_translation->table.toUtf8(), m_columns[column].origin))
+            database().isKey(m_translation->table.toUtf8(), m_columns[column].origin.toUtf8()))
             return {changes[column]->get<qint32>(), false};
     }
     return {database().lastInsertRowId(), false};
 }
 
-void RowSource::updateRow(qint64 rowId, const Changes &changes)
+qint64 RowSource::updateRow(qint64 rowId, const Changes &changes)
 {
     QByteArray settings;
     for (size_t column = 0; column < changes.size(); ++column) {
         if (changes[column])
-            settings += quoted(m_columns[column].origin) + "=?" + QByteArray::number(qint64(column) + 1) + ',';
+            settings += sql::quotedName(m_columns[column].origin) + "=?" + QByteArray::number(qint64(column) + 1) + ',';
     }
     if (settings.isEmpty())
-        return;
+        return rowId;
     settings.chop(1);
     const int last = int(changes.size()) + 1;
-    Statement statement = database().prepare("UPDATE " + quoted(m_translation->table.toUtf8()) + " SET " + settings +
-                                             " WHERE _rowid_=?" + QByteArray::number(last));
+    Statement statement = database().prepare("UPDATE " + sql::quotedName(m_translation->table) + " SET " + settings +
+                                             " WHERE _rowid_=?" + QByteArray::number(last) + " RETURNING _rowid_");
     for (size_t column = 0; column < changes.size(); ++column) {
         if (changes[column])
             statement.bind(int(column) + 1, *changes[column]);
     }
     statement.bind(last, rowId);
-    statement.step();
+    const bool found = statement.step();
+    const qint64 rowIdNow = found ? statement.integer(0) : rowId;
+    while (statement.step()) // to its end, which completes the change
+        ;
     requireChange();
+    return rowIdNow;
 }
 
 void RowSource::deleteRow(qint64 rowId)
 {
     Statement statement =
-        database().prepare("DELETE FROM " + quoted(m_translation->table.toUtf8()) + " WHERE _rowid_=?1");
+        database().prepare("DELETE FROM " + sql::quotedName(m_translation->table) + " WHERE _rowid_=?1");
     statement.bind(1, rowId);
     statement.step();
     requireChange();

@@ -1,8 +1,8 @@
 // A translated SELECT over an open file: what columns it has, how its rows are read, counted, changed and found again.
 //
-// The statement is prepared when the source is made, which checks its text, and run only when rows are asked for. The
-// content of a binary column is never part of a row, nor is its length, so that rows that an index holds are read from
-// there alone: readBinary() and binarySize() look for it.
+// The constructor prepares the statement, which checks its text; it runs when rows are asked for. The value of a binary
+// column is not read with the rows, nor is its length: readBinary() and binarySize() read them. So rows whose other
+// columns an index holds are read from the index alone.
 #pragma once
 
 #include "platform/data/engine/ColumnType.h"
@@ -22,8 +22,8 @@ struct SourceColumn
 {
     QString name;
     ColumnType type = ColumnType::Unknown;
-    QByteArray origin;    // its name in the table; empty for an expression
-    bool isApart = false; // binary: the rows hold a Null in its place
+    QString origin;       // its name in the table; empty for an expression
+    bool isApart = false; // a binary column: rows are read with a Null in its place
 };
 
 class RowSource
@@ -31,9 +31,12 @@ class RowSource
 public:
     RowSource(std::weak_ptr<Database> file, std::shared_ptr<const sql::Translation> translation);
 
+    // Finalizes the statement.
+    void close() { m_statement.finalize(); }
+
     const std::vector<SourceColumn> &columns();
-    // The column of a name, without regard to case; -1 when there is none. Until the rows are read there may come more
-    // columns behind those known before.
+    // The column of a name, without regard to case; -1 when there is none. Until the rows are read, the call may find
+    // that another connection has added columns; they come behind the others.
     int columnOf(QStringView name);
     // Rows can be added, changed and deleted: they are rows of one table, and no column is computed.
     bool isUpdatable();
@@ -53,11 +56,13 @@ public:
     struct Added
     {
         qint64 rowId;
-        bool isNew; // false where the table passed over it, for it has a row of that key: then it is that row
+        bool
+            isNew; // false where a trigger of the table ignored the insertion; `rowId` is then the row that has its key
     };
     Added insertRow(const Changes &changes);
-    // Both raise error 3021 when the row is gone.
-    void updateRow(qint64 rowId, const Changes &changes);
+    // Both raise error 3021 when the row is gone. An update of the key column gives the row another identity, which is
+    // returned.
+    qint64 updateRow(qint64 rowId, const Changes &changes);
     void deleteRow(qint64 rowId);
 
 private:
@@ -67,18 +72,19 @@ private:
     void describe(const Statement &statement);
     int describedColumnOf(QStringView name);
     void requireChange() const;
-    // The statement with a Null in the place of each binary column; the statement itself where it has none.
+    // The statement with a Null in the place of each binary column.
     QByteArray readingSql();
     QByteArray listOfOrigins() const;
 
     std::weak_ptr<Database> m_database;
     std::shared_ptr<const sql::Translation> m_translation;
+    QByteArray m_sql; // the translation's, for this file
     Statement m_statement;
     std::vector<SourceColumn> m_columns;
     bool m_described = false;
     bool m_hasBinary = false;
     bool m_isUpdatable = false;
-    int m_nextGuess = 0; // handlers ask for the columns row by row in the same order
+    int m_nextGuess = 0; // where to look first: handlers ask for the columns in the same order in each row
 };
 
 // Runs an INSERT, UPDATE or DELETE.

@@ -1,5 +1,5 @@
-// The rows that a statement delivered, kept compactly: numbers as they are, the texts of a row as UTF-8 behind one
-// another. A text becomes a QString only when it is asked for. Rows never move: what grows is a chain of blocks.
+// The rows that a statement delivered, kept compactly: numbers as they are, the texts of a row as UTF-8 one behind the
+// other. A text becomes a QString when it is asked for. Memory grows by blocks, so that rows never move.
 #pragma once
 
 #include "platform/data/engine/ColumnType.h"
@@ -21,7 +21,7 @@ public:
 
     qsizetype rowCount() const { return qsizetype(m_rows.size()); }
 
-    // Takes over the row on which the statement stands; with a row identity in the column behind the last one.
+    // Copies the statement's current row. With `carriesRowId` the column behind the last one is the row's identity.
     void append(const Statement &statement, bool carriesRowId);
     // The same in the place of a row that has changed.
     void replace(qsizetype row, const Statement &statement, bool carriesRowId);

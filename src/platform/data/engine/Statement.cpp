@@ -1,7 +1,10 @@
 #include "platform/data/engine/Statement.h"
 
+#include "platform/data/engine/Collation.h"
+#include "platform/data/engine/ColumnType.h"
 #include "platform/data/engine/Database.h"
 
+#include <cmath>
 #include <new>
 #include <sqlite3.h>
 #include <utility>
@@ -42,7 +45,7 @@ void Statement::bind(int parameter, qint64 number)
 
 void Statement::bindText(int parameter, QByteArrayView utf8)
 {
-    // A text without characters may have no address, which SQLite would take for Null.
+    // SQLite takes a null pointer for Null, and an empty text may have one.
     check(sqlite3_bind_text64(m_statement.get(), parameter, utf8.isEmpty() ? "" : utf8.data(),
                               sqlite3_uint64(utf8.size()), SQLITE_TRANSIENT, SQLITE_UTF8));
 }
@@ -67,7 +70,7 @@ void Statement::bind(int parameter, const runtime::Value &value)
         check(sqlite3_bind_double(m_statement.get(), parameter, value.get<double>()));
         break;
     case Type::Currency:
-        bindText(parameter, value.get<runtime::Currency>().toPlainText().toLatin1());
+        bindAmount(parameter, value.get<runtime::Currency>());
         break;
     case Type::Date:
         bindText(parameter, value.get<runtime::Date>().toIsoText().toLatin1());
@@ -77,7 +80,7 @@ void Statement::bind(int parameter, const runtime::Value &value)
         break;
     case Type::Binary: {
         const QByteArray &bytes = value.get<QByteArray>();
-        // An empty array has no address, which SQLite would take for Null.
+        // SQLite takes a null pointer for Null, and an empty array may have one.
         check(sqlite3_bind_blob64(m_statement.get(), parameter, bytes.isEmpty() ? "" : bytes.constData(),
                                   sqlite3_uint64(bytes.size()), SQLITE_STATIC));
         break;
@@ -85,9 +88,22 @@ void Statement::bind(int parameter, const runtime::Value &value)
     }
 }
 
+void Statement::bindAmount(int parameter, runtime::Currency amount)
+{
+    const double number = amount.toDouble();
+    constexpr double largest = 9e14; // less than the largest amount, so that its neighbours are in range
+    const bool isExact = std::abs(number) < largest && runtime::Currency::fromDouble(number) == amount;
+    if (isExact)
+        check(sqlite3_bind_double(m_statement.get(), parameter, number));
+    else
+        bindText(parameter, amount.toPlainText().toLatin1() + exactAmountMark.toByteArray());
+}
+
 bool Statement::step()
 {
     const int code = sqlite3_step(m_statement.get());
+    if (std::exchange(comparisonFailed, false))
+        throw StoreError(SQLITE_NOMEM, {}, m_path);
     check(code);
     m_columnCount = sqlite3_column_count(m_statement.get());
     return code == SQLITE_ROW;
@@ -106,11 +122,6 @@ QByteArrayView Statement::columnName(int column) const
 QByteArrayView Statement::declaredType(int column) const
 {
     return viewOf(sqlite3_column_decltype(m_statement.get(), column));
-}
-
-QByteArrayView Statement::originTable(int column) const
-{
-    return viewOf(sqlite3_column_table_name(m_statement.get(), column));
 }
 
 QByteArrayView Statement::originColumn(int column) const
@@ -134,7 +145,8 @@ QByteArrayView Statement::text(int column) const
     return {bytes, sqlite3_column_bytes(m_statement.get(), column)};
 }
 
-// Through the value, which is looked up once. Only the thread that steps may do this.
+// Each sqlite3_column_...() call looks the column up anew; sqlite3_value_...() reads from the value that was looked up.
+// The value is unprotected: only the thread that steps the statement may read it.
 Statement::Content Statement::content(int column) const
 {
     sqlite3_value *value = sqlite3_column_value(m_statement.get(), column);
@@ -153,7 +165,7 @@ Statement::Content Statement::content(int column) const
         if (!content.bytes)
             throw std::bad_alloc();
         break;
-    case Storage::Blob: // without an address when it is empty
+    case Storage::Blob: // a null pointer when it is empty
         content.bytes = static_cast<const char *>(sqlite3_value_blob(value));
         content.size = quint32(sqlite3_value_bytes(value));
         break;

@@ -26,7 +26,7 @@ public:
     bool isPrepared() const { return m_statement != nullptr; }
     void finalize() { m_statement.reset(); }
 
-    // The value in the form in which the store keeps it. Bytes are not copied: the value must outlive the step.
+    // Binds the value in the form in which the file stores it. Bytes are not copied: the value must outlive the step.
     void bind(int parameter, const runtime::Value &value);
     void bind(int parameter, qint64 number);
     void bindText(int parameter, QByteArrayView utf8);
@@ -37,9 +37,8 @@ public:
 
     int columnCount() const { return m_columnCount; }
     QByteArrayView columnName(int column) const;
-    // Of a column that is taken as it stands from a table; empty for an expression.
+    // Of a table's column; empty for an expression.
     QByteArrayView declaredType(int column) const;
-    QByteArrayView originTable(int column) const;
     QByteArrayView originColumn(int column) const;
 
     enum class Storage { Integer = 1, Real = 2, Text = 3, Blob = 4, Null = 5 };
@@ -47,7 +46,7 @@ public:
     qint64 integer(int column) const;
     QByteArrayView text(int column) const;
 
-    // A column as it was delivered, in one go. Error 7 for a text without memory for it.
+    // The value of a column. Error 7 when there is no memory for a text.
     struct Content
     {
         union {
@@ -69,6 +68,7 @@ private:
         void operator()(sqlite3_stmt *statement) const noexcept;
     };
     void check(int code) const;
+    void bindAmount(int parameter, runtime::Currency amount);
 
     std::unique_ptr<sqlite3_stmt, Finalize> m_statement;
     int m_columnCount = 0;

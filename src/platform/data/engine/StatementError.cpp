@@ -9,6 +9,21 @@ namespace data {
 
 namespace {
 
+ColumnType typeOf(const Database &database, const sql::Translation &translation, const sql::ColumnReference &column)
+{
+    const QString &table = column.table.isEmpty() ? translation.table : column.table;
+    const auto declared = database.declaredType(table.toUtf8(), column.column.toUtf8());
+    return declared ? columnTypeOfDeclaration(*declared) : ColumnType::Unknown;
+}
+
+// SQLite has no code of its own for a statement that is too large for it in some way: too deep an expression, too many
+// tables, columns or terms.
+bool exceedsLimit(const QString &message)
+{
+    return message.startsWith(u"Expression tree is too large") || message.startsWith(u"parser stack overflow") ||
+           message.startsWith(u"too many ") || message.startsWith(u"at most ");
+}
+
 // Raises the error anew in the dialect's own words; one that has none there stays as it is.
 [[noreturn]] void raiseDialectError(const StoreError &error)
 {
@@ -25,10 +40,23 @@ namespace {
         throw provider::error(provider::Unspecified,
                               u"The specified field '%1' could refer to more than one table listed in the "
                               u"FROM clause of your SQL statement."_s.arg(name));
-    throw; // as it is: this is called while it is handled
+    if (exceedsLimit(message))
+        throw provider::error(provider::SyntaxError, u"Query is too complex."_s);
+    throw; // the error itself, which the caller is handling
 }
 
 } // namespace
+
+QByteArray sqlFor(const Database &database, const sql::Translation &translation)
+{
+    QByteArray sql = translation.sql;
+    for (auto like = translation.likeRanges.crbegin(); like != translation.likeRanges.crend(); ++like) {
+        if (const ColumnType type = typeOf(database, translation, like->column);
+            type != ColumnType::Unknown && !isText(type))
+            sql.replace(like->begin, like->length, like->comparison);
+    }
+    return sql;
+}
 
 Statement prepareChecked(Database &database, const sql::Translation &translation, QByteArrayView sql)
 {
@@ -44,9 +72,7 @@ Statement prepareChecked(Database &database, const sql::Translation &translation
 void checkComparisons(const Database &database, const sql::Translation &translation)
 {
     for (const sql::Comparison &comparison : translation.comparisons) {
-        const QString &table = comparison.column.table.isEmpty() ? translation.table : comparison.column.table;
-        const auto declared = database.declaredType(table.toUtf8(), comparison.column.column.toUtf8());
-        const ColumnType type = declared ? columnTypeOfDeclaration(*declared) : ColumnType::Unknown;
+        const ColumnType type = typeOf(database, translation, comparison.column);
         if (type == ColumnType::Unknown || type == ColumnType::Binary)
             continue;
         if (isText(type) != comparison.withText)

@@ -1,4 +1,4 @@
-// Turns what SQLite says of a translated statement into the dialect's own errors.
+// The dialect's errors for a translated statement that the open file refuses.
 #pragma once
 
 #include "platform/data/engine/Database.h"
@@ -6,7 +6,9 @@
 
 namespace data {
 
-// Prepares the statement. An unknown table or column raises the provider's error for the kind of statement.
+// The translation's SQL for this file: a LIKE on a column that holds no texts is compared row by row.
+QByteArray sqlFor(const Database &database, const sql::Translation &translation);
+// Prepares `sql`, a form of the translation's SQL. An unknown table or column raises the dialect's error.
 Statement prepareChecked(Database &database, const sql::Translation &translation, QByteArrayView sql);
 
 // Raises "Data type mismatch in criteria expression." where a column is compared with a literal of another kind.

@@ -1,7 +1,7 @@
 // A statement as a tree. Its texts are views into the statement, which must outlive it.
 //
-// Nodes lie in arrays and name one another by their position; `none` stands for no node. Trees of the usual size need
-// no memory of the heap.
+// Nodes are stored in arrays and refer to one another by their index; `none` means no node. Trees of the usual size fit
+// into the arrays' own storage, without heap memory.
 #pragma once
 
 #include "platform/data/sql/Translation.h"
@@ -49,7 +49,7 @@ enum class Operator {
     Divide
 };
 
-// The first five make one value of a group of rows.
+// The first five are aggregate functions.
 enum class Function { Count, Max, Min, Sum, Avg, Date, Now };
 
 struct Expression
@@ -61,7 +61,7 @@ struct Expression
     QStringView qualifier;               // Column: the table or its alias, if there is one
     QStringView text;                    // Column: its name; Text, Number, Date: as written, with its quotes
     Node first = none;
-    Node second = none; // In: the first item, to which the others hang by `next`
+    Node second = none; // In: the first item of the list, whose items are linked by `next`
     Node third = none;
     Node next = none;
 };
@@ -110,7 +110,7 @@ struct Tree
     StatementKind kind = StatementKind::Select;
     QVarLengthArray<Expression, 64> expressions;
     QVarLengthArray<Source, 8> sources;
-    QVarLengthArray<Node, 4> from; // sources, parted by commas
+    QVarLengthArray<Node, 4> from; // sources between which a comma stands
     QVarLengthArray<ListItem, 16> list;
     QVarLengthArray<Target, 16> targets;
     QVarLengthArray<Node, 4> groupBy;

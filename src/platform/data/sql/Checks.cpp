@@ -17,14 +17,15 @@ bool isSame(QStringView a, QStringView b)
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
-// As far as can be told without the tables: a missing table's name may be any.
+// A column without a table's name may belong to any table, so it counts as the same as one with a table's name.
 bool isSameColumn(const Expression &a, const Expression &b)
 {
     const bool sameTable = a.qualifier.isEmpty() || b.qualifier.isEmpty() || isSame(a.qualifier, b.qualifier);
     return a.kind == ExpressionKind::Column && b.kind == ExpressionKind::Column && sameTable && isSame(a.text, b.text);
 }
 
-// The node or, from the top, one of the nodes below it that passes the test; none below what `skip` passes.
+// The first node, from the given one downwards, that passes the test. Does not look at or below nodes that `skip`
+// accepts.
 Node find(const Tree &tree, Node node, const std::function<bool(const Expression &)> &test,
           const std::function<bool(const Expression &)> &skip)
 {
@@ -40,18 +41,18 @@ Node find(const Tree &tree, Node node, const std::function<bool(const Expression
     return none;
 }
 
-bool never(const Expression &)
+bool skipNothing(const Expression &)
 {
     return false;
 }
 
-QString written(const Expression &column)
+QString nameOf(const Expression &column)
 {
     const QString name = column.text.toString();
     return column.qualifier.isEmpty() ? name : column.qualifier.toString() + u'.' + name;
 }
 
-// Two equal aliases, or one that its own expression reads.
+// Raises the error for two equal aliases and for an alias whose own expression reads it.
 void checkAliases(const Tree &tree)
 {
     for (auto item = tree.list.begin(); item != tree.list.end(); ++item) {
@@ -64,13 +65,13 @@ void checkAliases(const Tree &tree)
             return part.kind == ExpressionKind::Column && part.qualifier.isEmpty() && isSame(part.text, item->alias);
         };
         if (tree.at(item->expression).kind != ExpressionKind::Column &&
-            find(tree, item->expression, isItself, never) != none)
+            find(tree, item->expression, isItself, skipNothing) != none)
             throw syntaxError(
                 u"Circular reference caused by alias '%1' in query definition's SELECT list."_s.arg(item->alias));
     }
 }
 
-// Every column must be grouped by, or be read by an aggregate.
+// Raises the error for a column of the list that is neither in GROUP BY nor inside an aggregate function.
 void checkGrouping(const Tree &tree)
 {
     const auto refuse = [](const QString &what) {
@@ -88,11 +89,11 @@ void checkGrouping(const Tree &tree)
             refuse(u"*"_s);
         const Node loose = find(tree, item.expression, isLoose, isAggregate);
         if (loose != none)
-            refuse(written(tree.at(loose)));
+            refuse(nameOf(tree.at(loose)));
     }
 }
 
-// Rows made one have only the values of the list left to be ordered by.
+// Equal rows become one, which has the values of the list alone: raises the error for an order by any other column.
 void checkDistinctOrder(const Tree &tree)
 {
     for (const OrderItem &order : tree.orderBy) {
@@ -101,7 +102,7 @@ void checkDistinctOrder(const Tree &tree)
             return item.expression == none || isSameColumn(tree.at(item.expression), by);
         };
         if (by.kind == ExpressionKind::Column && std::none_of(tree.list.begin(), tree.list.end(), delivers))
-            throw syntaxError(u"ORDER BY clause (%1) conflicts with DISTINCT."_s.arg(written(by)));
+            throw syntaxError(u"ORDER BY clause (%1) conflicts with DISTINCT."_s.arg(nameOf(by)));
     }
 }
 

@@ -1,4 +1,4 @@
-// Faults of a SELECT that shows only when it is read whole: aliases, grouping, DISTINCT.
+// Checks of a SELECT that need the whole statement: aliases, grouping, and the order of DISTINCT rows.
 #pragma once
 
 #include "platform/data/sql/Ast.h"
@@ -7,7 +7,7 @@ namespace sql {
 
 // Max, Min, Count, Sum or Avg.
 bool isAggregate(const Expression &expression);
-// The rows of the result are groups of rows.
+// Each row of the result stands for a group of rows.
 bool isGrouped(const Tree &tree);
 
 // Raises the dialect's error for the first fault.

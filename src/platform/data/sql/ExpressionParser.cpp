@@ -36,8 +36,8 @@ std::optional<Operator> comparisonOf(const Token &token)
     }
 }
 
-// The operators of arithmetic, from those that bind least to those that bind most.
-constexpr int levels = 5;
+// Operators of a higher level bind more tightly.
+constexpr int arithmeticLevels = 5;
 
 struct Binding
 {
@@ -117,7 +117,8 @@ bool ExpressionParser::atName() const
            (m_token.is(TokenKind::Word) && m_token.is(Keyword::None));
 }
 
-// What cannot be read as an operand for a fault of its own counts too: that fault is the one to tell.
+// A broken text, name, number or date counts too: reading it as an operand raises the error of its own fault, which
+// tells more than that of the clause.
 bool ExpressionParser::atExpression() const
 {
     switch (m_token.kind) {
@@ -247,11 +248,11 @@ Node ExpressionParser::negation()
 
 Node ExpressionParser::comparison()
 {
-    Node left = sum(0);
+    Node left = arithmetic(0);
     for (;;) {
         if (const auto operation = comparisonOf(m_token)) {
             advance();
-            left = addOperation(*operation, left, sum(0));
+            left = addOperation(*operation, left, arithmetic(0));
         } else if (const Node test = predicate(left); test != none) {
             left = test;
         } else {
@@ -275,13 +276,13 @@ Node ExpressionParser::predicate(Node left)
     node.affirmed = !accept(Keyword::Not);
     if (accept(Keyword::Like) || accept(Keyword::Alike)) {
         node.kind = ExpressionKind::Like;
-        node.second = sum(0);
+        node.second = arithmetic(0);
     } else if (accept(Keyword::Between)) {
         node.kind = ExpressionKind::Between;
-        node.second = sum(0);
+        node.second = arithmetic(0);
         if (!accept(Keyword::And))
             failBehindExpression();
-        node.third = sum(0);
+        node.third = arithmetic(0);
     } else if (accept(Keyword::In)) {
         node.kind = ExpressionKind::In;
         node.second = list();
@@ -298,9 +299,9 @@ Node ExpressionParser::list()
 {
     if (!accept(TokenKind::LeftParenthesis))
         failInOperand();
-    const Node first = sum(0);
+    const Node first = arithmetic(0);
     for (Node last = first; accept(TokenKind::Comma);) {
-        const Node item = sum(0);
+        const Node item = arithmetic(0);
         m_tree.expressions[last].next = item;
         last = item;
     }
@@ -308,18 +309,19 @@ Node ExpressionParser::list()
     return first;
 }
 
-// A chain of operators of one level; those that bind more lie one level further in.
-Node ExpressionParser::sum(int level)
+// Operands joined by operators of one level, from the left. Operators that bind more tightly have higher levels and are
+// read first, by the calls for the next level.
+Node ExpressionParser::arithmetic(int level)
 {
-    if (level == levels)
+    if (level == arithmeticLevels)
         return operand();
-    Node left = sum(level + 1);
+    Node left = arithmetic(level + 1);
     for (;;) {
         const auto binding = arithmeticOf(m_token);
         if (!binding || binding->level != level)
             return left;
         advance();
-        left = addOperation(binding->operation, left, sum(level + 1));
+        left = addOperation(binding->operation, left, arithmetic(level + 1));
     }
 }
 
@@ -337,13 +339,13 @@ Node ExpressionParser::operand()
     case TokenKind::Date:
         node.kind = ExpressionKind::Date;
         if (!dateValue(m_token.text))
-            throw faultIn(written(), Fault::BadDate);
+            throw faultIn(expressionText(), Fault::BadDate);
         break;
     case TokenKind::LeftParenthesis:
         return enclosed();
     case TokenKind::Plus:
     case TokenKind::Minus:
-        return number(m_token.is(TokenKind::Minus));
+        return signedOperand(m_token.is(TokenKind::Minus));
     case TokenKind::BracketedName:
         return column();
     case TokenKind::Word:
@@ -384,8 +386,8 @@ Node ExpressionParser::enclosed()
     return node;
 }
 
-// A sign and its operand; signs in a row are read one by one without going deeper.
-Node ExpressionParser::number(bool negative)
+// A sign and its operand. Signs in a row are counted in a loop: a call for each would let a long row exhaust the stack.
+Node ExpressionParser::signedOperand(bool negative)
 {
     advance();
     while (m_token.is(TokenKind::Plus) || m_token.is(TokenKind::Minus)) {
@@ -447,11 +449,11 @@ Node ExpressionParser::call(QStringView name)
     }
     closeParenthesis();
     if (arguments != known.arguments)
-        throw faultIn(written(), Fault::ArgumentCount);
+        throw faultIn(expressionText(), Fault::ArgumentCount);
     return add(node);
 }
 
-// Where an expression ends for sure, whatever was wrong before.
+// A word that no expression contains, so that the text of a faulty expression ends before it.
 bool ExpressionParser::atClauseWord(const Token &token) const
 {
     switch (token.keyword) {
@@ -471,17 +473,17 @@ bool ExpressionParser::atClauseWord(const Token &token) const
     }
 }
 
-// A statement that ends too soon lacks its bracket; anything else in that place lacks an operator.
+// At the end of the statement or of the clause the bracket is missing; before anything else an operator is.
 void ExpressionParser::closeParenthesis()
 {
     if (accept(TokenKind::RightParenthesis))
         return;
     if (atEnd() || atClauseWord(m_token))
-        throw faultIn(written(), Fault::MissingParenthesis);
+        throw faultIn(expressionText(), Fault::MissingParenthesis);
     failBehindExpression();
 }
 
-QStringView ExpressionParser::written() const
+QStringView ExpressionParser::expressionText() const
 {
     Lexer lexer(m_source, m_expressionBegin);
     int depth = 0;
@@ -499,13 +501,13 @@ void ExpressionParser::failBehindExpression() const
 {
     switch (m_token.kind) {
     case TokenKind::RightParenthesis:
-        throw faultIn(written(), Fault::ExtraParenthesis);
+        throw faultIn(expressionText(), Fault::ExtraParenthesis);
     case TokenKind::Comma:
-        throw faultIn(written(), Fault::Comma);
+        throw faultIn(expressionText(), Fault::Comma);
     case TokenKind::BadNumber:
-        throw faultIn(written(), Fault::BadNumber);
+        throw faultIn(expressionText(), Fault::BadNumber);
     default:
-        throw faultIn(written(), Fault::MissingOperator);
+        throw faultIn(expressionText(), Fault::MissingOperator);
     }
 }
 
@@ -514,13 +516,13 @@ void ExpressionParser::failInOperand() const
     refuseBadName();
     switch (m_token.kind) {
     case TokenKind::UnclosedText:
-        throw faultIn(written(), Fault::UnclosedText);
+        throw faultIn(expressionText(), Fault::UnclosedText);
     case TokenKind::BadNumber:
-        throw faultIn(written(), Fault::BadNumber);
+        throw faultIn(expressionText(), Fault::BadNumber);
     case TokenKind::BadDate:
-        throw faultIn(written(), Fault::BadDate);
+        throw faultIn(expressionText(), Fault::BadDate);
     default:
-        throw faultIn(written(), Fault::MissingOperator);
+        throw faultIn(expressionText(), Fault::MissingOperator);
     }
 }
 

@@ -1,7 +1,7 @@
 // Reads names and expressions from a statement's tokens into a tree; StatementParser puts the clauses round them.
 //
-// It stands on one token, the first that is not read yet. A fault raises the dialect's error, which quotes the
-// expression that began last, from where it begins to where its clause ends.
+// It looks one token ahead: token() is the first one that is not read yet. A fault raises the dialect's error, whose
+// text quotes the whole expression that was being read.
 #pragma once
 
 #include "platform/data/sql/Ast.h"
@@ -10,7 +10,8 @@
 
 namespace sql {
 
-// What parts an expression from its neighbours: nothing (a condition), commas, or commas inside brackets.
+// What may stand behind an expression: the next clause alone (a condition), a comma and another expression, or such a
+// list whose closing bracket ends it.
 enum class Neighbours { None, Commas, EnclosedCommas };
 
 class ExpressionParser
@@ -30,16 +31,17 @@ public:
     QStringView takeName();
     // The name behind a dot, which may be a keyword.
     QStringView takeMember();
-    // T of "T.*", which is read, or nothing of it is.
+    // Reads "T.*" and returns T; reads nothing and returns an empty name when anything else stands there.
     QStringView takeAllOf();
 
     Node expression(Neighbours neighbours);
 
-    // The expression read last as it is written, read on past a fault to the end of its clause.
-    QStringView written() const;
-    // For a token that cannot follow the expression read last.
+    // The text of the expression read last, for an error's description. It goes on behind the fault, to the end of the
+    // clause or to the comma that separates the next expression.
+    QStringView expressionText() const;
+    // Raises the error for a token that cannot follow the expression read last.
     [[noreturn]] void failBehindExpression() const;
-    // For a bracket that does not close, where a name is due.
+    // Raises the error for a bracketed name without its closing bracket, where a name is expected.
     void refuseBadName() const;
 
 private:
@@ -47,10 +49,10 @@ private:
     Node conjunction();
     Node negation();
     Node comparison();
-    Node sum(int level);
+    Node arithmetic(int level);
     Node operand();
     Node enclosed();
-    Node number(bool negative);
+    Node signedOperand(bool negative);
     Node column();
     Node call(QStringView name);
     Node predicate(Node left);

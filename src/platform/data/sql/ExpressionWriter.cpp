@@ -4,6 +4,8 @@
 #include "platform/data/sql/Literal.h"
 #include "platform/data/sql/SqlText.h"
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace sql {
@@ -12,16 +14,8 @@ namespace {
 
 constexpr QByteArrayView inStoreOrder = " COLLATE STORE";
 
-bool isAscii(QStringView text)
-{
-    for (const QChar c : text) {
-        if (c.unicode() >= 0x80)
-            return false;
-    }
-    return true;
-}
-
-// The rule for equality with a text: NOCASE, the indexes' collation, wherever it comes to the same.
+// The collation for equality with a text. On ASCII texts NOCASE finds the same rows as STORE, and the file's indexes
+// stand on it.
 QByteArrayView equalityRule(QStringView text)
 {
     return isAscii(text) ? " COLLATE NOCASE" : inStoreOrder;
@@ -68,7 +62,7 @@ bool isConcatenation(const Expression &node)
     return node.kind == ExpressionKind::Operation && node.operation == Operator::Concatenate;
 }
 
-// Needs no parentheses as an operand.
+// True for what needs no parentheses as an operand.
 bool isAtom(const Expression &node)
 {
     switch (node.kind) {
@@ -145,7 +139,7 @@ void ExpressionWriter::operand(Node node)
     m_sql += ')';
 }
 
-// Two signs in a row would begin a comment.
+// A Yes is written as -1: without parentheses two signs would stand in a row, which begin a comment in SQLite.
 void ExpressionWriter::negation(const Expression &node)
 {
     const bool isFlag = at(node.first).kind == ExpressionKind::Flag;
@@ -154,7 +148,7 @@ void ExpressionWriter::negation(const Expression &node)
     m_sql += isFlag ? ")" : "";
 }
 
-// The written form serves as it stands when its quotes are SQLite's.
+// A text in single quotes is the same in SQLite and is copied as it is.
 void ExpressionWriter::text(const Expression &node)
 {
     if (node.text.front() == u'\'')
@@ -183,7 +177,7 @@ void ExpressionWriter::operation(const Expression &node)
     }
 }
 
-// A row of Ands or of Ors needs no parentheses among its own kind.
+// A chain of the same operator is written without parentheses.
 void ExpressionWriter::junction(const Expression &node, QByteArrayView word)
 {
     for (const Node side : {node.first, node.second}) {
@@ -197,7 +191,8 @@ void ExpressionWriter::junction(const Expression &node, QByteArrayView word)
     }
 }
 
-// Two columns compare by what the file declares for them, numbers as numbers; a text in the statement decides the rule.
+// A comparison with a text literal or a joined text gets the store's collation. Two columns compare by the types and
+// collations that the file declares for them.
 void ExpressionWriter::comparison(const Expression &node)
 {
     if (flagComparison(node))
@@ -219,7 +214,8 @@ void ExpressionWriter::comparison(const Expression &node)
     }
 }
 
-// A Yes/No column written by another tool may hold 1 for Yes: any number but 0 is Yes.
+// Writes "= Yes" as "<> 0": another tool may have written 1 for Yes, where this store writes -1. False where the
+// comparison is not with one Yes or No.
 bool ExpressionWriter::flagComparison(const Expression &node)
 {
     if (node.operation != Operator::Equal && node.operation != Operator::NotEqual)
@@ -243,7 +239,8 @@ void ExpressionWriter::noteComparison(Node column, Node literal)
         m_out.comparisons.push_back({reference(at(column)), value.kind == ExpressionKind::Text});
 }
 
-// "/" never cuts off, "\" and Mod round both sides first, and "+" joins texts, for which Null wins.
+// SQLite's "/" divides two integers without a rest, so one side becomes a REAL. "\" and Mod round both sides to
+// integers first. "+" with a text joins texts; unlike "&" it gives Null where one side is Null, as SQLite's "||" does.
 void ExpressionWriter::arithmetic(const Expression &node)
 {
     const bool isWhole = node.operation == Operator::DivideWhole || node.operation == Operator::Modulo;
@@ -258,7 +255,7 @@ void ExpressionWriter::arithmetic(const Expression &node)
     number(node.second, false);
 }
 
-// "&" takes Null for the empty text.
+// "&" counts Null as the empty text.
 void ExpressionWriter::concatenation(const Expression &node)
 {
     for (const Node side : {node.first, node.second}) {
@@ -277,12 +274,7 @@ void ExpressionWriter::like(const Expression &node)
     if (isText(node.second)) {
         likePattern(node, at(node.second));
     } else {
-        m_out.callsLike = true;
-        m_sql += "store_like(";
-        write(node.second);
-        m_sql += ", ";
-        write(node.first);
-        m_sql += ')';
+        likeCall(node);
     }
     if (!node.affirmed) {
         --m_negations;
@@ -292,7 +284,7 @@ void ExpressionWriter::like(const Expression &node)
 
 void ExpressionWriter::likePattern(const Expression &node, const Expression &pattern)
 {
-    const LikePattern parts = takenApart(textValue(pattern.text));
+    const LikePattern parts = analyzedPattern(textValue(pattern.text));
     if (parts.kind == PatternKind::Any) { // for Null it is neither true nor false, which a Not would show
         operand(node.first);
         m_sql += m_negations ? " = " : " IS NOT NULL";
@@ -307,19 +299,38 @@ void ExpressionWriter::likePattern(const Expression &node, const Expression &pat
         m_sql += equalityRule(pattern.text);
         return;
     }
-    if (!parts.lowest.isEmpty())
-        range(node.first, parts.lowest, parts.beyond);
-    if (parts.kind == PatternKind::Prefix)
-        return;
+    if (parts.lowest.isEmpty() || !namesItsTable(at(node.first)))
+        return likeCall(node);
+    const qsizetype begin = m_sql.size();
+    likeCall(node);
+    LikeRange written{reference(at(node.first)), begin, 0, m_sql.sliced(begin)};
+    m_sql.truncate(begin);
+    range(node.first, parts.lowest, parts.beyond);
+    if (parts.kind == PatternKind::Mixed) {
+        m_sql += " AND ";
+        likeCall(node);
+    }
+    written.length = m_sql.size() - begin;
+    m_out.likeRanges.push_back(std::move(written));
+}
+
+// A column whose table can be told, so that the engine can look up its type.
+bool ExpressionWriter::namesItsTable(const Expression &node) const
+{
+    return node.kind == ExpressionKind::Column && (!node.qualifier.isEmpty() || m_tree.onlyTable());
+}
+
+void ExpressionWriter::likeCall(const Expression &node)
+{
     m_out.callsLike = true;
-    m_sql += parts.lowest.isEmpty() ? "store_like(" : " AND store_like(";
-    text(pattern);
+    m_sql += "store_like(";
+    write(node.second);
     m_sql += ", ";
     write(node.first);
     m_sql += ')';
 }
 
-// The range of NOCASE that holds what begins with a text of ASCII, and nothing else.
+// The range of an index in NOCASE that holds the texts with this beginning.
 void ExpressionWriter::range(Node column, const QString &lowest, const QString &beyond)
 {
     operand(column);
@@ -331,7 +342,7 @@ void ExpressionWriter::range(Node column, const QString &lowest, const QString &
     appendQuoted(m_sql, beyond, '\'');
 }
 
-// The limits may stand in either order.
+// The dialect takes the limits in either order.
 void ExpressionWriter::between(const Expression &node)
 {
     noteComparison(node.first, node.second);
@@ -352,7 +363,7 @@ void ExpressionWriter::between(const Expression &node)
     m_sql += ')';
 }
 
-// NOCASE for the whole list when all its texts are ASCII.
+// The list has one collation: NOCASE, if all its texts are ASCII.
 void ExpressionWriter::inList(const Expression &node)
 {
     bool ofTexts = false;

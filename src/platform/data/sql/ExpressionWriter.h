@@ -1,5 +1,5 @@
-// Writes the expressions of a tree as SQLite's, by the store's rules of comparison, and notes in the translation what
-// the data room has to know of them: comparisons with literals, and whether LIKE is called.
+// Writes the expressions of a tree in SQLite's SQL, with the store's rules of comparison. What the engine has to check
+// or provide goes into the translation: comparisons with literals, and LIKE.
 #pragma once
 
 #include "platform/data/sql/Ast.h"
@@ -15,10 +15,10 @@ public:
     }
 
     void write(Node node);
-    // In the store's order, for ORDER BY and GROUP BY.
+    // With the store's collation, for ORDER BY and GROUP BY.
     void writeOrdered(Node node);
 
-    // The column with its table instead of an alias.
+    // The column with the name of its table, where the expression has the table's alias.
     ColumnReference reference(const Expression &column) const;
     // The value of a literal, a signed number included; nothing for any other expression.
     std::optional<runtime::Value> literalOf(Node node) const;
@@ -34,6 +34,8 @@ private:
     void concatenation(const Expression &node);
     void like(const Expression &node);
     void likePattern(const Expression &node, const Expression &pattern);
+    bool namesItsTable(const Expression &node) const;
+    void likeCall(const Expression &node);
     void range(Node column, const QString &lowest, const QString &beyond);
     void between(const Expression &node);
     void inList(const Expression &node);
@@ -46,7 +48,7 @@ private:
     const Tree &m_tree;
     Translation &m_out;
     QByteArray &m_sql;
-    int m_negations = 0; // Nots round the expression that is being written
+    int m_negations = 0; // how many Nots enclose the expression that is being written
 };
 
 } // namespace sql

@@ -1,82 +1,74 @@
 #include "platform/data/sql/Lexer.h"
 
-#include <string_view>
+#include "platform/data/sql/SqlText.h"
+
+#include <QString>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace sql {
 
 namespace {
 
-constexpr qsizetype longestKeyword = 8;
-
-// A word of at most eight letters as one number, so that all keywords are told apart in one switch.
-consteval quint64 packed(std::string_view word)
+struct KeywordText
 {
-    quint64 key = 0;
-    for (const char c : word)
-        key = key << 8 | quint64(c);
-    return key;
-}
+    QLatin1StringView text;
+    Keyword keyword;
+};
 
-quint64 packed(QStringView word)
-{
-    quint64 key = 0;
-    for (const QChar c : word) {
-        if (c.unicode() >= 0x80)
-            return 0;
-        key = key << 8 | (c.unicode() | 0x20U);
-    }
-    return key;
-}
+constexpr std::array keywords{
+    KeywordText{"alike"_L1, Keyword::Alike},
+    KeywordText{"and"_L1, Keyword::And},
+    KeywordText{"as"_L1, Keyword::As},
+    KeywordText{"asc"_L1, Keyword::Asc},
+    KeywordText{"between"_L1, Keyword::Between},
+    KeywordText{"by"_L1, Keyword::By},
+    KeywordText{"delete"_L1, Keyword::Delete},
+    KeywordText{"desc"_L1, Keyword::Desc},
+    KeywordText{"distinct"_L1, Keyword::Distinct},
+    KeywordText{"false"_L1, Keyword::False},
+    KeywordText{"from"_L1, Keyword::From},
+    KeywordText{"group"_L1, Keyword::Group},
+    KeywordText{"having"_L1, Keyword::Having},
+    KeywordText{"in"_L1, Keyword::In},
+    KeywordText{"inner"_L1, Keyword::Inner},
+    KeywordText{"insert"_L1, Keyword::Insert},
+    KeywordText{"into"_L1, Keyword::Into},
+    KeywordText{"is"_L1, Keyword::Is},
+    KeywordText{"join"_L1, Keyword::Join},
+    KeywordText{"left"_L1, Keyword::Left},
+    KeywordText{"like"_L1, Keyword::Like},
+    KeywordText{"mod"_L1, Keyword::Mod},
+    KeywordText{"no"_L1, Keyword::No},
+    KeywordText{"not"_L1, Keyword::Not},
+    KeywordText{"null"_L1, Keyword::Null},
+    KeywordText{"off"_L1, Keyword::Off},
+    KeywordText{"on"_L1, Keyword::On},
+    KeywordText{"or"_L1, Keyword::Or},
+    KeywordText{"order"_L1, Keyword::Order},
+    KeywordText{"outer"_L1, Keyword::Outer},
+    KeywordText{"right"_L1, Keyword::Right},
+    KeywordText{"select"_L1, Keyword::Select},
+    KeywordText{"set"_L1, Keyword::Set},
+    KeywordText{"top"_L1, Keyword::Top},
+    KeywordText{"true"_L1, Keyword::True},
+    KeywordText{"union"_L1, Keyword::Union},
+    KeywordText{"update"_L1, Keyword::Update},
+    KeywordText{"values"_L1, Keyword::Values},
+    KeywordText{"where"_L1, Keyword::Where},
+    KeywordText{"yes"_L1, Keyword::Yes},
+};
 
 Keyword keywordOf(QStringView word)
 {
-    if (word.size() > longestKeyword)
-        return Keyword::None;
-    // clang-format off
-    switch (packed(word)) {
-    case packed("alike"): return Keyword::Alike;
-    case packed("and"): return Keyword::And;
-    case packed("as"): return Keyword::As;
-    case packed("asc"): return Keyword::Asc;
-    case packed("between"): return Keyword::Between;
-    case packed("by"): return Keyword::By;
-    case packed("delete"): return Keyword::Delete;
-    case packed("desc"): return Keyword::Desc;
-    case packed("distinct"): return Keyword::Distinct;
-    case packed("false"): return Keyword::False;
-    case packed("from"): return Keyword::From;
-    case packed("group"): return Keyword::Group;
-    case packed("having"): return Keyword::Having;
-    case packed("in"): return Keyword::In;
-    case packed("inner"): return Keyword::Inner;
-    case packed("insert"): return Keyword::Insert;
-    case packed("into"): return Keyword::Into;
-    case packed("is"): return Keyword::Is;
-    case packed("join"): return Keyword::Join;
-    case packed("left"): return Keyword::Left;
-    case packed("like"): return Keyword::Like;
-    case packed("mod"): return Keyword::Mod;
-    case packed("no"): return Keyword::No;
-    case packed("not"): return Keyword::Not;
-    case packed("null"): return Keyword::Null;
-    case packed("off"): return Keyword::Off;
-    case packed("on"): return Keyword::On;
-    case packed("or"): return Keyword::Or;
-    case packed("order"): return Keyword::Order;
-    case packed("outer"): return Keyword::Outer;
-    case packed("right"): return Keyword::Right;
-    case packed("select"): return Keyword::Select;
-    case packed("set"): return Keyword::Set;
-    case packed("top"): return Keyword::Top;
-    case packed("true"): return Keyword::True;
-    case packed("union"): return Keyword::Union;
-    case packed("update"): return Keyword::Update;
-    case packed("values"): return Keyword::Values;
-    case packed("where"): return Keyword::Where;
-    case packed("yes"): return Keyword::Yes;
-    default: return Keyword::None;
-    }
-    // clang-format on
+    const auto *const known = std::ranges::find_if(keywords, [word](const KeywordText &entry) {
+        return word.size() == entry.text.size() && word.compare(entry.text, Qt::CaseInsensitive) == 0;
+    });
+    // Comparing without case takes the Kelvin sign for a "k", which the dialect does not.
+    return known != keywords.end() && isAscii(word) ? known->keyword : Keyword::None;
 }
 
 bool isBlank(QChar c)
@@ -104,23 +96,35 @@ bool isNamePart(QChar c)
 
 TokenKind punctuationOf(QChar c)
 {
-    // clang-format off
     switch (c.unicode()) {
-    case u'(': return TokenKind::LeftParenthesis;
-    case u')': return TokenKind::RightParenthesis;
-    case u',': return TokenKind::Comma;
-    case u'.': case u'!': return TokenKind::Dot;
-    case u';': return TokenKind::Semicolon;
-    case u'*': return TokenKind::Star;
-    case u'+': return TokenKind::Plus;
-    case u'-': return TokenKind::Minus;
-    case u'/': return TokenKind::Slash;
-    case u'\\': return TokenKind::Backslash;
-    case u'&': return TokenKind::Ampersand;
-    case u']': return TokenKind::StrayBracket;
-    default: return TokenKind::Unknown;
+    case u'(':
+        return TokenKind::LeftParenthesis;
+    case u')':
+        return TokenKind::RightParenthesis;
+    case u',':
+        return TokenKind::Comma;
+    case u'.':
+    case u'!':
+        return TokenKind::Dot;
+    case u';':
+        return TokenKind::Semicolon;
+    case u'*':
+        return TokenKind::Star;
+    case u'+':
+        return TokenKind::Plus;
+    case u'-':
+        return TokenKind::Minus;
+    case u'/':
+        return TokenKind::Slash;
+    case u'\\':
+        return TokenKind::Backslash;
+    case u'&':
+        return TokenKind::Ampersand;
+    case u']':
+        return TokenKind::StrayBracket;
+    default:
+        return TokenKind::Unknown;
     }
-    // clang-format on
 }
 
 } // namespace
@@ -179,7 +183,7 @@ qsizetype Lexer::digitsEnd(qsizetype from) const
     return from;
 }
 
-// "12", "1.5", ".5", "5." and "1.5E-3"; a second point spoils it.
+// "12", "1.5", ".5", "5." and "1.5E-3". With a second point it is a bad number as far as digits and points go.
 Token Lexer::number()
 {
     qsizetype end = digitsEnd(m_position);
@@ -197,7 +201,7 @@ Token Lexer::number()
     return take(TokenKind::BadNumber, end - m_position);
 }
 
-// Between two equal quotes; the quote itself stands doubled inside.
+// From a quote to the next one that is not doubled.
 Token Lexer::text(QChar quote)
 {
     qsizetype end = m_source.indexOf(quote, m_position + 1);

@@ -1,7 +1,7 @@
-// Cuts a statement into tokens, which are views into the statement's text: the text must outlive them.
+// Splits a statement into tokens. They are views into the statement's text, which must outlive them.
 //
-// A lexer is a small value without shared state; a copy of it reads on from the same place. It raises nothing: what is
-// no token of the dialect becomes a token of a kind that no rule of the grammar accepts.
+// A copy of a lexer continues from the same place, independently. Raises nothing: what is no token of the dialect
+// becomes a token of one of the last kinds below, which the parser refuses.
 #pragma once
 
 #include <QStringView>
@@ -32,16 +32,16 @@ enum class TokenKind {
     LessOrEqual,
     Greater,
     GreaterOrEqual,
-    // What fits nowhere, each with a fault of its own.
+    // Faults; the parser raises an error of its own for most of them.
     UnclosedText,
-    BadName, // a bracket or backquote without its fellow, or one bracket inside another
+    BadName, // a bracket or backquote that is not closed, or an opening bracket inside brackets
     BadNumber,
-    BadDate, // "#" without its fellow
+    BadDate, // "#" that is not closed
     StrayBracket,
     Unknown
 };
 
-// The words that are no names unless they stand in brackets or behind a dot.
+// Words that are names only in brackets or behind a dot.
 enum class Keyword {
     None,
     Alike,

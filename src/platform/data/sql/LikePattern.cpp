@@ -9,7 +9,8 @@ bool isWildcard(QChar c)
     return c == u'%' || c == u'_' || c == u'[';
 }
 
-// NOCASE folds "A" to "a", so that nothing but the letters themselves would lie between "@" and its successor.
+// The range ends before the next character. Behind "@" comes "A", which NOCASE sorts as "a", so that the range of "@"
+// would take in the signs between the capital and the small letters. 0x7F has no successor in ASCII.
 bool hasSuccessor(QChar c)
 {
     return c != u'@' && c.unicode() < 0x7F;
@@ -17,7 +18,7 @@ bool hasSuccessor(QChar c)
 
 } // namespace
 
-LikePattern takenApart(const QString &pattern)
+LikePattern analyzedPattern(const QString &pattern)
 {
     LikePattern parts;
     qsizetype plain = 0;

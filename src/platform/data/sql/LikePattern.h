@@ -1,4 +1,4 @@
-// A pattern of LIKE, taken apart: what of it an index can find, and what has to be looked at in each row.
+// Finds out which part of a LIKE pattern an index can search for, and which has to be compared row by row.
 #pragma once
 
 #include <QString>
@@ -7,9 +7,9 @@ namespace sql {
 
 enum class PatternKind {
     Literal, // no wildcard: equality
-    Any,     // "%": whatever is not Null
-    Prefix,  // a text and "%": exactly the range from `lowest` to below `beyond`
-    Mixed    // store_like, within that range unless it is empty
+    Any,     // "%": every value but Null
+    Prefix,  // a text and "%": the texts from `lowest` on and before `beyond`, and no others
+    Mixed    // anything else: store_like, within that range where there is one
 };
 
 struct LikePattern
@@ -20,6 +20,6 @@ struct LikePattern
     QString beyond;
 };
 
-LikePattern takenApart(const QString &pattern);
+LikePattern analyzedPattern(const QString &pattern);
 
 } // namespace sql

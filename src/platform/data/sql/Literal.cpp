@@ -12,7 +12,8 @@ namespace sql {
 
 namespace {
 
-// Numbers parted by one separator, as "1/31/2001" or "10:05"; empty when it is anything else.
+// One to four numbers with the separator between them, as in "1/31/2001" or "10:05"; empty when the text is anything
+// else.
 QVarLengthArray<int, 4> numbersBetween(QStringView text, QChar separator)
 {
     QVarLengthArray<int, 4> numbers;
@@ -60,29 +61,29 @@ QTime timeOf(QStringView text)
 
 } // namespace
 
-QString textValue(QStringView written)
+QString textValue(QStringView literal)
 {
-    const QChar quote = written.front();
-    QString text = written.sliced(1, written.size() - 2).toString();
+    const QChar quote = literal.front();
+    QString text = literal.sliced(1, literal.size() - 2).toString();
     if (text.contains(quote))
         text.replace(QString(2, quote), QString(quote));
     return text;
 }
 
-runtime::Value numberValue(QStringView written, bool negative)
+runtime::Value numberValue(QStringView literal, bool negative)
 {
     bool isWhole = false;
-    const qint64 whole = written.toLongLong(&isWhole);
+    const qint64 whole = literal.toLongLong(&isWhole);
     const qint64 value = negative ? -whole : whole;
     if (isWhole && std::in_range<qint32>(value))
         return runtime::Value(qint32(value));
-    const double number = written.toDouble();
+    const double number = literal.toDouble();
     return runtime::Value(negative ? -number : number);
 }
 
-std::optional<runtime::Date> dateValue(QStringView written)
+std::optional<runtime::Date> dateValue(QStringView literal)
 {
-    const QStringView text = written.sliced(1, written.size() - 2).trimmed();
+    const QStringView text = literal.sliced(1, literal.size() - 2).trimmed();
     const qsizetype blank = text.indexOf(u' ');
     const QDate day = dayOf(blank < 0 ? text : text.first(blank));
     const QStringView rest = !day.isValid() ? text : blank < 0 ? QStringView() : text.sliced(blank).trimmed();

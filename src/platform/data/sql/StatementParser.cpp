@@ -126,7 +126,7 @@ void StatementParser::fromClause()
         throw faultIn(Clause::From);
 }
 
-// Two sources at most: a third one needs brackets of its own.
+// The dialect joins two sources; a join of three has brackets round the first two or the last two.
 Node StatementParser::join(bool enclosed)
 {
     const Node left = joined();
@@ -157,7 +157,8 @@ JoinKind StatementParser::joinKind()
     return kind;
 }
 
-// A third table without brackets shows here, as a word that no operator ties to the condition.
+// A third table that is joined without brackets is read as part of this condition and is refused here: the dialect
+// calls it a missing operator.
 void StatementParser::endJoinCondition(bool enclosed)
 {
     const bool atClause = m_in.atEnd() || atNextClause();
@@ -200,7 +201,7 @@ bool StatementParser::atNextClause() const
            token.is(Keyword::Order);
 }
 
-// A clause without anything in it is a fault of the clause, not of an expression.
+// An empty clause raises the error of the clause; anything else that is wrong raises the error of the expression.
 Node StatementParser::clauseExpression(Clause clause, Neighbours neighbours)
 {
     const bool isList = neighbours != Neighbours::None && clause != Clause::Join;
@@ -209,7 +210,7 @@ Node StatementParser::clauseExpression(Clause clause, Neighbours neighbours)
     return m_in.expression(neighbours);
 }
 
-// Groups are made after the condition has chosen the rows, so it cannot ask for Max and its like.
+// The condition chooses the rows before they are grouped, so Max, Min, Count, Sum and Avg have no value in it yet.
 void StatementParser::whereClause()
 {
     if (!m_in.accept(Keyword::Where))
@@ -217,7 +218,8 @@ void StatementParser::whereClause()
     const bool hadAggregate = std::exchange(m_tree.hasAggregate, false);
     m_tree.where = clauseExpression(Clause::Where, Neighbours::None);
     if (m_tree.hasAggregate)
-        throw syntaxError(u"Cannot have aggregate function in WHERE clause (%1)."_s.arg(m_in.written().trimmed()));
+        throw syntaxError(
+            u"Cannot have aggregate function in WHERE clause (%1)."_s.arg(m_in.expressionText().trimmed()));
     m_tree.hasAggregate = hadAggregate;
 }
 
@@ -257,7 +259,7 @@ void StatementParser::orderByClause()
     } while (m_in.accept(TokenKind::Comma));
 }
 
-// The name of a column, of which a table's name in front of it is no part.
+// The name of a column. A table's name before it is read and dropped: SQLite takes none there.
 QStringView StatementParser::targetColumn(Clause clause)
 {
     m_in.refuseBadName();
@@ -291,7 +293,8 @@ void StatementParser::insert()
     finish();
 }
 
-// All values are read before they are counted: a broken text would change their number.
+// Counts the values only after the last one is read: when a text has an apostrophe in it, the error of the broken text
+// is to be raised, not that of a wrong number of values.
 void StatementParser::insertValues()
 {
     qsizetype count = 0;
@@ -333,7 +336,7 @@ void StatementParser::remove()
 {
     m_tree.kind = StatementKind::Delete;
     if (!m_in.token().is(Keyword::From)) {
-        do { // the list names the table at most, never what of its rows goes
+        do { // whatever the list names, DELETE removes whole rows
             if (!m_in.accept(TokenKind::Star) && m_in.takeAllOf().isEmpty())
                 targetColumn(Clause::Delete);
         } while (m_in.accept(TokenKind::Comma));

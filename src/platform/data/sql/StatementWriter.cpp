@@ -79,7 +79,8 @@ void StatementWriter::statement()
     }
 }
 
-// A result whose rows are the rows of one table gets their row id as its last column.
+// Where each row of the result is a row of one table, its row id is added as the last column: by it the row is found
+// again.
 void StatementWriter::select()
 {
     checkSelect(m_tree);
@@ -197,9 +198,9 @@ void StatementWriter::source(Node node)
     m_expressions.write(right.condition);
 }
 
-// A LEFT JOIN (B LEFT JOIN C ON p) ON q delivers what A LEFT JOIN B ON q LEFT JOIN C ON p does when q does not look at
-// C and p fails for a B of Nulls. SQLite finds the rows of the second by their indexes, and reads all of B and C for
-// the first.
+// For A LEFT JOIN (B LEFT JOIN C ON p) ON q SQLite reads all of B and C; for A LEFT JOIN B ON q LEFT JOIN C ON p it
+// finds their rows by indexes. Both deliver the same rows if q does not read C and p is not true where B's columns are
+// Null.
 bool StatementWriter::canChain(const Source &source) const
 {
     const Source &right = m_tree.sources[source.right];
@@ -221,7 +222,7 @@ bool StatementWriter::isColumnOf(const Source &table, Node node) const
            expression.qualifier.compare(table.name(), Qt::CaseInsensitive) == 0;
 }
 
-// True also for a name without a table, which may mean any.
+// True also for a name without a table, since it may belong to this one.
 bool StatementWriter::mayRead(const Source &table, Node node) const
 {
     if (node == none)
@@ -255,7 +256,8 @@ void StatementWriter::groupBy()
     }
 }
 
-// Groups compare by the store's rule and come in ascending order, both of which DISTINCT alone does not promise.
+// Writes DISTINCT as GROUP BY over the whole list: SQLite's DISTINCT would compare by the columns' own collation, and
+// the dialect delivers distinct rows in ascending order.
 void StatementWriter::distinctGroups()
 {
     const char *before = " GROUP BY ";
@@ -281,7 +283,8 @@ void StatementWriter::orderBy()
     }
 }
 
-// A bare name means the table's column, also where the list has an alias of the same name.
+// The dialect takes a name without a table for the table's column; SQLite would prefer an alias of the list that has
+// the same name, so the table is added.
 void StatementWriter::orderItem(const OrderItem &item)
 {
     const Expression &expression = m_tree.at(item.expression);
@@ -294,7 +297,7 @@ void StatementWriter::orderItem(const OrderItem &item)
     m_sql += item.descending ? " DESC" : "";
 }
 
-// A literal becomes a parameter, which the data room binds in the column's type.
+// A literal becomes a parameter: the engine binds it after it has converted it to the column's type.
 void StatementWriter::targetValue(const Target &target)
 {
     if (auto literal = m_expressions.literalOf(target.value)) {
@@ -341,7 +344,7 @@ void StatementWriter::update()
     where();
 }
 
-// Whole rows go, whatever columns the list named.
+// The dialect's list of columns is not written: DELETE removes whole rows.
 void StatementWriter::remove()
 {
     m_sql += "DELETE FROM ";
@@ -351,7 +354,7 @@ void StatementWriter::remove()
 
 } // namespace
 
-Translation written(const Tree &tree, qsizetype sourceLength)
+Translation writeStatement(const Tree &tree, qsizetype sourceLength)
 {
     Translation translation;
     translation.sql.reserve(sourceLength + sourceLength / 2 + 64);

@@ -8,7 +8,7 @@ namespace sql {
 
 namespace {
 
-// "%1" is the expression.
+// The description; "%1" stands for the expression.
 QString patternOf(Fault fault)
 {
     switch (fault) {

@@ -7,7 +7,7 @@
 
 namespace sql {
 
-// What is wrong inside an expression; the text quotes the whole expression.
+// What is wrong inside an expression; the description quotes the whole expression.
 enum class Fault {
     MissingOperator,
     UnclosedText,
@@ -19,7 +19,7 @@ enum class Fault {
     ArgumentCount
 };
 
-// What a statement breaks by its structure.
+// The clause or statement whose structure is wrong.
 enum class Clause { From, Insert, Update, Delete, Where, Join, GroupBy, Having, OrderBy };
 
 runtime::RuntimeError syntaxError(const QString &description);

@@ -44,6 +44,16 @@ struct Comparison
     bool withText = false;
 };
 
+// A LIKE that is written as a range of texts, which an index can search. The column may hold numbers or dates, which
+// are in no such range: then the engine puts the comparison row by row in its place.
+struct LikeRange
+{
+    ColumnReference column;
+    qsizetype begin = 0; // in the SQL, in bytes
+    qsizetype length = 0;
+    QByteArray comparison; // calls store_like
+};
+
 struct Translation
 {
     StatementKind kind = StatementKind::Select;
@@ -60,6 +70,7 @@ struct Translation
     std::vector<ComputedColumn> computed;
     std::vector<Assignment> assignments;
     std::vector<Comparison> comparisons;
+    std::vector<LikeRange> likeRanges; // in the order of the SQL
     // The SQL calls store_like(PATTERN, VALUE), which the connection has to provide.
     bool callsLike = false;
 };
@@ -67,7 +78,8 @@ struct Translation
 // Raises the dialect's error for a text that is no statement of it.
 Translation translate(const QString &text);
 
-// The same, kept by the statement's text for the life of the process.
+// The same from a cache of at most 1 MB, which drops what was not asked for the longest. It keeps no statement of more
+// than 2,000 characters and none on the table Security.
 std::shared_ptr<const Translation> cachedTranslation(const QString &text);
 
 } // namespace sql
