@@ -18,6 +18,7 @@ constexpr qint64 firstShown = 1000;  // milliseconds
 constexpr qint64 betweenShown = 200; // milliseconds
 
 std::atomic_bool stopAsked = false;
+Progress *current = nullptr;
 static_assert(std::atomic_bool::is_always_lock_free, "a signal handler may set it");
 
 } // namespace
@@ -38,17 +39,23 @@ bool isStopAsked()
 
 void stopOnSignals(data::Database &file)
 {
-    file.stopWhen(isStopAsked);
+    file.stopWhen([] {
+        if (current)
+            current->show();
+        return isStopAsked();
+    });
 }
 
 Progress::Progress(const QString &what) : m_what(what), m_isTerminal(isatty(STDERR_FILENO) == 1)
 {
     m_sinceBegin.start();
+    current = this;
 }
 
 Progress::~Progress()
 {
     finish();
+    current = nullptr;
 }
 
 void Progress::finish()
@@ -62,12 +69,18 @@ void Progress::at(qint64 done, qint64 all)
 {
     if (stopAsked)
         throw runtime::RuntimeError(Interrupted, u"interrupted"_s);
+    m_percent = all > 0 ? done * 100 / all : 100;
+    show();
+}
+
+void Progress::show()
+{
     const qint64 now = m_sinceBegin.elapsed();
     if (!m_isTerminal || now < firstShown || now < m_lastShown + betweenShown)
         return;
     m_lastShown = now;
-    const qint64 percent = all > 0 ? done * 100 / all : 100;
-    std::fprintf(stderr, "\r%s: %lld %%\033[K", qPrintable(m_what), static_cast<long long>(percent));
+    const QString state = m_percent < 0 ? u"%1 s"_s.arg(now / 1000) : u"%1 %"_s.arg(m_percent);
+    std::fprintf(stderr, "\r%s: %s\033[K", qPrintable(m_what), qPrintable(state));
     std::fflush(stderr);
 }
 

@@ -1,8 +1,8 @@
 // How far a long piece of work has come, and whether the person at the keyboard wants it to stop.
 //
-// On a terminal a line of standard error tells how far it is, from one second after the beginning on. Ctrl-C does not
-// end the process at once: the work stops at its next report, by an exception, so that everything unfinished is taken
-// away.
+// On a terminal a line of standard error tells how far it is, from one second after the beginning on: in percent, or in
+// seconds while a single statement runs, of which nobody knows how long it takes. Ctrl-C does not end the process at
+// once: the work stops at its next report, by an exception, so that everything unfinished is taken away.
 #pragma once
 
 #include "platform/data/engine/Database.h"
@@ -15,9 +15,11 @@ namespace datafile {
 // From here on SIGINT, SIGTERM and SIGHUP only ask the work to stop.
 void stopOnSignals();
 bool isStopAsked();
-// Lets the statements of the file stop as well: they raise the store's error for an interrupted statement.
+// Lets the statements of the file tell how long they take, and stop: they raise the store's error for an interrupted
+// one.
 void stopOnSignals(data::Database &file);
 
+// There is one at a time.
 class Progress
 {
 public:
@@ -30,11 +32,14 @@ public:
     void at(qint64 done, qint64 all);
     // Takes the line away, so that other text can be written.
     void finish();
+    // Shows the line anew if it is time.
+    void show();
 
 private:
     QString m_what;
     QElapsedTimer m_sinceBegin;
     qint64 m_lastShown = 0; // milliseconds since the beginning
+    qint64 m_percent = -1;  // not known
     bool m_isTerminal;
 };
 

@@ -1,4 +1,5 @@
 #include "datafile/Check.h"
+#include "datafile/Progress.h"
 #include "datafile/commands/Command.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -10,7 +11,9 @@ namespace {
 int check(const QCommandLineParser &given)
 {
     const QString path = given.positionalArguments().first();
+    datafile::Progress progress(u"checking "_s + path);
     const QStringList faults = datafile::faultsOf(path);
+    progress.finish();
     for (const QString &fault : faults)
         say(fault);
     if (!faults.isEmpty())

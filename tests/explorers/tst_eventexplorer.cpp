@@ -120,7 +120,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("nodes");
         QTest::addColumn<int>("number"); // of the load: a tree without nodes has none to expand
         QTest::newRow("a group with an apostrophe")
-            << QByteArray("INSERT INTO NodeInformation (NodeName, NodeActive) VALUES ('O''', 1), ('0', 1)") << 26 << 0;
+            << QByteArray("INSERT INTO NodeInformation (NodeName, NodeActive) VALUES ('O''', 1), ('0', 1)") << 31 << 0;
         QTest::newRow("a group twice") << QByteArray("UPDATE NodeInformation SET NodeName = 'a' WHERE NodeName = 'C';"
                                                      "UPDATE NodeInformation SET NodeName = 'A' WHERE NodeName = 'D'")
                                        << 3 << 0;
