@@ -210,7 +210,7 @@ private Q_SLOTS:
         const QString noContent = u"SELECT AttachmentsName FROM Attachments"_s;
         ClsBinaryFunctions search;
         for (const auto &[row, statement, error, open] : {std::tuple("NULL, x'00'", allAttachments, u"75 "_s, 0),
-                                                           {"'../../Tolmark.mdb', x'00'", allAttachments, u"75 "_s, 0},
+                                                          {"'../../Tolmark.mdb', x'00'", allAttachments, u"75 "_s, 0},
                                                           {"'a.txt', NULL", allAttachments, u"94 "_s, 1},
                                                           {"'a.txt', x''", allAttachments, u"94 "_s, 1},
                                                           {"'a.txt', x'00'", noContent, u"3265 "_s, 1}}) {
@@ -254,15 +254,15 @@ private Q_SLOTS:
         }
     }
 
-    // The data file's path begins with a drive, which is a folder like any other here. What counts is how many rows
+    // The data file's path is taken exactly: here it is one long name with backslashes. What counts is how many rows
     // there are, not their highest version, and never those of the file in use.
     void countsVersionsInItsOwnDataFile()
     {
-        const QString folder = m_folder->path(u"C:/Documents and Settings/Pell/Desktop/Norlund/BusinessPlan"_s);
-        QVERIFY(QDir().mkpath(folder));
+        const QString copy =
+            m_folder->path(u"C:\\Documents and Settings\\Pell\\Desktop\\Norlund\\BusinessPlan\\Tolmark.mdb"_s);
         m_folder->execute("INSERT INTO Attachments (AttachmentsName, AttachmentVersion) VALUES ('a.txt', 7), "
                           "('A.TXT', 8), ('b', 1)");
-        QVERIFY(QFile::copy(m_folder->file(), folder + u"/Tolmark.mdb"_s));
+        QVERIFY(QFile::copy(m_folder->file(), copy));
         m_folder->execute("DELETE FROM Attachments");
         const QString source = m_folder->write(u"source"_s, "a");
         Recordset rows = attachments();
