@@ -3,6 +3,7 @@
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/Conversion.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
@@ -14,6 +15,7 @@ FrmEventCalendar::FrmEventCalendar()
       Calendar1(new Calendar(frEventCalendar, u"Calendar1"))
 {
     Calendar1->setAccessibleName(u"Event Calendar"_s);
+    Calendar1->findChild<QAbstractItemView *>()->setAccessibleName(u"Event Calendar"_s); // the focus is in its days
     auto *inside = new QVBoxLayout(frEventCalendar);
     inside->addWidget(Calendar1);
     auto *whole = new QVBoxLayout(this);

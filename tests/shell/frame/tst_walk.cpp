@@ -1,0 +1,298 @@
+// Walks through every window by the Tab key, as somebody does who uses no mouse, and asks what a screen reader is told.
+#include "dossier/DisplayMembers.h"
+#include "dossier/FrmAddEditMember.h"
+#include "dossier/frmAddInterest.h"
+#include "dynamicforms/DatabaseGenerator.h"
+#include "dynamicforms/DisplayInformation.h"
+#include "dynamicforms/frmOpenRecord.h"
+#include "events/FrmEventCalendar.h"
+#include "events/frmMeeting.h"
+#include "events/frmSelectClient.h"
+#include "explorers/FrmDataBaseExplorer.h"
+#include "explorers/FrmEventExplorer.h"
+#include "library/frmDocumentExp.h"
+#include "search/frmFindInfo.h"
+#include "shell/frame/MDIBaseForm.h"
+#include "shell/frame/frmLogin.h"
+#include "shell/users/frmNewUser.h"
+#include "shell/users/frmOptions.h"
+#include "shell/users/frmTip.h"
+#include "support/DataStoreFolder.h"
+#include "support/Dialogs.h"
+
+#include <QAccessible>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using desktop::showNew;
+
+// Opens one state of one window.
+struct Station
+{
+    const char *name;
+    QWidget *(*open)();
+};
+
+QWidget *dossierAt(int page)
+{
+    auto *dossier = showNew<DisplayMembers>([](DisplayMembers &window) {
+        window.MemberId = 1;
+        window.setCaption(u"Tolmark Member Information : Ann B Cole"_s);
+    });
+    dossier->SSTab1->setCurrentIndex(page);
+    return dossier;
+}
+
+QWidget *enteringAt(int page, const char *button)
+{
+    QWidget *dossier = dossierAt(page);
+    child<QPushButton>(*dossier, button)->click();
+    return dossier;
+}
+
+QWidget *newMemberAt(int page)
+{
+    auto *window = showNew<FrmAddEditMember>();
+    window->SSTab1->setCurrentIndex(page);
+    return window;
+}
+
+QWidget *recordAt(int tab, const QString &mode = {})
+{
+    auto *record = showNew<DisplayInformation>([&mode](DisplayInformation &window) {
+        window.RecordId = 2;
+        window.EditMode = mode;
+        window.WindowTitle = u"Ashworth B. Helen"_s;
+    });
+    record->TabStrip1->setSelectedItem(tab < 0 ? record->TabStrip1->Count() + 1 + tab : tab);
+    return record;
+}
+
+QWidget *explorerWithRows(QWidget *explorer)
+{
+    auto *tree = child<desktop::TreeView>(*explorer, "TreClassView");
+    tree->setCurrentItem(&tree->Nodes(1));
+    QTest::keyClick(tree, Qt::Key_Down);
+    return explorer;
+}
+
+constexpr Station stations[] = {
+    {"login", [] { return static_cast<QWidget *>(&frmLogin::shared()); }},
+    {"member explorer", [] { return static_cast<QWidget *>(showNew<FrmDataBaseExplorer>()); }},
+    {"member explorer with rows", [] { return explorerWithRows(showNew<FrmDataBaseExplorer>()); }},
+    {"event explorer", [] { return static_cast<QWidget *>(showNew<FrmEventExplorer>()); }},
+    {"new member", [] { return newMemberAt(0); }},
+    {"new member, employer", [] { return newMemberAt(1); }},
+    {"new member, interests", [] { return newMemberAt(2); }},
+    {"dossier, member", [] { return dossierAt(0); }},
+    {"dossier, employer", [] { return dossierAt(1); }},
+    {"dossier, events", [] { return dossierAt(2); }},
+    {"dossier, assigning an event", [] { return enteringAt(2, "butAssignEvent"); }},
+    {"dossier, contributions", [] { return dossierAt(3); }},
+    {"dossier, adding a contribution", [] { return enteringAt(3, "butAddContributions"); }},
+    {"dossier, attachments", [] { return dossierAt(4); }},
+    {"dossier, interests", [] { return dossierAt(5); }},
+    {"dossier, adding an interest", [] { return enteringAt(5, "butAddInterest"); }},
+    {"dossier, notes", [] { return dossierAt(6); }},
+    {"interest", [] { return static_cast<QWidget *>(showNew<frmAddInterest>()); }},
+    {"event", [] { return static_cast<QWidget *>(showNew<FrmAddEvent>()); }},
+    {"calendar", [] { return static_cast<QWidget *>(showNew<FrmEventCalendar>()); }},
+    {"new note",
+     [] { return static_cast<QWidget *>(showNew<frmMeeting>([](frmMeeting &note) { note.AddView = true; })); }},
+    {"stored note", [] { return static_cast<QWidget *>(showNew<frmMeeting>()); }},
+    {"person picker", [] { return static_cast<QWidget *>(showNew<frmSelectClient>()); }},
+    {"library, manager",
+     [] { return static_cast<QWidget *>(showNew<frmDocumentExp>([](frmDocumentExp &w) { w.adminFunction = true; })); }},
+    {"library, browser", [] { return static_cast<QWidget *>(showNew<frmDocumentExp>()); }},
+    {"find", [] { return static_cast<QWidget *>(showNew<frmFindInfo>()); }},
+    {"new user", [] { return static_cast<QWidget *>(showNew<frmNewUser>()); }},
+    {"user", [] { return static_cast<QWidget *>(showNew<frmNewUser>([](frmNewUser &w) { w.SecurityId = u"1"_s; })); }},
+    {"options", [] { return static_cast<QWidget *>(showNew<frmOptions>()); }},
+    {"tip", [] { return static_cast<QWidget *>(showNew<frmTip>()); }},
+    {"designer", [] { return static_cast<QWidget *>(showNew<DatabaseGenerator>()); }},
+    {"record", [] { return recordAt(1); }},
+    {"record, attachments", [] { return recordAt(-3); }},
+    {"record, events", [] { return recordAt(-1); }},
+    {"new record", [] { return recordAt(1, u"New"_s); }},
+    {"open record", [] { return static_cast<QWidget *>(showNew<frmOpenRecord>()); }},
+};
+
+QString nameOf(QWidget *widget)
+{
+    QAccessibleInterface *access = QAccessible::queryAccessibleInterface(widget);
+    return access ? access->text(QAccessible::Name) : QString();
+}
+
+QString described(const QWidget *widget)
+{
+    return u"%1 \"%2\""_s.arg(QLatin1String(widget->metaObject()->className()), widget->objectName());
+}
+
+// The part of the window in which the widget stands and the other one does not.
+const QWidget *branch(const QWidget *widget, const QWidget *other)
+{
+    while (widget->parentWidget() && !widget->parentWidget()->isAncestorOf(other))
+        widget = widget->parentWidget();
+    return widget;
+}
+
+// Left to right, top to bottom: the parts that hold the two are compared, so that a frame is read to its end.
+bool isReadBefore(const QWidget *first, const QWidget *second)
+{
+    if (first->isAncestorOf(second) || second->isAncestorOf(first))
+        return true;
+    const QWidget *a = branch(first, second);
+    const QWidget *b = branch(second, first);
+    const QRect one(a->mapToGlobal(QPoint()), a->size());
+    const QRect two(b->mapToGlobal(QPoint()), b->size());
+    const int overlap = qMin(one.bottom(), two.bottom()) - qMax(one.top(), two.top());
+    const bool sameLine = overlap > qMin(one.height(), two.height()) / 2;
+    return sameLine ? one.left() <= two.left() : one.top() <= two.top();
+}
+
+// The stops of the Tab key from one that is given, until it comes again.
+QList<QWidget *> walk(QWidget *from, Qt::Key key)
+{
+    constexpr int tooMany = 120;
+    from->setFocus(Qt::TabFocusReason);
+    QList<QWidget *> stops;
+    for (QWidget *at = QApplication::focusWidget(); at && !stops.contains(at) && stops.size() < tooMany;
+         at = QApplication::focusWidget()) {
+        stops << at;
+        QTest::keyClick(at, key);
+    }
+    return stops;
+}
+
+// What Tab should stop at.
+QList<QWidget *> takingFocus(const QWidget &window)
+{
+    QList<QWidget *> widgets;
+    for (QWidget *each : window.findChildren<QWidget *>()) {
+        if ((each->focusPolicy() & Qt::TabFocus) && each->isEnabled() && each->isVisible() && !each->focusProxy())
+            widgets << each;
+    }
+    return widgets;
+}
+
+QStringList faultsOfStop(QWidget *stop)
+{
+    QStringList faults;
+    if (nameOf(stop).isEmpty())
+        faults << described(stop) + u" has no name"_s;
+    const auto *scrolling = qobject_cast<QAbstractScrollArea *>(stop); // its content covers it
+    if (stop->visibleRegion().isEmpty() && !(scrolling && !scrolling->viewport()->visibleRegion().isEmpty()))
+        faults << described(stop) + u" takes the focus out of sight"_s;
+    return faults;
+}
+
+// Where a field stands on a page is the designer's choice, and its order is the form's.
+bool areFieldsOfAForm(const QWidget *a, const QWidget *b)
+{
+    return a->objectName().startsWith(u"Text1(") && b->objectName().startsWith(u"Text1(");
+}
+
+// The way round goes back once, from the last stop to the first; more often is against the eye's order.
+QStringList turnsBack(const QList<QWidget *> &round)
+{
+    QStringList turns;
+    for (qsizetype at = 0; at < round.size(); ++at) {
+        const QWidget *next = round[(at + 1) % round.size()];
+        if (!isReadBefore(round[at], next) && !areFieldsOfAForm(round[at], next))
+            turns << described(next) + u" comes after "_s + described(round[at]);
+    }
+    return turns.size() > 1 ? turns : QStringList();
+}
+
+QStringList faultsOfWalk(const QWidget &window)
+{
+    const QList<QWidget *> expected = takingFocus(window);
+    if (expected.isEmpty())
+        return {u"nothing takes the focus"_s};
+    const QList<QWidget *> forth = walk(expected.constFirst(), Qt::Key_Tab);
+    QList<QWidget *> back = walk(expected.constFirst(), Qt::Key_Backtab);
+    QStringList faults;
+    for (QWidget *stop : forth)
+        faults << faultsOfStop(stop);
+    for (const QWidget *missed : expected) {
+        if (!forth.contains(missed))
+            faults << described(missed) + u" is not reached"_s;
+    }
+    if (QSet<QWidget *>(forth.begin(), forth.end()) != QSet<QWidget *>(back.begin(), back.end()))
+        faults << u"Shift+Tab stops elsewhere than Tab"_s;
+    return faults + turnsBack(forth);
+}
+
+void addMnemonic(QHash<QString, QStringList> &users, const QString &text, const QObject *user)
+{
+    const QString key = QKeySequence::mnemonic(text).toString();
+    if (!key.isEmpty())
+        users[key] << user->objectName();
+}
+
+// Alt with one letter must mean one thing in a window.
+QStringList repeatedMnemonics(const QWidget &window)
+{
+    QHash<QString, QStringList> users;
+    for (const auto *button : window.findChildren<QAbstractButton *>()) {
+        if (button->isVisible())
+            addMnemonic(users, button->text(), button);
+    }
+    for (const auto *label : window.findChildren<QLabel *>()) {
+        if (label->isVisible() && label->buddy())
+            addMnemonic(users, label->text(), label);
+    }
+    for (const auto *bar : window.findChildren<QMenuBar *>()) {
+        for (const QAction *menu : bar->actions())
+            addMnemonic(users, menu->isVisible() ? menu->text() : QString(), menu);
+    }
+    QStringList faults;
+    for (auto user = users.cbegin(); user != users.cend(); ++user) {
+        if (user->size() > 1)
+            faults << user.key() + u" stands for "_s + user->join(u" and "_s);
+    }
+    return faults;
+}
+
+} // namespace
+
+class tst_Walk : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void cleanup()
+    {
+        delete &MDIBaseForm::frame();
+        delete &frmLogin::shared();
+    }
+
+    void everyStopHasANameAndAPlaceInTheOrder_data()
+    {
+        QTest::addColumn<const Station *>("station");
+        for (const Station &station : stations)
+            QTest::newRow(station.name) << &station;
+    }
+    void everyStopHasANameAndAPlaceInTheOrder()
+    {
+        QFETCH(const Station *, station);
+        DataStoreFolder folder;
+        CaughtErrors errors;
+        MDIBaseForm &frame = MDIBaseForm::frame();
+        frame.resize(1600, 1200);
+        frame.show();
+        QWidget *window = station->open();
+        window->show();
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window->window()));
+        QStringList faults = faultsOfWalk(*window);
+        faults << repeatedMnemonics(*window);
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    }
+};
+
+QTEST_MAIN(tst_Walk)
+#include "tst_walk.moc"
