@@ -138,7 +138,7 @@ void checkSoundness(const data::Database &file, QStringList &faults)
     }
 }
 
-QStringList faultsOfLayout(data::Database &file)
+QStringList layoutFaultsOfOpen(data::Database &file)
 {
     stopOnSignals(file);
     QStringList faults;
@@ -155,14 +155,14 @@ QStringList faultsOfLayout(const QString &path)
 {
     data::Database file;
     file.open(path);
-    return faultsOfLayout(file);
+    return layoutFaultsOfOpen(file);
 }
 
 QStringList faultsOf(const QString &path)
 {
     data::Database file;
     file.open(path);
-    QStringList faults = faultsOfLayout(file);
+    QStringList faults = layoutFaultsOfOpen(file);
     if (faults.isEmpty()) // otherwise a statement may name a table or column that is missing
         faults = faultsOfRows(file);
     return faults;

@@ -210,7 +210,7 @@ QString restore(const QString &copy, const QString &file, Progress &progress)
         return {};
     }
     const QString path = place.canonicalFilePath(); // a link stays, and what it leads to is replaced
-    const QString old = datedName(path);
+    QString old = datedName(path);
     WholeResult result(old); // beside the file, on the same file system
     copyWholeFile(copy, result.unfinished(), progress);
 

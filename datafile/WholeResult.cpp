@@ -26,7 +26,7 @@ constexpr int FileAlreadyExists = 58;
 
 QString existingFolderOf(const QString &path)
 {
-    const QString folder = QFileInfo(path).absolutePath();
+    QString folder = QFileInfo(path).absolutePath();
     if (!QFileInfo(folder).isDir())
         throw runtime::RuntimeError(runtime::PathNotFound, u"The folder '%1' does not exist."_s.arg(folder));
     return folder;

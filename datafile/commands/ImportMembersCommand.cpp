@@ -34,9 +34,10 @@ int importAll(const QCommandLineParser &given)
     try {
         imported = datafile::importMembers(file, csv, options, progress);
     } catch (const runtime::RuntimeError &error) {
-        if (error.number() != runtime::TypeMismatch)
-            throw;
-        throw runtime::RuntimeError(error.number(), csv + u": "_s + error.description());
+        const QString text = error.description();
+        if (error.number() == runtime::TypeMismatch)
+            throw runtime::RuntimeError(error.number(), csv + u": "_s + text);
+        throw runtime::RuntimeError(error.number(), text.contains(csv) ? text : file + u": "_s + text);
     }
     progress.finish();
     if (imported.faults.isEmpty()) {
