@@ -139,13 +139,6 @@ void frmFindInfo::setUpFile(QGridLayout &parameters)
     compact<QVBoxLayout>(frmSearchFileTYpe)->addWidget(lstSearchFileType);
     parameters.addWidget(frmSearchFileTYpe, 3, 0);
 
-    auto *frmSearchCategory = new Frame(Frame1, u"frmSearchCategory", u"Search Category"_s);
-    lstSearchCategory = new desktop::ListBox(frmSearchCategory, u"lstSearchCategory");
-    lstSearchCategory->setAccessibleName(frmSearchCategory->title());
-    lstSearchCategory->setLines(2);
-    compact<QVBoxLayout>(frmSearchCategory)->addWidget(lstSearchCategory);
-    parameters.addWidget(frmSearchCategory, 4, 0);
-
     auto *frmSearchVersion = new Frame(Frame1, u"frmSearchVersion", u"Search Version"_s);
     auto *version = compact<QVBoxLayout>(frmSearchVersion);
     version->addWidget(addOption(optSearchVersion, 0, frmSearchVersion, u"All Versions"_s));
@@ -155,6 +148,13 @@ void frmFindInfo::setUpFile(QGridLayout &parameters)
     txtSpecifyVersion->setEnabled(false);
     version->addWidget(txtSpecifyVersion);
     parameters.addWidget(frmSearchVersion, 3, 1, 2, 1);
+
+    auto *frmSearchCategory = new Frame(Frame1, u"frmSearchCategory", u"Search Category"_s);
+    lstSearchCategory = new desktop::ListBox(frmSearchCategory, u"lstSearchCategory");
+    lstSearchCategory->setAccessibleName(frmSearchCategory->title());
+    lstSearchCategory->setLines(2);
+    compact<QVBoxLayout>(frmSearchCategory)->addWidget(lstSearchCategory);
+    parameters.addWidget(frmSearchCategory, 4, 0);
 }
 
 void frmFindInfo::setUpHandlers()

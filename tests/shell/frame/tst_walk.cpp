@@ -140,7 +140,8 @@ const QWidget *branch(const QWidget *widget, const QWidget *other)
     return widget;
 }
 
-// Left to right, top to bottom: the parts that hold the two are compared, so that a frame is read to its end.
+// Left to right, top to bottom: the parts that hold the two are compared, so that a frame is read to its end. Of two
+// that stand beside each other at different heights, either may come first.
 bool isReadBefore(const QWidget *first, const QWidget *second)
 {
     if (first->isAncestorOf(second) || second->isAncestorOf(first))
@@ -149,9 +150,11 @@ bool isReadBefore(const QWidget *first, const QWidget *second)
     const QWidget *b = branch(second, first);
     const QRect one(a->mapToGlobal(QPoint()), a->size());
     const QRect two(b->mapToGlobal(QPoint()), b->size());
-    const int overlap = qMin(one.bottom(), two.bottom()) - qMax(one.top(), two.top());
-    const bool sameLine = overlap > qMin(one.height(), two.height()) / 2;
-    return sameLine ? one.left() <= two.left() : one.top() <= two.top();
+    constexpr int aboutLevel = 8;
+    if (qAbs(one.top() - two.top()) <= aboutLevel)
+        return one.left() <= two.left();
+    const bool besideEachOther = one.top() <= two.bottom() && two.top() <= one.bottom();
+    return one.top() < two.top() || (besideEachOther && one.left() < two.left());
 }
 
 // The stops of the Tab key from one that is given, until it comes again.
