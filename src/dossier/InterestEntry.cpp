@@ -11,7 +11,7 @@ using desktop::CommandButton;
 
 namespace {
 
-constexpr std::array interestColumns{
+constexpr std::array gatheredColumns{
     ListedColumn{.header = u"Interest", .width = 2700},
     ListedColumn{.header = u"Description"},
 };
@@ -25,7 +25,7 @@ constexpr double buttonTop = 0;
 
 } // namespace
 
-InterestEntry::InterestEntry(QWidget *parent) : InterestArea(parent, u"Member's Intereest"_s, interestColumns)
+InterestEntry::InterestEntry(QWidget *parent) : InterestArea(parent, u"Member's Intereest"_s, gatheredColumns)
 {
     addBoxes();
     m_area.addWidget(*setUpButtons());

@@ -11,6 +11,12 @@
 
 namespace sql {
 
+// Names of tables, columns and aliases are the same whatever their case.
+inline bool isSame(QStringView a, QStringView b)
+{
+    return a.compare(b, Qt::CaseInsensitive) == 0;
+}
+
 using Node = int;
 inline constexpr Node none = -1;
 

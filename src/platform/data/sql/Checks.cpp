@@ -12,11 +12,6 @@ namespace sql {
 
 namespace {
 
-bool isSame(QStringView a, QStringView b)
-{
-    return a.compare(b, Qt::CaseInsensitive) == 0;
-}
-
 // A column without a table's name may belong to any table, so it counts as the same as one with a table's name.
 bool isSameColumn(const Expression &a, const Expression &b)
 {

@@ -16,11 +16,6 @@ namespace {
 constexpr qsizetype mostKeptBytes = 1 << 20;
 constexpr qsizetype longestKept = 2000; // characters
 
-bool isSame(QStringView a, QStringView b)
-{
-    return a.compare(b, Qt::CaseInsensitive) == 0;
-}
-
 // A statement on the users' table may hold a password, which must not stay in memory.
 bool mayBeKept(const Tree &tree, const QString &text)
 {
