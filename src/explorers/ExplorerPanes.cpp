@@ -22,7 +22,7 @@ ExplorerPanes::ExplorerPanes(desktop::Form &window, const ExplorerTexts &texts)
     Toolbar1->setIconSize({20, 20});
     Toolbar1->addButton({}, texts.deleteButton, texts.deleteButton, QIcon(texts.deleteImage));
     placeBars();
-    // The keyboard reaches the button too, and starts below it.
+    // Tab reaches the button, but the focus begins at the headline below it.
     QWidget *button = Toolbar1->widgetForAction(Toolbar1->actions().constFirst());
     button->setFocusPolicy(Qt::TabFocus);
     desktop::setTabOrder({button, LblMemberListing, TreClassView, LstStudenInformation});

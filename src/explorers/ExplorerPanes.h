@@ -1,6 +1,7 @@
-// What stands in both explorers: the panes of the tree of groups and of the list, and the bar of one button above them.
+// The controls that both explorers have: the panes with the tree of groups and the list, and above them a toolbar with
+// one button.
 //
-// The controls belong to the window. All geometry is in twips.
+// The window owns the controls. All positions and sizes are in twips.
 #pragma once
 
 #include "parts/SplitPanes.h"
@@ -32,6 +33,6 @@ public:
 
     void forEachSelected(const std::function<void(const desktop::ListItem &)> &act) const;
 
-    // Keeps the two bars at the edges of the window.
+    // Puts the toolbar at the top edge of the window and the status bar at its bottom edge.
     void placeBars();
 };

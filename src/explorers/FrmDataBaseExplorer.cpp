@@ -122,8 +122,8 @@ void FrmDataBaseExplorer::Toolbar1_ButtonClick(QAction *button)
     deleteSelectedMembers();
 }
 
-// The tree is loaded over its old nodes: it refuses the first group, and the caller's way with errors decides what
-// becomes of that.
+// The tree is loaded without being cleared, so it refuses the first group as a repeated key (error 35602). From the
+// toolbar that error ends the program; the handler of the Delete key passes it over.
 void FrmDataBaseExplorer::deleteSelectedMembers()
 {
     m_rows.deleteSelected([this] {

@@ -1,8 +1,8 @@
 // The members by groups of their last names: a tree of the groups on the left, the members of the chosen one on the
 // right. The way into a member's dossier, and the place where members are deleted.
 //
-// Load, tree, list and the deletion by the toolbar let a failure end the program; the column click, the keys of the
-// list and the splitter swallow it.
+// A failure of the load, the tree, the list or the deletion by the toolbar ends the program. One of a column click, of
+// a key in the list or of the splitter is passed over without a word.
 #pragma once
 
 #include "explorers/GroupedRows.h"

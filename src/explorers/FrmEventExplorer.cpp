@@ -142,7 +142,8 @@ void FrmEventExplorer::LstStudenInformation_KeyUp(int keyCode)
         desktop::reportOutOfMemoryOnly([this] { m_panes.forEachSelected(openEvent); });
 }
 
-// The tree is loaded over its old nodes and refuses the first group, so it keeps its counts until it is refreshed.
+// The tree is loaded without being cleared, so it refuses the first group as a repeated key and keeps its old counts
+// until it is refreshed.
 void FrmEventExplorer::Toolbar1_ButtonClick(QAction *button)
 {
     if (button->text() != u"Delete Event" || m_panes.LstStudenInformation->ListItems.Count() == 0)

@@ -1,8 +1,8 @@
 // The events by groups of their names: a tree of the groups on the left, the events of the chosen one on the right. The
 // way to change an event, and the place where events are deleted.
 //
-// Unlike its sibling it holds back what fails in the tree and in the list: the tree ends at the group that failed, the
-// list stays as it was. Only the toolbar deletes, and the panes grow with the window.
+// Unlike the member explorer it passes over failures of the tree and of the list: the tree then ends at the group that
+// failed, and the list stays as it was. Only the toolbar deletes, and the panes grow with the window.
 #pragma once
 
 #include "explorers/GroupedRows.h"
@@ -19,7 +19,7 @@ public:
     // 99 or more shows the users in the tree, as the administrator sees them. No menu sets it.
     qint16 UserLevel = 0;
 
-    // Opens the record window for a person who is to be added. Nothing in the explorer itself does it.
+    // Opens the record window for a new person. No control of this window calls it; the main window's menu does.
     static void NewMemberInformation();
 
 protected:

@@ -9,7 +9,7 @@
 
 #include <functional>
 
-// What one explorer explores, and the words that it has for that.
+// The table that an explorer shows, its statements and its texts.
 struct GroupedTable
 {
     QString name;
@@ -40,14 +40,15 @@ public:
     void loadTree(qint16 userLevel);
     void clearTree();
 
-    // Tells the selected group in the window's caption and in the headline of the list.
+    // Writes the selected group into the window's caption and the count of its rows into the headline of the list.
     void announceGroup();
-    // Turns the sort to the clicked column, from 1, and tells it in the headline.
+    // Sets SortClause for a click on the column, counted from 1, and writes the order into the headline of the list.
     void sortBy(int column);
     // Lists the selected group in the order of SortClause; a node without a group leaves the list as it is.
     void loadList();
 
-    // Asks, and after a Yes deletes the selected rows and runs `reload`. A failure leaves the connection to its object.
+    // Asks, and after a Yes deletes the selected rows and runs `reload`. After a failure the connection stays open
+    // until the command sequence is destroyed with the handler.
     void deleteSelected(const std::function<void()> &reload);
 
 private:

@@ -1,4 +1,4 @@
-// The ORDER BY tail that a click on a column header leaves behind: "" or " ORDER BY COLUMN ASC", or DESC.
+// The ORDER BY tail of a list's statement: empty until a column header is clicked, then " ORDER BY COLUMN ASC" or DESC.
 #pragma once
 
 #include <QString>

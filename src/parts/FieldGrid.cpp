@@ -13,7 +13,7 @@ namespace {
 enum Column : int { LabelColumn, BoxColumn, ColumnCount };
 
 constexpr int rowBelowAll = 100;
-constexpr int charactersBehind = 8; // the width of what stands behind a box
+constexpr int charactersBehind = 8; // the width of a small control to the right of a box
 
 } // namespace
 
@@ -69,7 +69,7 @@ ListBox *FieldGrid::addOneLineList(QAnyStringView name, const QString &label, co
 void FieldGrid::addBehind(QWidget *widget)
 {
     m_layout->removeWidget(m_lastBox);
-    auto *row = new QHBoxLayout; // where the widget is hidden, the box takes its place
+    auto *row = new QHBoxLayout; // while the widget is hidden, the box is as wide as the other boxes
     row->addWidget(m_lastBox, 1);
     row->addWidget(widget);
     m_layout->addLayout(row, m_rows - 1, BoxColumn);

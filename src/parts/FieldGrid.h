@@ -10,11 +10,11 @@ class QGridLayout;
 class FieldGrid
 {
 public:
-    // The parent owns what the grid makes.
+    // The parent widget owns the labels and boxes.
     explicit FieldGrid(QWidget *parent);
 
     desktop::TextBox *addText(QAnyStringView name, const QString &label);
-    // Takes the height that the window has left.
+    // This row takes the height that the other rows leave over.
     desktop::MultilineTextBox *addMultilineText(QAnyStringView name, const QString &label);
     // A list box that shows so many items at a time.
     desktop::ListBox *addList(QAnyStringView name, const QString &label, const QStringList &items, int lines);
@@ -24,13 +24,13 @@ public:
     // The label of the last row.
     desktop::Label *lastLabel() const { return m_lastLabel; }
 
-    // Behind the box of the last row, as wide as it needs.
+    // Puts the widget to the right of the last row's box, in the width that it needs.
     void addBehind(QWidget *widget);
-    // Small controls in that place; what they are for is their accessible name.
+    // Make a small control at that place. The purpose is its tool tip and its accessible name.
     desktop::CommandButton *addButtonBehind(QAnyStringView name, const QString &caption, const QString &purpose);
     desktop::ListBox *addListBehind(QAnyStringView name, const QStringList &items, const QString &purpose);
 
-    // At the bottom right, under all rows.
+    // Puts the buttons at the bottom right, below all rows.
     void addButtons(std::initializer_list<desktop::CommandButton *> buttons);
 
 private:

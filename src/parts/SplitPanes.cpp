@@ -27,12 +27,12 @@ constexpr double panesBottom = 8115;
 constexpr double panesRight = 13770;
 constexpr double margin = 60;
 
-// What the panes leave free of the window.
+// The margins that the panes leave of the window's height and width.
 constexpr double aboveAndBelowPanes = 1720;
 constexpr double splitterBesideHeadline = 425;
 constexpr double rightOfList = 200;
 
-// A headline stands out from what it heads.
+// Looks like a button, so that it stands out from the tree or list below it.
 void asHeadline(Label &label)
 {
     label.setFrameStyle(QFrame::Panel | QFrame::Raised);

@@ -1,8 +1,8 @@
 // A tree on the left and a list on the right, a headline over each, between them a bar that the mouse drags, and a
 // status bar below.
 //
-// The controls belong to the window and have the same given names in every window; the headlines bear their own. The
-// panes serve the splitter themselves. All geometry is in twips.
+// The window owns the controls. They have the same names in every window, but for the headlines, whose names the window
+// gives. Moves of the splitter are handled here. All positions and sizes are in twips.
 #pragma once
 
 #include "platform/desktop/Controls.h"
@@ -33,10 +33,10 @@ public:
     desktop::StatusBar *StatusBar1;
     desktop::ImageList *ImageList1; // "OpenFolder", "ClosedFolder"
 
-    // The panes take the window's size, the panels of the status bar a fifth of its width each. In a window smaller
-    // than what the panes leave free, they grow again as it shrinks.
+    // Gives the panes the size of the window less constant margins, and each panel of the status bar a fifth of its
+    // width. The sizes are absolute values, so that in a window smaller than the margins the panes grow as it shrinks.
     void followWindow();
-    // Keeps the status bar at the edge of the window.
+    // Puts the status bar at the bottom edge of the window, over its whole width.
     void placeStatusBar();
 
 protected:
@@ -44,6 +44,7 @@ protected:
 
 private:
     void setUpPlaces();
-    // The pointer moved over the splitter: with the left button alone held down, both panes follow it.
+    // Answers a move of the pointer over the splitter. While the left button alone is held down, the panes share the
+    // width anew at the pointer.
     void dragSplitter(int button, float x);
 };

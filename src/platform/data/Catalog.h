@@ -1,7 +1,8 @@
 // The tables of a data file as they are defined: enumerates them with their columns, and adds new ones.
 //
 // A catalog's connection opens when its string is set and closes with it; catalogs of one string share it, since each
-// new one would have to read all definitions of the file. Tables and columns outlive the connection only as names.
+// new one would have to read all definitions of the file. Once it is closed, a table or column that was taken from it
+// still has its name, and everything else raises error 3709.
 // Other connections see what a catalog adds as soon as it is added.
 #pragma once
 
@@ -16,7 +17,7 @@ class Database;
 class Tables
 {
 public:
-    // What a range-for goes through are the tables as they were at its beginning. Columns are not read for that.
+    // A range-for goes through the tables that the file had at its beginning. Their columns are not read.
     std::vector<Table>::const_iterator begin();
     std::vector<Table>::const_iterator end() const { return m_enumerated.cend(); }
 
@@ -37,7 +38,7 @@ private:
 class Catalog
 {
 public:
-    // Errors as Connection::Open; the connection that the catalog had is kept then.
+    // Raises the errors of Connection::Open; the catalog then keeps the connection that it had.
     void setActiveConnection(const QString &connectionString);
     // Error 3709 without a connection.
     data::Tables Tables() const;

@@ -15,7 +15,7 @@ public:
     // The rows of a SELECT; a closed recordset for a statement that changes rows. Error 3709 without an open
     // connection.
     Recordset Execute(int options = adOptionUnspecified);
-    // Ends only what runs asynchronously, and nothing does: without effect.
+    // Without effect: it would end what runs asynchronously, and nothing does.
     void Cancel() {}
 };
 

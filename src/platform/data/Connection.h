@@ -1,7 +1,7 @@
 // A connection to the data file, named by a connection string.
 //
-// Closing it closes the recordsets that were opened over it; one that goes out of scope closes quietly. It holds no
-// statement and no lock between two calls, so many may stand open over one file. Errors of Open: 3706 without a
+// Closing it closes the recordsets that were opened over it, and so does its destructor. It holds no statement and no
+// lock between two calls, so many may be open over one file. Errors of Open: 3706 without a
 // provider, 3705 when open already, the provider's own for a file that is missing or of another kind.
 #pragma once
 
@@ -30,11 +30,11 @@ public:
     void Open(const QString &connectionString, const QString &user = {}, const QString &password = {},
               int options = adOptionUnspecified);
     void Close();
-    // Ends only what runs asynchronously, and nothing does: without effect, on a closed connection too.
+    // Without effect, also on a closed connection: it would end what runs asynchronously, and nothing does.
     void Cancel() {}
     ObjectStateEnum State() const { return m_database ? adStateOpen : adStateClosed; }
 
-    // May be set at any time; every recordset of this store is static whatever it says.
+    // Without effect: every recordset of this store is static. It may be set at any time.
     int CursorLocation = adUseServer;
 
 private:

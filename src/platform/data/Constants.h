@@ -1,4 +1,4 @@
-// The data objects' constants by their own names.
+// The constants of the data objects, under the names by which handlers use them.
 #pragma once
 
 namespace data {

@@ -1,6 +1,6 @@
 // Makes recordsets that belong to no connection: their rows live in memory, as long as the recordset.
 //
-// They begin empty and take rows as any other. Error 3001 for definitions that make no table.
+// They begin empty, and rows are added as to any other recordset. Error 3001 without columns and for a repeated name.
 #pragma once
 
 #include "platform/data/Recordset.h"
@@ -13,7 +13,7 @@ struct FieldDefinition
 {
     QString name;
     DataTypeEnum type;
-    qint16 size; // of a text, in characters; declared, and like every column's in this store not enforced
+    qint16 size; // of a text, in characters; declared but not enforced, as for every column of this store
     bool nullable;
 };
 

@@ -12,7 +12,7 @@ namespace data {
 
 namespace {
 
-// What is stored keeps its name, type and properties.
+// Refuses a change of what is stored: it keeps its name, type and properties.
 template <class Definition> Definition &changeable(const std::shared_ptr<Definition> &definition)
 {
     if (definition->isStored)

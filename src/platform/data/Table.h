@@ -1,11 +1,12 @@
 // Tables and columns of the data file, described first and stored when Tables takes the table.
 //
 // Each object is a reference: a copy is the same table, column or property. The columns of a stored table are read from
-// the file whenever they are enumerated or asked for; one that is appended to it goes into the file at once. What is
-// stored is not changed any more: error -2147217887. Names compare without regard to the case of ASCII letters, as in
-// the file. Error 3709 for a stored table whose catalog is gone.
-// The trap: a column must have a value in every row unless its "Nullable" is True or its "Required" False. A column
-// with a default, a Boolean one and the auto-increment one come by their value themselves.
+// the file whenever they are enumerated or asked for; a column that is appended to it goes into the file at once. What
+// is stored cannot be changed any more (error -2147217887). Names compare without regard to the case of ASCII letters,
+// as in the file. Error 3709 for a stored table whose catalog is gone.
+//
+// A trap: a column refuses Null unless its "Nullable" is set True or its "Required" False. A column with a default, a
+// Boolean one and an auto-increment one get their value without being written.
 #pragma once
 
 #include "platform/data/Constants.h"
@@ -48,9 +49,9 @@ private:
 class Property
 {
 public:
-    // A "Default" is Null until it is set; that of a stored column is SQLite's expression.
+    // A "Default" is Null until it is set. Of a stored column it is the expression in SQLite's SQL.
     runtime::Value Value() const;
-    // Converts nothing: a text for "Default", a Boolean for the others. Error 3001.
+    // Takes a text for "Default" and a Boolean for the others; error 3001 for a value of another type.
     void setValue(const runtime::Value &value);
 
 private:
@@ -107,7 +108,7 @@ private:
 class Columns
 {
 public:
-    // What a range-for goes through are the columns as they were at its beginning.
+    // A range-for goes through the columns that the table had at its beginning.
     std::vector<Column>::const_iterator begin();
     std::vector<Column>::const_iterator end() const { return m_enumerated.cend(); }
 

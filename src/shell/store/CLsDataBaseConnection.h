@@ -1,7 +1,7 @@
-// Opens a recordset over a connection of its own: how most handlers read, and append or edit rows.
+// Opens a recordset over a connection of its own. Most handlers read, append and edit rows through it.
 //
-// It holds at most one open connection. A second CreateRecordset without DbClose between fails with error 3705, so who
-// needs two recordsets at once holds two instances. Dropped with its connection open, it closes it. The errors of the
+// It holds at most one open connection: a second CreateRecordset without DbClose in between fails with error 3705, so a
+// handler that needs two recordsets at once has two instances. Its destructor closes the connection. The errors of the
 // data objects go to the caller.
 #pragma once
 

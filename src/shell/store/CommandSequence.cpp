@@ -4,7 +4,7 @@
 
 void CommandSequence::open()
 {
-    m_connection = data::Connection(); // what a failure left open
+    m_connection = data::Connection(); // closes the one that a failed handler left open
     openDataStore(m_connection);
     m_connection.CursorLocation = data::adUseClient;
     command.ActiveConnection = &m_connection;

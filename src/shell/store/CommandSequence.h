@@ -1,4 +1,4 @@
-// The connection and command that carry a handler's delete, update and insert statements, one after another.
+// A connection and a command with which a handler runs its delete, update and insert statements one after another.
 //
 // A handler that fails between open and close leaves the connection open; the next open() of the object or its end
 // releases it.
@@ -16,7 +16,7 @@ public:
 
     void open();
     data::Recordset execute(const QString &statement);
-    // Cancels the command, closes the connection and cancels that.
+    // Cancels the command, closes the connection and cancels the connection, in this order.
     void close();
 
     data::Command command;

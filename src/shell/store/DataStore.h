@@ -1,5 +1,5 @@
-// Where the data store is, and how every handler reaches it. The string is composed anew at each use and nothing keeps
-// it; the errors of the data objects go to the caller.
+// Where the data store is, and how every handler opens it. The connection string is composed anew at each use, since
+// the application folder may be set by a test. The errors of the data objects go to the caller.
 #pragma once
 
 #include "platform/data/Connection.h"
@@ -7,7 +7,7 @@
 
 #include <QString>
 
-// Names Tolmark.mdb beside the executable.
+// Names the file Tolmark.mdb in the application folder.
 QString dataStoreConnectionString();
 
 void openDataStore(data::Connection &connection);
