@@ -12,6 +12,7 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"Tolmark"_s);
     QApplication::setApplicationVersion(runtime::App::Version.toString());
+    QApplication::setDesktopFileName(u"org.tolmark.tolmark"_s); // by which a Wayland desktop finds the icon
     QApplication::setWindowIcon(QIcon(u":/icons/tolmark.svg"_s));
     desktop::guarded([] { frmLogin::shared().Show(); });
     return QApplication::exec();
