@@ -16,17 +16,13 @@ namespace {
 constexpr qsizetype mostKeptBytes = 1 << 20;
 constexpr qsizetype longestKept = 2000; // characters
 
-bool isSame(QStringView a, QStringView b)
-{
-    return a.compare(b, Qt::CaseInsensitive) == 0;
-}
-
 // A statement on the users' table may hold a password, which must not stay in memory.
 bool mayBeKept(const Tree &tree, const QString &text)
 {
     return text.size() <= longestKept &&
-           std::none_of(tree.sources.begin(), tree.sources.end(),
-                        [](const Source &source) { return isSame(source.table, u"Security"); });
+           std::none_of(tree.sources.begin(), tree.sources.end(), [](const Source &source) {
+               return source.table.compare(u"Security", Qt::CaseInsensitive) == 0;
+           });
 }
 
 // A rough figure that is not too small: the text twice, as the key and in the literals, and the SQL.
