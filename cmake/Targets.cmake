@@ -13,13 +13,20 @@ if(TOLMARK_SANITIZE)
     target_link_options(tolmark_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+# What goes to the user is hardened as Debian's programs are, and tells no folder of the machine that built it.
+add_library(tolmark_delivered INTERFACE)
+target_compile_options(tolmark_delivered INTERFACE
+    $<$<CONFIG:Release>:-fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2
+                        -ffile-prefix-map=${PROJECT_SOURCE_DIR}=. -ffile-prefix-map=${PROJECT_BINARY_DIR}=build>)
+target_link_options(tolmark_delivered INTERFACE $<$<CONFIG:Release>:-Wl,-z,relro,-z,now>)
+
 # tolmark_room(NAME LINKS target... SOURCES file...): one room of the house.
 # Headers are included by their path under src/, so that an arrow between rooms shows in every #include.
 function(tolmark_room name)
     cmake_parse_arguments(PARSE_ARGV 1 room "" "" "LINKS;SOURCES")
     add_library(${name} STATIC ${room_SOURCES})
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
-    target_link_libraries(${name} PUBLIC ${room_LINKS} PRIVATE tolmark_options)
+    target_link_libraries(${name} PUBLIC ${room_LINKS} PRIVATE tolmark_options tolmark_delivered)
 endfunction()
 
 # tolmark_test(NAME LINKS target... SOURCES file...): one Qt Test program, run by ctest without a display.

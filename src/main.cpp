@@ -1,4 +1,5 @@
 #include "platform/desktop/ErrorReport.h"
+#include "platform/runtime/Application.h"
 #include "shell/frame/frmLogin.h"
 
 #include <QApplication>
@@ -10,7 +11,8 @@ int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"Tolmark"_s);
-    QApplication::setApplicationVersion(u"1.0.0"_s);
+    QApplication::setApplicationVersion(runtime::App::Version.toString());
+    QApplication::setDesktopFileName(u"org.tolmark.tolmark"_s); // by which a Wayland desktop finds the icon
     QApplication::setWindowIcon(QIcon(u":/icons/tolmark.svg"_s));
     desktop::guarded([] { frmLogin::shared().Show(); });
     return QApplication::exec();

@@ -1,6 +1,8 @@
 // The program's own facts: its folder, its title, its version.
 #pragma once
 
+#include "platform/runtime/Version.h"
+
 #include <QString>
 
 namespace runtime::App {
@@ -16,9 +18,5 @@ QString folder(QStringView behindPath);
 
 // The application's title, which message boxes bear unless they are told another.
 QString Title();
-
-inline constexpr int Major = 1;
-inline constexpr int Minor = 0;
-inline constexpr int Revision = 0;
 
 } // namespace runtime::App

@@ -318,7 +318,7 @@ private Q_SLOTS:
     {
         frmSplash splash;
         splash.Show();
-        QCOMPARE(splash.lblVersion->text(), u"Version 1.0.0"_s);
+        QCOMPARE(splash.lblVersion->text(), u"Version "_s + QString::fromLatin1(runtime::App::Version));
         QCOMPARE(splash.lblProductName->text(), u"Tolmark Lite"_s);
         QTest::keyClick(&splash, Qt::Key_A);
         QVERIFY(!splash.isVisible());
