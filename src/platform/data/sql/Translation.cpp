@@ -20,9 +20,8 @@ constexpr qsizetype longestKept = 2000; // characters
 bool mayBeKept(const Tree &tree, const QString &text)
 {
     return text.size() <= longestKept &&
-           std::none_of(tree.sources.begin(), tree.sources.end(), [](const Source &source) {
-               return source.table.compare(u"Security", Qt::CaseInsensitive) == 0;
-           });
+           std::none_of(tree.sources.begin(), tree.sources.end(),
+                        [](const Source &source) { return isSame(source.table, u"Security"); });
 }
 
 // A rough figure that is not too small: the text twice, as the key and in the literals, and the SQL.
