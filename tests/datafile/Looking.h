@@ -1,12 +1,9 @@
 // What the tests of the data file look at: rows as text, bytes, and a folder of one test's own.
 #pragma once
 
-#include "platform/data/engine/Database.h"
+#include "support/DataFolder.h"
 
 #include <QDir>
-#include <QFile>
-#include <QStringList>
-#include <QTemporaryDir>
 
 namespace datafiletest {
 
@@ -37,20 +34,16 @@ inline QByteArray bytesOf(const QString &path)
 }
 
 // A folder that goes with the test.
-class Folder
+class Folder : public DataFolder
 {
 public:
-    QString path(const QString &name) const { return m_folder.filePath(name); }
+    Folder() : DataFolder(Content::None) {}
     // Everything in it, hidden files and links that lead nowhere too.
     QStringList names() const
     {
-        return QDir(m_folder.path())
-            .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+        return QDir(folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                                        QDir::Name);
     }
-    QString folder() const { return m_folder.path(); }
-
-private:
-    QTemporaryDir m_folder;
 };
 
 } // namespace datafiletest

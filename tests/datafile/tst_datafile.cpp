@@ -18,276 +18,207 @@ using namespace datafiletest;
 class tst_datafile : public QObject
 {
     Q_OBJECT
-
 private Q_SLOTS:
-    void newFilesPassTheCheck();
-    void checkFinds_data();
-    void checkFinds();
-    void checkFindsATornPage();
-    void nothingIsOverwritten_data();
-    void nothingIsOverwritten();
-    void failedCreationLeavesNothing();
-    void defaults();
-    void numbersAreNeverGivenOutTwice();
-    void secondRowOfAPersonIsLeftOut();
-    void prefixQueriesUseTheIndex_data();
-    void prefixQueriesUseTheIndex();
-};
+    void newFilesPassTheCheck()
+    {
+        const Folder folder;
+        datafile::createDataFile(folder.path(u"empty.mdb"_s));
+        datafile::createSampleFile(folder.path(u"sample.mdb"_s));
+        datafile::createGeneratedFile(folder.path(u"made.mdb"_s), {.members = 20});
+        for (const QString &name : {u"empty.mdb"_s, u"sample.mdb"_s, u"made.mdb"_s})
+            QCOMPARE(datafile::faultsOf(folder.path(name)), QStringList());
+        QCOMPARE(folder.names(), (QStringList{u"empty.mdb"_s, u"made.mdb"_s, u"sample.mdb"_s})); // and no side file
 
-void tst_datafile::newFilesPassTheCheck()
-{
-    const Folder folder;
-    datafile::createDataFile(folder.path(u"empty.mdb"_s));
-    datafile::createSampleFile(folder.path(u"sample.mdb"_s));
-    datafile::createGeneratedFile(folder.path(u"made.mdb"_s), {.members = 20});
-    for (const QString &name : {u"empty.mdb"_s, u"sample.mdb"_s, u"made.mdb"_s})
-        QCOMPARE(datafile::faultsOf(folder.path(name)), QStringList());
-    QCOMPARE(folder.names(), (QStringList{u"empty.mdb"_s, u"made.mdb"_s, u"sample.mdb"_s})); // and no side file
+        data::Database file;
+        file.open(folder.path(u"empty.mdb"_s));
+        QCOMPARE(valueOf(file, "PRAGMA journal_mode"), u"delete"_s);
+        QCOMPARE(valueOf(file, "SELECT group_concat(NodeName, '') FROM NodeInformation WHERE NodeActive = 1"),
+                 u"ABCDEFGHIJKLMNOPQRSTUVWXYZ"_s);
+        QCOMPARE(valueOf(file, "SELECT count(*) FROM Security WHERE UserLevel >= 99"), u"1"_s);
+        QCOMPARE(valueOf(file, "SELECT count(*) FROM MemberInformation"), u"0"_s);
+    }
 
-    data::Database file;
-    file.open(folder.path(u"empty.mdb"_s));
-    QCOMPARE(valueOf(file, "PRAGMA journal_mode"), u"delete"_s);
-    QCOMPARE(valueOf(file, "SELECT group_concat(NodeName, '') FROM NodeInformation WHERE NodeActive = 1"),
-             u"ABCDEFGHIJKLMNOPQRSTUVWXYZ"_s);
-    QCOMPARE(valueOf(file, "SELECT count(*) FROM Security WHERE UserLevel >= 99"), u"1"_s);
-    QCOMPARE(valueOf(file, "SELECT count(*) FROM MemberInformation"), u"0"_s);
-}
-
-void tst_datafile::checkFinds_data()
-{
-    QTest::addColumn<QByteArray>("change");
-    QTest::addColumn<QString>("fault"); // how its line begins; empty for none
-    const auto row = [](const char *name, const char *change, const QString &fault) {
-        QTest::newRow(name) << QByteArray(change) << fault;
-    };
-    row("column gone", "DROP INDEX MeetingInfo_MemberId; ALTER TABLE MeetingInfo DROP COLUMN MeetingCatagory",
-        u"column [MeetingInfo].[MeetingCatagory] is missing"_s);
-    row("name mended", "ALTER TABLE Resources RENAME COLUMN DocuemntVersion TO DocumentVersion",
-        u"column [Resources].[DocuemntVersion] is missing"_s);
-    row("table gone", "DROP TABLE ReferenceInfo", u"table [ReferenceInfo] is missing"_s);
-    row("no groups", "DELETE FROM NodeInformation", u"table [NodeInformation] has no rows"_s);
-    row("index gone", "DROP INDEX MemberInformation_LastName", u"index [MemberInformation_LastName] is missing"_s);
-    row("other type",
-        "DROP TABLE CategoryInfo; CREATE TABLE CategoryInfo (CategoryName TEXT, CategoryActive TEXT DEFAULT -1);"
-        "INSERT INTO CategoryInfo VALUES ('Other', -1)",
-        u"column [CategoryInfo].[CategoryActive] is declared \"TEXT\""_s);
-    row("no default",
-        "DROP TABLE CategoryInfo; CREATE TABLE CategoryInfo (CategoryName TEXT, CategoryActive BOOLEAN);"
-        "INSERT INTO CategoryInfo VALUES ('Other', -1)",
-        u"column [CategoryInfo].[CategoryActive] lacks its default -1"_s);
-    row("numbers given out again",
-        "DROP TABLE MemberType; CREATE TABLE MemberType (MemberTypeId INTEGER PRIMARY KEY, MemberType TEXT);"
-        "INSERT INTO MemberType VALUES (1, 'Regular')",
-        u"column [MemberType].[MemberTypeId] is no key"_s);
-    row("date", "INSERT INTO Contributions (ContributionDate) VALUES ('5/1/2003')",
-        u"row 1 of [Contributions]: \"5/1/2003\" in column [ContributionDate] is not"_s);
-    row("no such day", "INSERT INTO MeetingInfo (MeetingDate) VALUES ('2003-02-30 00:00:00')",
-        u"row 1 of [MeetingInfo]: \"2003-02-30 00:00:00\""_s);
-    row("amount", "INSERT INTO Contributions (ContributionAmount) VALUES ('many')", u"row 1 of [Contributions]"_s);
-    row("17 bits", "INSERT INTO Attachments (AttachmentsName, AttachmentVersion) VALUES ('a', 32768)",
-        u"row 1 of [Attachments]: \"32768\""_s);
-    row("path", "INSERT INTO Attachments (AttachmentsName) VALUES ('../Tolmark.mdb')",
-        u"row 1 of [Attachments]: the file cannot be opened under its name \"../Tolmark.mdb\""_s);
-    row("nameless document", "INSERT INTO Resources (DocumentId) VALUES (7)", u"row 7 of [Resources]: the file"_s);
-    row("group", "INSERT INTO MemberInformation (LastName) VALUES ('élan'), ('Éclair')",
-        u"\"Éclair\" and 1 more are in no group of the explorers; INSERT INTO NodeInformation (NodeName, NodeActive) "
-        u"VALUES ('É', 1)"_s);
-    row("group switched off",
-        "UPDATE NodeInformation SET NodeActive = 0 WHERE NodeName = 'P';"
-        "INSERT INTO EventInformation (EventName) VALUES ('Picnic')",
-        u"\"Picnic\" is in no group"_s);
-    row("no last name", "INSERT INTO MemberInformation (FirstName) VALUES ('Ann')", u"\"\" is in no group"_s);
-    row("page without table", "INSERT INTO TabInfo (TabNam) VALUES ('Skills')", u"page \"Skills\" has no table"_s);
-    row("page without link", "INSERT INTO TabInfo (TabNam) VALUES ('Security')",
-        u"page \"Security\": its table lacks"_s);
-    row("field without column", "INSERT INTO FieldInfo (TabId, FieldName) VALUES (1, 'Shoe')",
-        u"page \"Personal Information\": its table has no column for the field \"Shoe\""_s);
-    row("person without row",
-        "INSERT INTO TabInfo (TabNam) VALUES ('My \"Page');"
-        "CREATE TABLE \"My \"\"Page\" (PersonalInformationId INTEGER)",
-        u"page \"My \"Page\": no row in its table for 1 of the"_s);
-    row("further table and column", "CREATE TABLE More (Id INTEGER); ALTER TABLE Security ADD COLUMN Shoe TEXT", {});
-    row("same type, other words",
-        "DROP TABLE CategoryInfo; CREATE TABLE categoryinfo (CATEGORYNAME VARCHAR(50), CategoryActive BOOL DEFAULT -1);"
-        "INSERT INTO CategoryInfo VALUES ('Other', -1)",
-        {});
-}
-
-void tst_datafile::checkFinds()
-{
-    const Folder folder;
-    QFETCH(QByteArray, change);
-    QFETCH(QString, fault);
-    datafile::createDataFile(folder.path(u"f.mdb"_s));
-    data::Database file;
-    file.open(folder.path(u"f.mdb"_s));
-    file.execute(change);
-    file.close();
-
-    const QString faults = datafile::faultsOf(folder.path(u"f.mdb"_s)).join(u'\n');
-    if (fault.isEmpty())
-        QCOMPARE(faults, QString());
-    else
-        QVERIFY2((u'\n' + faults).contains(u'\n' + fault), qPrintable(faults));
-}
-
-void tst_datafile::checkFindsATornPage()
-{
-    const Folder folder;
-    datafile::createSampleFile(folder.path(u"torn.mdb"_s));
-    QFile torn(folder.path(u"torn.mdb"_s));
-    QVERIFY(torn.open(QIODevice::ReadWrite) && torn.seek(torn.size() / 4096 / 2 * 4096));
-    torn.write(QByteArray(4096, 'x'));
-    torn.close();
-    QStringList faults;
-    if (errorNumberOf([&] { faults = datafile::faultsOf(folder.path(u"torn.mdb"_s)); }) == 0)
-        QVERIFY(!faults.isEmpty());
-    QVERIFY(errorNumberOf([&] { datafile::faultsOf(folder.path(u"none.mdb"_s)); }) != 0);
-    QVERIFY(!QFile::exists(folder.path(u"none.mdb"_s))); // looking makes nothing
-}
-
-void tst_datafile::nothingIsOverwritten_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("number");
-    QTest::newRow("file") << u"file"_s << 58;
-    QTest::newRow("folder") << u"folder"_s << 58;
-    QTest::newRow("link to a file") << u"link"_s << 58;
-    QTest::newRow("link that leads nowhere") << u"dangling"_s << 58;
-    QTest::newRow("folder that is not there") << u"no/x.mdb"_s << 76;
-    QTest::newRow("folder that is a file") << u"file/x.mdb"_s << 76;
-}
-
-void tst_datafile::nothingIsOverwritten()
-{
-    const Folder folder;
-    QFETCH(QString, name);
-    QFETCH(int, number);
-    QFile file(folder.path(u"file"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("mine");
-    file.close();
-    QVERIFY(QDir(folder.folder()).mkdir(u"folder"_s));
-    QVERIFY(QFile::link(folder.path(u"file"_s), folder.path(u"link"_s)));
-    QVERIFY(QFile::link(folder.path(u"nowhere"_s), folder.path(u"dangling"_s)));
-    const QStringList before = folder.names();
-
-    QCOMPARE(errorNumberOf([&] { datafile::createDataFile(folder.path(name)); }), number);
-    QCOMPARE(errorNumberOf([&] { datafile::createSampleFile(folder.path(name)); }), number);
-    QCOMPARE(errorNumberOf([&] { datafile::createGeneratedFile(folder.path(name), {.members = 1}); }), number);
-    QCOMPARE(folder.names(), before);
-    QCOMPARE(bytesOf(folder.path(u"file"_s)), QByteArray("mine"));
-}
-
-void tst_datafile::failedCreationLeavesNothing()
-{
-    const Folder folder;
-    const auto fail = [](data::Database &file) { file.execute("INSERT INTO NoSuchTable VALUES (1)"); };
-    QVERIFY(errorNumberOf([&] { datafile::createDataFile(folder.path(u"f.mdb"_s), fail); }) != 0);
-    QCOMPARE(folder.names(), QStringList());
-
-    // Something takes the path while the file is being made.
-    const auto takePath = [&folder](data::Database &) {
-        QFile other(folder.path(u"f.mdb"_s));
-        QVERIFY(other.open(QIODevice::WriteOnly));
-        other.write("theirs");
-    };
-    QCOMPARE(errorNumberOf([&] { datafile::createDataFile(folder.path(u"f.mdb"_s), takePath); }), 58);
-    QCOMPARE(folder.names(), QStringList{u"f.mdb"_s});
-    QCOMPARE(bytesOf(folder.path(u"f.mdb"_s)), QByteArray("theirs"));
-}
-
-// The windows add rows without these columns.
-void tst_datafile::defaults()
-{
-    const Folder folder;
-    datafile::createDataFile(folder.path(u"f.mdb"_s));
-    data::Database file;
-    file.open(folder.path(u"f.mdb"_s));
-    file.execute(
-        "DELETE FROM TabInfo; DELETE FROM FieldInfo; DELETE FROM Security; DELETE FROM \"Personal Information\"");
-    for (const QByteArray column :
-         {"-1 Active MemberInformation", "-1 Active EventInformation", "1 Active \"Personal Information\"",
-          "1 TabEdit TabInfo", "1 FieldEdit FieldInfo", "0 UserLevel Security", "today EventDate EventInformation",
-          "today ContributionDate Contributions", "now AttachmentsDate Attachments",
-          "now MeetingEnteredDate MeetingInfo", "now DocumentDate Resources"}) {
-        const QByteArrayList parts = column.split(' ');
-        const QByteArray table = column.mid(parts[0].size() + parts[1].size() + 2);
-        file.execute("DELETE FROM " + table + "; INSERT INTO " + table + " DEFAULT VALUES");
-        const QString value = valueOf(file, "SELECT " + parts[1] + " FROM " + table);
-        if (parts[0] != "today" && parts[0] != "now") {
-            QVERIFY2(value == QString::fromLatin1(parts[0]), column);
-            continue;
+    // Each change with the beginning of the line that tells it; none where the change is no fault.
+    void checkFinds()
+    {
+        for (const auto &[change, fault] :
+             {std::pair("DROP INDEX MeetingInfo_MemberId; ALTER TABLE MeetingInfo DROP COLUMN MeetingCatagory",
+                        u"column [MeetingInfo].[MeetingCatagory] is missing"_s),
+              {"ALTER TABLE Resources RENAME COLUMN DocuemntVersion TO DocumentVersion",
+               u"column [Resources].[DocuemntVersion] is missing"_s},
+              {"DROP TABLE ReferenceInfo", u"table [ReferenceInfo] is missing"_s},
+              {"DELETE FROM NodeInformation", u"table [NodeInformation] has no rows"_s},
+              {"DROP INDEX MemberInformation_LastName", u"index [MemberInformation_LastName] is missing"_s},
+              {"DROP TABLE CategoryInfo; CREATE TABLE CategoryInfo (CategoryName TEXT, CategoryActive TEXT DEFAULT -1);"
+               "INSERT INTO CategoryInfo VALUES ('Other', -1)",
+               u"column [CategoryInfo].[CategoryActive] is declared \"TEXT\""_s},
+              {"DROP TABLE CategoryInfo; CREATE TABLE CategoryInfo (CategoryName TEXT, CategoryActive BOOLEAN);"
+               "INSERT INTO CategoryInfo VALUES ('Other', -1)",
+               u"column [CategoryInfo].[CategoryActive] lacks its default -1"_s},
+              {"DROP TABLE MemberType; CREATE TABLE MemberType (MemberTypeId INTEGER PRIMARY KEY, MemberType TEXT);"
+               "INSERT INTO MemberType VALUES (1, 'Regular')",
+               u"column [MemberType].[MemberTypeId] is no key"_s},
+              {"INSERT INTO Contributions (ContributionDate) VALUES ('5/1/2003')",
+               u"row 1 of [Contributions]: \"5/1/2003\" in column [ContributionDate] is not"_s},
+              {"INSERT INTO MeetingInfo (MeetingDate) VALUES ('2003-02-30 00:00:00')",
+               u"row 1 of [MeetingInfo]: \"2003-02-30 00:00:00\""_s},
+              {"INSERT INTO Contributions (ContributionAmount) VALUES ('many')", u"row 1 of [Contributions]"_s},
+              {"INSERT INTO Attachments (AttachmentsName, AttachmentVersion) VALUES ('a', 32768)",
+               u"row 1 of [Attachments]: \"32768\""_s},
+              {"INSERT INTO Attachments (AttachmentsName) VALUES ('../Tolmark.mdb')",
+               u"row 1 of [Attachments]: the file cannot be opened under its name \"../Tolmark.mdb\""_s},
+              {"INSERT INTO Resources (DocumentId) VALUES (7)", u"row 7 of [Resources]: the file"_s},
+              {"INSERT INTO MemberInformation (LastName) VALUES ('élan'), ('Éclair')",
+               u"\"Éclair\" and 1 more are in no group of the explorers; INSERT INTO NodeInformation (NodeName, "
+               "NodeActive) VALUES ('É', 1)"_s},
+              {"UPDATE NodeInformation SET NodeActive = 0 WHERE NodeName = 'P';"
+               "INSERT INTO EventInformation (EventName) VALUES ('Picnic')",
+               u"\"Picnic\" is in no group"_s},
+              {"INSERT INTO MemberInformation (FirstName) VALUES ('Ann')", u"\"\" is in no group"_s},
+              {"INSERT INTO TabInfo (TabNam) VALUES ('Skills')", u"page \"Skills\" has no table"_s},
+              {"INSERT INTO TabInfo (TabNam) VALUES ('Security')", u"page \"Security\": its table lacks"_s},
+              {"INSERT INTO FieldInfo (TabId, FieldName) VALUES (1, 'Shoe')",
+               u"page \"Personal Information\": its table has no column for the field \"Shoe\""_s},
+              {"INSERT INTO TabInfo (TabNam) VALUES ('My \"Page');"
+               "CREATE TABLE \"My \"\"Page\" (PersonalInformationId INTEGER)",
+               u"page \"My \"Page\": no row in its table for 1 of the"_s},
+              {"CREATE TABLE More (Id INTEGER); ALTER TABLE Security ADD COLUMN Shoe TEXT", QString()},
+              {"DROP TABLE CategoryInfo; CREATE TABLE categoryinfo (CATEGORYNAME VARCHAR(50), CategoryActive BOOL "
+               "DEFAULT -1); INSERT INTO CategoryInfo VALUES ('Other', -1)",
+               QString()}}) {
+            const DataFolder folder(DataFolder::Content::Empty);
+            folder.execute(change);
+            const QString faults = datafile::faultsOf(folder.file()).join(u'\n');
+            QVERIFY2(fault.isEmpty() ? faults.isEmpty() : (u'\n' + faults).contains(u'\n' + fault),
+                     qPrintable(fault + u" is not in "_s + faults));
         }
-        const std::optional<runtime::Date> moment = runtime::Date::fromIsoText(value);
-        QVERIFY2(moment && value.size() == 19 && (parts[0] == "now" || !moment->hasTime()), qPrintable(value));
-        QVERIFY(moment->day().daysTo(QDate::currentDate()) <= 1); // midnight may have passed since
     }
-}
 
-void tst_datafile::numbersAreNeverGivenOutTwice()
-{
-    const Folder folder;
-    datafile::createSampleFile(folder.path(u"f.mdb"_s));
-    data::Database file;
-    file.open(folder.path(u"f.mdb"_s));
-    const QStringList tables = rowsOf(file, "SELECT name FROM sqlite_master WHERE sql LIKE '%AUTOINCREMENT%'");
-    QVERIFY(tables.size() >= 12);
-    for (const QString &table : tables) {
-        const QByteArray name = '"' + table.toUtf8() + '"';
-        file.execute("INSERT INTO " + name + " DEFAULT VALUES");
-        const qint64 highest = file.lastInsertRowId();
-        file.execute("DELETE FROM " + name + " WHERE rowid = " + QByteArray::number(highest));
-        file.execute("INSERT INTO " + name + " DEFAULT VALUES");
-        QVERIFY2(file.lastInsertRowId() == highest + 1, name.constData());
+    void checkFindsATornPage()
+    {
+        const Folder folder;
+        datafile::createSampleFile(folder.path(u"torn.mdb"_s));
+        QFile torn(folder.path(u"torn.mdb"_s));
+        QVERIFY(torn.open(QIODevice::ReadWrite) && torn.seek(torn.size() / 4096 / 2 * 4096));
+        torn.write(QByteArray(4096, 'x'));
+        torn.close();
+        QStringList faults;
+        if (errorNumberOf([&] { faults = datafile::faultsOf(folder.path(u"torn.mdb"_s)); }) == 0)
+            QVERIFY(!faults.isEmpty());
+        QVERIFY(errorNumberOf([&] { datafile::faultsOf(folder.path(u"none.mdb"_s)); }) != 0);
+        QVERIFY(!QFile::exists(folder.path(u"none.mdb"_s))); // looking makes nothing
     }
-}
 
-// The record window adds a new person first by the names and then, as for every page, by the person's number.
-void tst_datafile::secondRowOfAPersonIsLeftOut()
-{
-    const Folder folder;
-    datafile::createDataFile(folder.path(u"f.mdb"_s));
-    data::Database file;
-    file.open(folder.path(u"f.mdb"_s));
-    file.execute("INSERT INTO \"Personal Information\" (\"Last Name\") VALUES ('First')");
-    const QByteArray id = QByteArray::number(file.lastInsertRowId());
-    file.execute("INSERT INTO \"Personal Information\" (PersonalInformationId, \"Last Name\") VALUES (" + id +
-                 ", 'Second')");
-    QCOMPARE(valueOf(file, "SELECT \"Last Name\" FROM \"Personal Information\" WHERE PersonalInformationId = " + id),
-             u"First"_s);
-}
+    void nothingIsOverwritten()
+    {
+        const Folder folder;
+        const QString mine = folder.write(u"file"_s, "mine");
+        QVERIFY(QDir(folder.folder()).mkdir(u"folder"_s));
+        QVERIFY(QFile::link(mine, folder.path(u"link"_s)));
+        QVERIFY(QFile::link(folder.path(u"nowhere"_s), folder.path(u"dangling"_s)));
+        const QStringList before = folder.names();
+        for (const auto &[name, number] : {std::pair(u"file"_s, 58),
+                                           {u"folder"_s, 58},
+                                           {u"link"_s, 58},
+                                           {u"dangling"_s, 58},
+                                           {u"no/x.mdb"_s, 76},
+                                           {u"file/x.mdb"_s, 76}}) {
+            const QString path = folder.path(name);
+            QCOMPARE(errorNumberOf([&] { datafile::createDataFile(path); }), number);
+            QCOMPARE(errorNumberOf([&] { datafile::createSampleFile(path); }), number);
+            QCOMPARE(errorNumberOf([&] { datafile::createGeneratedFile(path, {.members = 1}); }), number);
+        }
+        QCOMPARE(folder.names(), before);
+        QCOMPARE(bytesOf(mine), QByteArray("mine"));
+    }
 
-void tst_datafile::prefixQueriesUseTheIndex_data()
-{
-    QTest::addColumn<QByteArray>("query");
-    QTest::addColumn<QString>("index");
-    const auto row = [](const char *query, const QString &index) {
-        QTest::newRow(query) << QByteArray(query) << index;
-    };
-    row("SELECT * FROM MemberInformation WHERE LastName >= 'S' AND LastName < 'T' AND Active <> 0",
-        u"MemberInformation_LastName"_s);
-    row("SELECT count(*) FROM MemberInformation WHERE LastName >= 'S' AND LastName < 'T' AND Active <> 0",
-        u"COVERING INDEX MemberInformation_LastName"_s);
-    row("SELECT * FROM Attachments WHERE AttachmentsName = 'A.txt' ORDER BY AttachmentVersion DESC",
-        u"Attachments_AttachmentsName"_s);
-    row("SELECT DISTINCT AttachmentExtension FROM Attachments", u"COVERING INDEX Attachments_AttachmentExtension"_s);
-    row("SELECT DocumentId, ObjectIndex, DocumentName, DocumentDate, DocuemntVersion, NULL FROM Resources WHERE "
-        "ObjectIndex = 5",
-        u"SEARCH Resources USING COVERING INDEX Resources_ObjectIndex"_s);
-}
+    void failedCreationLeavesNothing()
+    {
+        const Folder folder;
+        const auto fail = [](data::Database &file) { file.execute("INSERT INTO NoSuchTable VALUES (1)"); };
+        QVERIFY(errorNumberOf([&] { datafile::createDataFile(folder.path(u"f.mdb"_s), fail); }) != 0);
+        QCOMPARE(folder.names(), QStringList());
 
-void tst_datafile::prefixQueriesUseTheIndex()
-{
-    const Folder folder;
-    QFETCH(QByteArray, query);
-    QFETCH(QString, index);
-    datafile::createGeneratedFile(folder.path(u"f.mdb"_s), {.members = 200});
-    data::Database file;
-    file.open(folder.path(u"f.mdb"_s));
-    const QString plan = valueOf(file, "EXPLAIN QUERY PLAN " + query);
-    QVERIFY2(plan.contains(index) && !plan.contains(u"USE TEMP B-TREE"_s), qPrintable(plan));
-}
+        // Something takes the path while the file is being made.
+        const auto takePath = [&folder](data::Database &) { folder.write(u"f.mdb"_s, "theirs"); };
+        QCOMPARE(errorNumberOf([&] { datafile::createDataFile(folder.path(u"f.mdb"_s), takePath); }), 58);
+        QCOMPARE(folder.names(), QStringList{u"f.mdb"_s});
+        QCOMPARE(bytesOf(folder.path(u"f.mdb"_s)), QByteArray("theirs"));
+    }
+
+    // The windows add rows without these columns.
+    void defaults()
+    {
+        const DataFolder folder(DataFolder::Content::Empty);
+        folder.execute(
+            "DELETE FROM TabInfo; DELETE FROM FieldInfo; DELETE FROM Security; DELETE FROM \"Personal Information\"");
+        for (const QByteArray column :
+             {"-1 Active MemberInformation", "-1 Active EventInformation", "1 Active \"Personal Information\"",
+              "1 TabEdit TabInfo", "1 FieldEdit FieldInfo", "0 UserLevel Security", "today EventDate EventInformation",
+              "today ContributionDate Contributions", "now AttachmentsDate Attachments",
+              "now MeetingEnteredDate MeetingInfo", "now DocumentDate Resources"}) {
+            const QByteArrayList parts = column.split(' ');
+            const QByteArray table = column.mid(parts[0].size() + parts[1].size() + 2);
+            folder.execute("DELETE FROM " + table + "; INSERT INTO " + table + " DEFAULT VALUES");
+            const QString value = folder.row("SELECT " + parts[1] + " FROM " + table);
+            if (parts[0] != "today" && parts[0] != "now") {
+                QVERIFY2(value == QString::fromLatin1(parts[0]), column);
+                continue;
+            }
+            const std::optional<runtime::Date> moment = runtime::Date::fromIsoText(value);
+            QVERIFY2(moment && value.size() == 19 && (parts[0] == "now" || !moment->hasTime()), qPrintable(value));
+            QVERIFY(moment->day().daysTo(QDate::currentDate()) <= 1); // midnight may have passed since
+        }
+    }
+
+    void numbersAreNeverGivenOutTwice()
+    {
+        const DataFolder folder;
+        data::Database file;
+        file.open(folder.file());
+        const QStringList tables = rowsOf(file, "SELECT name FROM sqlite_master WHERE sql LIKE '%AUTOINCREMENT%'");
+        QVERIFY(tables.size() >= 12);
+        for (const QString &table : tables) {
+            const QByteArray name = '"' + table.toUtf8() + '"';
+            file.execute("INSERT INTO " + name + " DEFAULT VALUES");
+            const qint64 highest = file.lastInsertRowId();
+            file.execute("DELETE FROM " + name + " WHERE rowid = " + QByteArray::number(highest));
+            file.execute("INSERT INTO " + name + " DEFAULT VALUES");
+            QVERIFY2(file.lastInsertRowId() == highest + 1, name.constData());
+        }
+    }
+
+    // The record window adds a new person first by the names and then, as for every page, by the person's number.
+    void secondRowOfAPersonIsLeftOut()
+    {
+        const DataFolder folder(DataFolder::Content::Empty);
+        folder.execute("INSERT INTO [Personal Information] (PersonalInformationId, [Last Name]) VALUES (9, 'First'), "
+                       "(9, 'Second')");
+        QCOMPARE(folder.row("SELECT [Last Name] FROM [Personal Information] WHERE PersonalInformationId = 9"),
+                 u"First"_s);
+    }
+
+    void prefixQueriesUseTheIndex()
+    {
+        const Folder folder;
+        datafile::createGeneratedFile(folder.file(), {.members = 200});
+        for (const auto &[query, index] :
+             {std::pair("SELECT * FROM MemberInformation WHERE LastName >= 'S' AND LastName < 'T' AND Active <> 0",
+                        u"MemberInformation_LastName"_s),
+              {"SELECT count(*) FROM MemberInformation WHERE LastName >= 'S' AND LastName < 'T' AND Active <> 0",
+               u"COVERING INDEX MemberInformation_LastName"_s},
+              {"SELECT * FROM Attachments WHERE AttachmentsName = 'A.txt' ORDER BY AttachmentVersion DESC",
+               u"Attachments_AttachmentsName"_s},
+              {"SELECT DISTINCT AttachmentExtension FROM Attachments",
+               u"COVERING INDEX Attachments_AttachmentExtension"_s},
+              {"SELECT DocumentId, ObjectIndex, DocumentName, DocumentDate, DocuemntVersion, NULL FROM Resources WHERE "
+               "ObjectIndex = 5",
+               u"SEARCH Resources USING COVERING INDEX Resources_ObjectIndex"_s}}) {
+            const QString plan = folder.rows(QByteArray("EXPLAIN QUERY PLAN ") + query).join(u'\n');
+            QVERIFY2(plan.contains(index) && !plan.contains(u"USE TEMP B-TREE"_s), qPrintable(plan));
+        }
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_datafile)
 #include "tst_datafile.moc"
