@@ -29,13 +29,13 @@ private Q_SLOTS:
             QCOMPARE(datafile::faultsOf(folder.path(name)), QStringList());
         QCOMPARE(folder.names(), (QStringList{u"empty.mdb"_s, u"made.mdb"_s, u"sample.mdb"_s})); // and no side file
 
-        data::Database file;
-        file.open(folder.path(u"empty.mdb"_s));
-        QCOMPARE(valueOf(file, "PRAGMA journal_mode"), u"delete"_s);
-        QCOMPARE(valueOf(file, "SELECT group_concat(NodeName, '') FROM NodeInformation WHERE NodeActive = 1"),
+        const DataFolder empty(DataFolder::Content::Empty);
+        QCOMPARE(empty.row("PRAGMA journal_mode"), u"delete"_s);
+        QCOMPARE(empty.row("SELECT group_concat(NodeName, '') FROM NodeInformation WHERE NodeActive = 1"),
                  u"ABCDEFGHIJKLMNOPQRSTUVWXYZ"_s);
-        QCOMPARE(valueOf(file, "SELECT count(*) FROM Security WHERE UserLevel >= 99"), u"1"_s);
-        QCOMPARE(valueOf(file, "SELECT count(*) FROM MemberInformation"), u"0"_s);
+        QCOMPARE(
+            empty.row("SELECT count(*), (SELECT count(*) FROM MemberInformation) FROM Security WHERE UserLevel >= 99"),
+            u"1|0"_s);
     }
 
     // Each change with the beginning of the line that tells it; none where the change is no fault.
@@ -44,8 +44,6 @@ private Q_SLOTS:
         for (const auto &[change, fault] :
              {std::pair("DROP INDEX MeetingInfo_MemberId; ALTER TABLE MeetingInfo DROP COLUMN MeetingCatagory",
                         u"column [MeetingInfo].[MeetingCatagory] is missing"_s),
-              {"ALTER TABLE Resources RENAME COLUMN DocuemntVersion TO DocumentVersion",
-               u"column [Resources].[DocuemntVersion] is missing"_s},
               {"DROP TABLE ReferenceInfo", u"table [ReferenceInfo] is missing"_s},
               {"DELETE FROM NodeInformation", u"table [NodeInformation] has no rows"_s},
               {"DROP INDEX MemberInformation_LastName", u"index [MemberInformation_LastName] is missing"_s},
@@ -96,17 +94,17 @@ private Q_SLOTS:
 
     void checkFindsATornPage()
     {
-        const Folder folder;
-        datafile::createSampleFile(folder.path(u"torn.mdb"_s));
-        QFile torn(folder.path(u"torn.mdb"_s));
+        const DataFolder folder;
+        QFile torn(folder.file());
         QVERIFY(torn.open(QIODevice::ReadWrite) && torn.seek(torn.size() / 4096 / 2 * 4096));
         torn.write(QByteArray(4096, 'x'));
         torn.close();
         QStringList faults;
-        if (errorNumberOf([&] { faults = datafile::faultsOf(folder.path(u"torn.mdb"_s)); }) == 0)
+        if (errorNumberOf([&] { faults = datafile::faultsOf(folder.file()); }) == 0)
             QVERIFY(!faults.isEmpty());
-        QVERIFY(errorNumberOf([&] { datafile::faultsOf(folder.path(u"none.mdb"_s)); }) != 0);
-        QVERIFY(!QFile::exists(folder.path(u"none.mdb"_s))); // looking makes nothing
+        const QString missing = folder.path(u"none.mdb"_s);
+        QVERIFY(errorNumberOf([&] { datafile::faultsOf(missing); }) != 0);
+        QVERIFY(!QFile::exists(missing)); // looking makes nothing
     }
 
     void nothingIsOverwritten()

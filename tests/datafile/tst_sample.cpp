@@ -112,21 +112,21 @@ private Q_SLOTS:
                                                                       .attachments = 600,
                                                                       .attachmentBytes = 12'345,
                                                                       .events = 12});
-        QCOMPARE(folder.row("SELECT (SELECT count(*) FROM MemberInformation), (SELECT count(*) FROM MemberInterest), "
-                            "(SELECT count(*) FROM Contributions), (SELECT count(*) FROM EventMemberInfo), "
-                            "(SELECT count(*) FROM MeetingInfo), (SELECT count(*) FROM EventInformation)"),
-                 u"3000|17|16|15|14|12"_s);
+        QCOMPARE(folder.row("SELECT (SELECT count(*) FROM MemberInterest), (SELECT count(*) FROM Contributions), "
+                            "(SELECT count(*) FROM EventMemberInfo), (SELECT count(*) FROM MeetingInfo), "
+                            "(SELECT count(*) FROM EventInformation)"),
+                 u"17|16|15|14|12"_s);
         QCOMPARE(folder.row("SELECT count(*), min(length(Attachments)), max(length(Attachments)), "
                             "max(hex(substr(Attachments, -1))) FROM Attachments"),
                  u"600|12346|12346|00"_s);
-        QCOMPARE(folder.row("SELECT count(*) FROM MemberInformation WHERE MemberId <= 2000 AND LastName NOT LIKE 'Q%'"),
-                 u"0"_s);
-        QCOMPARE(folder.row("SELECT count(DISTINCT substr(LastName, 1, 1)) > 15 FROM MemberInformation"), u"1"_s);
-        QCOMPARE(folder.row("SELECT sum(Active = 0) BETWEEN 240 AND 360 FROM MemberInformation"), u"1"_s);
+        QCOMPARE(
+            folder.row("SELECT count(*), sum(MemberId <= 2000 AND LastName LIKE 'Q%'), sum(Active = 0) BETWEEN 240 "
+                       "AND 360, count(DISTINCT substr(LastName, 1, 1)) > 15 FROM MemberInformation"),
+            u"3000|2000|1|1"_s);
         // As uploads count them: the rows of a name are its versions 1, 2, ...
-        QCOMPARE(folder.row("SELECT count(*) FROM (SELECT 1 FROM Attachments GROUP BY AttachmentsName "
-                            "HAVING max(AttachmentVersion) <> count(*))"),
-                 u"0"_s);
+        QCOMPARE(folder.row("SELECT 1 FROM Attachments GROUP BY AttachmentsName "
+                            "HAVING max(AttachmentVersion) <> count(*)"),
+                 QString());
     }
 
     void generatorRefuses()

@@ -46,7 +46,9 @@ private Q_SLOTS:
         m_folder.reset();
     }
 
-    void editingUnlocksAndTakesTheFixedPagesAway()
+    // The selected page's values come from its boxes, the others' from the rows; of these the change of pages has left
+    // out the first one.
+    void editingAndSaving()
     {
         OpenRecord record;
         record.type(City, u"Bath"_s);
@@ -54,34 +56,35 @@ private Q_SLOTS:
         OpenRecord::press(record->cmdEdit);
         QCOMPARE(record.buttons(), u"- Save - -"_s);
         QCOMPARE(record.tabs(), (QStringList{personal, volunteer}));
+        record.type(Title, u"Dr."_s);
+        record.type(FirstName, u"Hel'en"_s);
         record.turnTo(volunteer);
         record.type(Driver, u"No"_s);
         record.turnTo(personal);
         record.turnTo(volunteer);
         QCOMPARE(record.texts(), u"Organising; first aid|Evenings|No|1994"_s);
-    }
-
-    // The selected page's values come from its boxes, the others' from the rows; of these the change of pages has left
-    // out the first one.
-    void savingWritesEveryPage()
-    {
-        OpenRecord record;
-        OpenRecord::press(record->cmdEdit);
-        record.type(Title, u"Dr."_s);
-        record.type(FirstName, u"Hel'en"_s);
-        record.turnTo(volunteer);
         record.type(Since, u"1995"_s);
         OpenRecord::press(record->cmdDelete);
         QCOMPARE(m_folder->rows("SELECT Title, [First Name], Comments FROM [Personal Information] "
                                 "WHERE PersonalInformationId IN (2, 3)"),
                  (QStringList{u"Ms.|Hel'en|Coordinates the volunteers"_s, u"Mr.|Émile|"_s}));
-        QCOMPARE(m_folder->row("SELECT Skills, Since FROM [Volunteer Profile] WHERE PersonalInformationId = 2"),
-                 u"Organising; first aid|1995"_s);
+        QCOMPARE(m_folder->row("SELECT Skills, Driver, Since FROM [Volunteer Profile] WHERE PersonalInformationId = 2"),
+                 u"Organising; first aid|No|1995"_s);
         QCOMPARE(record->EditMode, QString());
         QCOMPARE(record.buttons(), u"Edit Delete - &Close"_s);
         QCOMPARE(record.tabs(), (QStringList{personal, volunteer, u"Attachments"_s, u"Resources"_s}));
         record.turnTo(personal);
         QVERIFY(!record.box(City)->isReadOnly());
+        OpenRecord::press(record->cmdEdit); // takes three tabs away, though two fixed pages stand
+        QCOMPARE(record.tabs(), QStringList(personal));
+        record.type(Since, u"1996"_s); // on the page that is gone: no tab is selected
+        OpenRecord::press(record->cmdDelete);
+        QCOMPARE(m_folder->row("SELECT City, Since FROM [Personal Information] JOIN [Volunteer Profile] "
+                               "USING (PersonalInformationId) WHERE PersonalInformationId = 2"),
+                 u"Portland|1995"_s);
+        QCOMPARE(record.tabs(), (QStringList{personal, u"Attachments"_s, u"Resources"_s}));
+        record.turnTo(personal);
+        QCOMPARE(record.box(City)->text(), u"Portland"_s);
     }
 
     // What nobody touched comes back byte for byte, also what no box of one line can show; Null becomes empty.
@@ -107,25 +110,6 @@ private Q_SLOTS:
         QCOMPARE(m_folder->row("SELECT Title, [Address Two], Driver FROM [Personal Information] JOIN "
                                "[Volunteer Profile] USING (PersonalInformationId) WHERE PersonalInformationId = 4"),
                  u"Ms.||"_s);
-    }
-
-    // After a save two fixed pages stand, and editing takes three tabs away.
-    void editingAgainTakesAPageOfTheFormAway()
-    {
-        OpenRecord record;
-        OpenRecord::press(record->cmdEdit);
-        record.turnTo(volunteer);
-        OpenRecord::press(record->cmdDelete);
-        OpenRecord::press(record->cmdEdit);
-        QCOMPARE(record.tabs(), QStringList(personal));
-        record.type(Since, u"1996"_s); // on the page that is gone: no tab is selected
-        OpenRecord::press(record->cmdDelete);
-        QCOMPARE(m_folder->row("SELECT City, Since FROM [Personal Information] JOIN [Volunteer Profile] "
-                               "USING (PersonalInformationId) WHERE PersonalInformationId = 2"),
-                 u"Portland|1994"_s);
-        QCOMPARE(record.tabs(), (QStringList{personal, u"Attachments"_s, u"Resources"_s}));
-        record.turnTo(personal);
-        QCOMPARE(record.box(City)->text(), u"Portland"_s);
     }
 
     void editingEndsTheProgramWhereARowOrColumnIsMissing()
@@ -212,7 +196,7 @@ private Q_SLOTS:
     {
         m_folder->execute("INSERT INTO Attachments (PersonalInformationId, AttachmentsName, AttachmentVersion, "
                           "Attachments) VALUES (3, 'a.txt', 1, x'00'), (2, 'a.txt', 1, x'6F6C6400'), "
-                          "(2, 'a.txt', 2, x'6E657700'), (2, 'it''s', 1, x'00')");
+                          "(2, 'a.txt', 2, x'6E657700')");
         OpenRecord record;
         record.turnTo(u"Attachments"_s);
         QTest::mouseClick(record->ListView1->viewport(), Qt::RightButton, {}, QPoint(20, 10));
@@ -229,42 +213,33 @@ private Q_SLOTS:
         QVERIFY(QDir(m_folder->path(u"temp"_s)).removeRecursively());
         choose(record, 1, "MnuView");
         QCOMPARE(m_errors->takeNumber(), 76);
-        choose(record, 3, "MnuView");
-        QCOMPARE(m_errors->takeNumber(), -2147217900);
         m_folder->execute("DELETE FROM Attachments");
         choose(record, 1, "MnuSaveAs");
         QCOMPARE(m_errors->takeNumber(), 3021);
     }
 
-    void aDocumentIsAssignedInTheLibrary()
-    {
-        OpenRecord record;
-        record.turnTo(u"Resources"_s);
-        QTest::mouseClick(record->ListView1->viewport(), Qt::RightButton, {}, QPoint(20, 10));
-        QVERIFY(!record->MnuOptionsView->isVisible());
-        OpenRecord::press(record->cmdEdit);
-        const auto library = openedWindow<frmDocumentExp>();
-        QVERIFY(library && !library->adminFunction);
-        QCOMPARE(library->Caption() + library->PersonalInformationId, u"Resource Manager Browser2"_s);
-    }
-
-    void anEventIsShownByADoubleClick()
+    void aDocumentIsAssignedAndAnEventShown()
     {
         const UnitedStates region;
         OpenRecord record;
         record.turnTo(u"Resources"_s);
+        QTest::mouseClick(record->ListView1->viewport(), Qt::RightButton, {}, QPoint(20, 10));
+        QVERIFY(!record->MnuOptionsView->isVisible());
         doubleClick(record);
+        OpenRecord::press(record->cmdEdit);
+        const auto library = openedWindow<frmDocumentExp>();
+        QVERIFY(library && !library->adminFunction);
+        QCOMPARE(library->Caption() + library->PersonalInformationId, u"Resource Manager Browser2"_s);
         record.turnTo(u"Conferences/Meetings"_s);
         OpenRecord::press(record->cmdEdit);
         QVERIFY(!openedWindow<frmMeeting>()); // neither of these
         doubleClick(record);
         const auto note = openedWindow<frmMeeting>();
         QVERIFY(note && !note->AddView);
-        QCOMPARE(note->Caption(), u"View Event"_s);
-        QCOMPARE((QStringList{note->EventDate, note->EventType, note->EventStartTime, note->EventEndTime,
-                              note->EventPurpose, note->EventCategory, note->EventNotes}),
-                 (QStringList{u"4/2/2003"_s, u"Member Conference"_s, u"9:00:00 AM"_s, u"10:45:00 AM"_s, u"Open house"_s,
-                              u"Volunteering"_s, u"Who brings what."_s}));
+        QCOMPARE((QStringList{note->Caption(), note->EventDate, note->EventType, note->EventStartTime,
+                              note->EventEndTime, note->EventPurpose, note->EventCategory, note->EventNotes}),
+                 (QStringList{u"View Event"_s, u"4/2/2003"_s, u"Member Conference"_s, u"9:00:00 AM"_s, u"10:45:00 AM"_s,
+                              u"Open house"_s, u"Volunteering"_s, u"Who brings what."_s}));
         OpenRecord without(5);
         without.turnTo(u"Conferences/Meetings"_s);
         doubleClick(without);

@@ -85,33 +85,25 @@ private Q_SLOTS:
         QCOMPARE(runtime::FreeFile(), qint16(1));
     }
 
-    void scans_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<qint32>("anyCasePlace");
-        QTest::addColumn<qint32>("exactPlace");
-        QTest::newRow("no second look at a byte") << QByteArray("aaab....") << u"aab"_s << -1 << -1;
-        QTest::newRow("ends with the file") << QByteArray("a word") << u"word"_s << -1 << -1;
-        QTest::newRow("blanks round it") << QByteArray("xword.") << u"  word "_s << 1 << 1;
-        QTest::newRow("a tab is no blank") << QByteArray("word.") << u"word\t"_s << -1 << -1;
-        QTest::newRow("in quotes") << QByteArray("a word.") << u"\" word\""_s << 1 << 1;
-        QTest::newRow("quotes alone") << QByteArray("a \"\" b") << u"\"\""_s << 2 << 2;
-        // The code page has both cases of é, œ and ÿ, no capital of ß and µ, and no Ω, ſ and ı, whose capitals it may
-        // have.
-        QTest::newRow("letters with accents") << QByteArray("caf\xe9.") << u"CAFÉ"_s << 0 << -1;
-        QTest::newRow("capitals in the file") << QByteArray("\x8c\x9fx.") << u"œÿx"_s << 0 << -1;
-        QTest::newRow("sharp s is not two") << QByteArray("\xdf"
-                                                          "strasse.")
-                                            << u"ß"_s << 0 << 0;
-        QTest::newRow("capital of the code page alone") << QByteArray("SI.") << u"ſı"_s << -1 << -1;
-    }
+    // Content, text, and the places of the hit without and with regard to the case.
     void scans()
     {
-        QFETCH(QByteArray, content);
-        QFETCH(QString, text);
-        QTEST(scanned(content, text, anyCase), "anyCasePlace");
-        QTEST(scanned(content, text, exactCase), "exactPlace");
+        // The code page has both cases of é, œ and ÿ, no capital of ß and µ, and no Ω, ſ and ı, whose capitals it may
+        // have.
+        for (const auto &[content, text, anyCasePlace, exactPlace] : {std::tuple("xword.", u"  word "_s, 1, 1),
+                                                                      {"word.", u"word\t"_s, -1, -1},
+                                                                      {"a word.", u"\" word\""_s, 1, 1},
+                                                                      {"a \"\" b", u"\"\""_s, 2, 2},
+                                                                      {"caf\xe9.", u"CAFÉ"_s, 0, -1},
+                                                                      {"\x8c\x9fx.", u"œÿx"_s, 0, -1},
+                                                                      {"\xdfstr.", u"ß"_s, 0, 0},
+                                                                      {"SI.", u"ſı"_s, -1, -1}}) {
+            QCOMPARE(scanned(content, text, anyCase), anyCasePlace);
+            QCOMPARE(scanned(content, text, exactCase), exactPlace);
+        }
+        QCOMPARE(scanned("x", QString(32'767, u'x'), anyCase), -1);
+        QCOMPARE(errorOf([&] { scanned("x", QString(32'768, u'x'), anyCase); }), u"6 Overflow"_s);
+        runtime::CloseFile(1);
     }
 
     // By any value but 0 and 1 the case is ignored in the file, and the text compared as it stands.
@@ -179,13 +171,6 @@ private Q_SLOTS:
         }
     }
 
-    void refusesTooLongAText()
-    {
-        QCOMPARE(scanned("x", QString(32'767, u'x'), anyCase), -1);
-        QCOMPARE(errorOf([&] { scanned("x", QString(32'768, u'x'), anyCase); }), u"6 Overflow"_s);
-        runtime::CloseFile(1);
-    }
-
     // What it finds by which text is seen in the window of the search.
     void leavesTheHitsOnTheLastOne()
     {
@@ -225,6 +210,8 @@ private Q_SLOTS:
         }
         QVERIFY(QDir(m_folder->path(u"temp/Search"_s)).removeRecursively());
         QVERIFY(errorOf([&] { search.cmdOpendb(u"a"_s, allAttachments); }).startsWith(u"76 "));
+        QCOMPARE(errorOf([&] { search.ViewDocument(u"1"_s); }), u"424 Object required"_s);
+        QVERIFY(errorOf([&] { search.ViewDocument(u"'"_s); }).startsWith(u"-2147217900 "));
     }
 
     void upLoads()
@@ -290,13 +277,6 @@ private Q_SLOTS:
         rows.MoveNext();
         QVERIFY(!functions.DownLoadDoc(rows, target));
         closeLeftOpen(1);
-    }
-
-    void viewsNothing()
-    {
-        ClsBinaryFunctions functions;
-        QCOMPARE(errorOf([&] { functions.ViewDocument(u"1"_s); }), u"424 Object required"_s);
-        QVERIFY(errorOf([&] { functions.ViewDocument(u"'"_s); }).startsWith(u"-2147217900 "));
     }
 
 private:
