@@ -169,23 +169,6 @@ private Q_SLOTS:
         }
     }
 
-    void numbersAreNeverGivenOutTwice()
-    {
-        const DataFolder folder;
-        data::Database file;
-        file.open(folder.file());
-        const QStringList tables = rowsOf(file, "SELECT name FROM sqlite_master WHERE sql LIKE '%AUTOINCREMENT%'");
-        QVERIFY(tables.size() >= 12);
-        for (const QString &table : tables) {
-            const QByteArray name = '"' + table.toUtf8() + '"';
-            file.execute("INSERT INTO " + name + " DEFAULT VALUES");
-            const qint64 highest = file.lastInsertRowId();
-            file.execute("DELETE FROM " + name + " WHERE rowid = " + QByteArray::number(highest));
-            file.execute("INSERT INTO " + name + " DEFAULT VALUES");
-            QVERIFY2(file.lastInsertRowId() == highest + 1, name.constData());
-        }
-    }
-
     // The record window adds a new person first by the names and then, as for every page, by the person's number.
     void secondRowOfAPersonIsLeftOut()
     {
