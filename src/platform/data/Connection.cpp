@@ -41,7 +41,7 @@ QString connectionValue(QStringView settings, QStringView keyword)
             break;
         const QStringView known = settings.sliced(at, equals - at);
         at = equals + 1;
-        const QString value = valueAt(settings, at);
+        QString value = valueAt(settings, at);
         if (known.trimmed().compare(keyword, Qt::CaseInsensitive) == 0)
             return value;
     }

@@ -87,8 +87,9 @@ bool roundsUp(const QString &digits, qsizetype at, bool odd)
 Currency Currency::fromDouble(double amount)
 {
     // Whole and fraction by themselves: their product with the scale would have more digits than a double.
+    constexpr qint64 largestWhole = std::numeric_limits<qint64>::max() / scale;
     const double whole = std::trunc(amount);
-    if (!(std::abs(whole) <= double(std::numeric_limits<qint64>::max() / scale)))
+    if (!(std::abs(whole) <= double(largestWhole)))
         throw RuntimeError(Overflow);
     const auto fraction = qint64(std::nearbyint((amount - whole) * double(scale)));
     qint64 scaled = 0;
