@@ -74,33 +74,28 @@ private Q_SLOTS:
             resultOf([&] { runtime::CloseFile(handle); });
     }
 
-    void opens_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("toRead");
-        QTest::addColumn<QString>("toWrite");
-        QTest::newRow("file, nothing is cut off") << u"Letter.doc"_s << u"10"_s << u"10"_s;
-        QTest::newRow("another case, a backslash") << u"letter\\DOC"_s << u"error 53"_s << u"0"_s;
-        QTest::newRow("missing") << u"none"_s << u"error 53"_s << u"0"_s;
-        QTest::newRow("too long a name") << QString(256, u'x') << u"error 53"_s << u"error 75"_s;
-        QTest::newRow("missing folder") << u"none/Letter.doc"_s << u"error 76"_s << u"error 76"_s;
-        QTest::newRow("below a file") << u"Letter.doc/none"_s << u"error 76"_s << u"error 76"_s;
-        QTest::newRow("folder") << u"Folder"_s << u"error 75"_s << u"error 75"_s;
-        QTest::newRow("no name") << u""_s << u"error 75"_s << u"error 75"_s;
-        QTest::newRow("no name in a missing folder") << u"none/"_s << u"error 76"_s << u"error 76"_s;
-        QTest::newRow("pipe") << u"pipe"_s << u"error 75"_s << u"error 75"_s;
-    }
     void opens()
     {
-        QFETCH(QString, name);
-        const auto sizeOf = [&](qint16 handle, BinaryAccess access) {
+        const auto sizeOf = [this](const QString &name, qint16 handle, BinaryAccess access) {
             return outcomeOf([&] {
                 runtime::OpenBinary(inFolder(name), handle, access);
                 return int(runtime::LOF(handle));
             });
         };
-        QTEST(sizeOf(1, BinaryAccess::Read), "toRead");
-        QTEST(sizeOf(2, BinaryAccess::ReadWrite), "toWrite");
+        for (const auto &[name, toRead, toWrite] :
+             {std::tuple(u"Letter.doc"_s, u"10"_s, u"10"_s), std::tuple(u"letter\\DOC"_s, u"error 53"_s, u"0"_s),
+              std::tuple(u"none"_s, u"error 53"_s, u"0"_s),
+              std::tuple(QString(256, u'x'), u"error 53"_s, u"error 75"_s),
+              std::tuple(u"no folder/Letter.doc"_s, u"error 76"_s, u"error 76"_s),
+              std::tuple(u"Letter.doc/none"_s, u"error 76"_s, u"error 76"_s),
+              std::tuple(u"Folder"_s, u"error 75"_s, u"error 75"_s),
+              std::tuple(QString(), u"error 75"_s, u"error 75"_s),
+              std::tuple(u"no folder/"_s, u"error 76"_s, u"error 76"_s),
+              std::tuple(u"pipe"_s, u"error 75"_s, u"error 75"_s)}) {
+            cleanup();
+            QCOMPARE(sizeOf(name, 1, BinaryAccess::Read), toRead);
+            QCOMPARE(sizeOf(name, 2, BinaryAccess::ReadWrite), toWrite);
+        }
         QCOMPARE(contentOf(u"Letter.doc"_s), "0123456789");
     }
 

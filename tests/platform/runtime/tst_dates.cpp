@@ -106,39 +106,27 @@ private Q_SLOTS:
             QCOMPARE(read(text), u"no date"_s);
     }
 
-    void countsBoundaries_data()
-    {
-        QTest::addColumn<QString>("interval");
-        QTest::addColumn<QString>("from");
-        QTest::addColumn<QString>("to");
-        QTest::addColumn<QString>("count");
-
-        const auto row = [](const char *interval, const char *from, const char *to, const char *count) {
-            QTest::addRow("%s %s, %s", interval, from, to) << QString::fromLatin1(interval) << QString::fromLatin1(from)
-                                                           << QString::fromLatin1(to) << QString::fromLatin1(count);
-        };
-        row("n", "2001-01-31 10:00:59", "2001-01-31 10:01:00", "1");
-        row("s", "2001-01-31 10:00:50", "2001-01-31 10:01:10", "20");
-        row("n", "2001-01-31 10:01:00", "2001-01-31 10:00:59", "-1");
-        row("N", "2001-01-31 23:00:00", "2001-02-02 01:00:00", "1560");
-        row("n", "1899-12-29 23:59:59", "1899-12-30 00:00:01", "1");
-        row("h", "2001-01-31 10:59:59", "2001-01-31 11:00:00", "1");
-        row("d", "1899-12-29 18:00:00", "1899-12-30 06:00:00", "1");
-        row("m", "2000-12-31", "2001-01-01", "1");
-        row("yyyy", "2000-12-31 23:59:59", "2001-01-01", "1");
-        row("s", "1970-01-01", "2038-01-19 03:14:07", "2147483647");
-        row("s", "1970-01-01", "2038-01-19 03:14:08", "error 6");
-        row("s", "2038-01-19 03:14:08", "1970-01-01", "-2147483648");
-        row("minutes", "2001-01-31", "2001-01-31", "error 5");
-        row("", "2001-01-31", "2001-01-31", "error 5");
-    }
     void countsBoundaries()
     {
-        QFETCH(QString, interval);
-        QFETCH(QString, from);
-        QFETCH(QString, to);
-        QTEST(outcomeOf([&] { return runtime::DateDiff(interval, *Date::fromIsoText(from), *Date::fromIsoText(to)); }),
-              "count");
+        for (const auto &[interval, from, to, count] :
+             {std::tuple(u"n"_s, u"2001-01-31 10:00:59"_s, u"2001-01-31 10:01:00"_s, u"1"_s),
+              std::tuple(u"s"_s, u"2001-01-31 10:00:50"_s, u"2001-01-31 10:01:10"_s, u"20"_s),
+              std::tuple(u"n"_s, u"2001-01-31 10:01:00"_s, u"2001-01-31 10:00:59"_s, u"-1"_s),
+              std::tuple(u"N"_s, u"2001-01-31 23:00:00"_s, u"2001-02-02 01:00:00"_s, u"1560"_s),
+              std::tuple(u"n"_s, u"1899-12-29 23:59:59"_s, u"1899-12-30 00:00:01"_s, u"1"_s),
+              std::tuple(u"h"_s, u"2001-01-31 10:59:59"_s, u"2001-01-31 11:00:00"_s, u"1"_s),
+              std::tuple(u"d"_s, u"1899-12-29 18:00:00"_s, u"1899-12-30 06:00:00"_s, u"1"_s),
+              std::tuple(u"m"_s, u"2000-12-31"_s, u"2001-01-01"_s, u"1"_s),
+              std::tuple(u"yyyy"_s, u"2000-12-31 23:59:59"_s, u"2001-01-01"_s, u"1"_s),
+              std::tuple(u"s"_s, u"1970-01-01"_s, u"2038-01-19 03:14:07"_s, u"2147483647"_s),
+              std::tuple(u"s"_s, u"1970-01-01"_s, u"2038-01-19 03:14:08"_s, u"error 6"_s),
+              std::tuple(u"s"_s, u"2038-01-19 03:14:08"_s, u"1970-01-01"_s, u"-2147483648"_s),
+              std::tuple(u"minutes"_s, u"2001-01-31"_s, u"2001-01-31"_s, u"error 5"_s),
+              std::tuple(u""_s, u"2001-01-31"_s, u"2001-01-31"_s, u"error 5"_s)}) {
+            const Date first = *Date::fromIsoText(from);
+            const Date second = *Date::fromIsoText(to);
+            QCOMPARE(outcomeOf([&, &unit = interval] { return runtime::DateDiff(unit, first, second); }), count);
+        }
     }
 };
 

@@ -50,7 +50,6 @@ private Q_SLOTS:
     {
         QTest::addColumn<Value>("value");
         QTest::addColumn<QString>("text");
-
         const auto row = [](const char *name, const Value &value, const char *text) {
             QTest::newRow(name) << value << QString::fromLatin1(text);
         };
@@ -75,26 +74,21 @@ private Q_SLOTS:
         QTEST(outcomeOf([&] { return runtime::FormatCurrency(value); }), "text");
     }
 
-    void writesAmountsOfOtherRegions_data()
-    {
-        QTest::addColumn<QString>("region");
-        QTest::addColumn<QString>("positive"); // of 1234567.895
-        QTest::addColumn<QString>("negative"); // of -0.5
-
-        QTest::newRow("minus before the sign") << u"en_GB"_s << u"£1,234,567.90"_s << u"-£0.50"_s;
-        QTest::newRow("sign behind") << u"de_DE"_s << u"1.234.567,90\u00a0€"_s << u"-0,50\u00a0€"_s;
-        QTest::newRow("minus between") << u"pt_BR"_s << u"R$\u00a01.234.567,90"_s << u"R$\u00a0-0,50"_s;
-        QTest::newRow("no decimals") << u"ja_JP"_s << u"￥1,234,568"_s << u"-￥1"_s;
-        QTest::newRow("groups of two") << u"hi_IN"_s << u"₹12,34,567.90"_s << u"₹-0.50"_s;
-        QTest::newRow("three decimals, digits of its own")
-            << u"ar_KW"_s << u"١٬٢٣٤٬٥٦٧٫٨٩٥\u00a0د.ك.\u200f"_s << u"\u061c-٠٫٥٠٠\u00a0د.ك.\u200f"_s;
-    }
     void writesAmountsOfOtherRegions()
     {
-        QFETCH(QString, region);
-        QLocale::setDefault(QLocale(region));
-        QTEST(runtime::FormatCurrency(Value(Currency::fromScaled(12'345'678'950))), "positive");
-        QTEST(runtime::FormatCurrency(Value(Currency::fromScaled(-5'000))), "negative");
+        const Value positive(Currency::fromScaled(12'345'678'950));
+        const Value negative(Currency::fromScaled(-5'000));
+        for (const auto &[region, ofPositive, ofNegative] :
+             {std::tuple(u"en_GB"_s, u"£1,234,567.90"_s, u"-£0.50"_s),
+              std::tuple(u"de_DE"_s, u"1.234.567,90\u00a0€"_s, u"-0,50\u00a0€"_s),
+              std::tuple(u"pt_BR"_s, u"R$\u00a01.234.567,90"_s, u"R$\u00a0-0,50"_s),
+              std::tuple(u"ja_JP"_s, u"￥1,234,568"_s, u"-￥1"_s),
+              std::tuple(u"hi_IN"_s, u"₹12,34,567.90"_s, u"₹-0.50"_s),
+              std::tuple(u"ar_KW"_s, u"١٬٢٣٤٬٥٦٧٫٨٩٥\u00a0د.ك.\u200f"_s, u"\u061c-٠٫٥٠٠\u00a0د.ك.\u200f"_s)}) {
+            QLocale::setDefault(QLocale(region));
+            QCOMPARE(runtime::FormatCurrency(positive), ofPositive);
+            QCOMPARE(runtime::FormatCurrency(negative), ofNegative);
+        }
     }
 
     void cleanup() { QLocale::setDefault(QLocale::c()); }
