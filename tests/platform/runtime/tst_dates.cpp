@@ -25,44 +25,30 @@ private Q_SLOTS:
         QLocale::setDefault(QLocale::c());
     }
 
-    void readsDates_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("moment");
-
-        const auto day = [](const char *written, const char *iso) {
-            QTest::newRow(written) << QString::fromUtf8(written) << QString::fromLatin1(iso);
-        };
-        day("1/31/2001", "2001-01-31 00:00:00");
-        day("31/1/2001", "2001-01-31 00:00:00"); // there is no month 31
-        day("1-31-01", "2001-01-31 00:00:00");
-        day("1/1/29", "2029-01-01 00:00:00");
-        day("1/1/30", "1930-01-01 00:00:00");
-        day("2001-01-31", "2001-01-31 00:00:00");
-        day("2001-01-31 17:04:09", "2001-01-31 17:04:09");
-        day("1/31", "2003-01-31 00:00:00");
-        day("Jan 31, 2001", "2001-01-31 00:00:00");
-        day("31 january 01", "2001-01-31 00:00:00");
-        day("March 3", "2003-03-03 00:00:00");
-        day("1/1/100", "0100-01-01 00:00:00");
-        day("12/31/9999", "9999-12-31 00:00:00");
-
-        day("10:05", "1899-12-30 10:05:00");
-        day("5 PM", "1899-12-30 17:00:00");
-        day("12:00 am", "1899-12-30 00:00:00");
-        day("12:30PM", "1899-12-30 12:30:00");
-        day("1/31/2001 10:05:00 AM", "2001-01-31 10:05:00");
-        day("36922.25", "2001-01-31 06:00:00"); // a number of days
-
-        for (const char *written :
-             {"", " ", "2/29/2001", "13/32/2001", "0/1/2001", "2001-31-01x", "1/2/3/4", "Jan", "Janus 3 2001", "25:00",
-              "10:60", "13 PM", "10:00 11:00", "Monday, January 1, 2001", "noon", "the first dry weekend"})
-            day(written, "error 13");
-    }
     void readsDates()
     {
-        QFETCH(QString, text);
-        QTEST(outcomeOf([&] { return runtime::toDate(Value(text)).toIsoText(); }), "moment");
+        const auto read = [](const QString &text) {
+            return text + u": "_s + outcomeOf([&] { return runtime::toDate(Value(text)).toIsoText(); });
+        };
+        for (const auto &[written, moment] :
+             {std::pair(u"1/31/2001"_s, u"2001-01-31 00:00:00"_s), std::pair(u"31/1/2001"_s, u"2001-01-31 00:00:00"_s),
+              std::pair(u"1-31-01"_s, u"2001-01-31 00:00:00"_s), std::pair(u"1/1/29"_s, u"2029-01-01 00:00:00"_s),
+              std::pair(u"1/1/30"_s, u"1930-01-01 00:00:00"_s), std::pair(u"2001-01-31"_s, u"2001-01-31 00:00:00"_s),
+              std::pair(u"2001-01-31 17:04:09"_s, u"2001-01-31 17:04:09"_s),
+              std::pair(u"1/31"_s, u"2003-01-31 00:00:00"_s), std::pair(u"Jan 31, 2001"_s, u"2001-01-31 00:00:00"_s),
+              std::pair(u"31 january 01"_s, u"2001-01-31 00:00:00"_s),
+              std::pair(u"March 3"_s, u"2003-03-03 00:00:00"_s), std::pair(u"1/1/100"_s, u"0100-01-01 00:00:00"_s),
+              std::pair(u"12/31/9999"_s, u"9999-12-31 00:00:00"_s), std::pair(u"10:05"_s, u"1899-12-30 10:05:00"_s),
+              std::pair(u"5 PM"_s, u"1899-12-30 17:00:00"_s), std::pair(u"12:00 am"_s, u"1899-12-30 00:00:00"_s),
+              std::pair(u"12:30PM"_s, u"1899-12-30 12:30:00"_s),
+              std::pair(u"1/31/2001 10:05:00 AM"_s, u"2001-01-31 10:05:00"_s),
+              std::pair(u"36922.25"_s, u"2001-01-31 06:00:00"_s)})
+            QCOMPARE(read(written), written + u": "_s + moment);
+        for (const QString &written :
+             {u""_s, u" "_s, u"2/29/2001"_s, u"13/32/2001"_s, u"0/1/2001"_s, u"2001-31-01x"_s, u"1/2/3/4"_s, u"Jan"_s,
+              u"Janus 3 2001"_s, u"25:00"_s, u"10:60"_s, u"13 PM"_s, u"10:00 11:00"_s, u"Monday, January 1, 2001"_s,
+              u"noon"_s, u"the first dry weekend"_s})
+            QCOMPARE(read(written), written + u": error 13"_s);
     }
 
     void readsDatesOfOtherRegions()
