@@ -22,8 +22,8 @@ private Q_SLOTS:
     void init();
 
     void storesAGeneratedTable();
-    void refuses_data();
-    void refuses();
+    void refusesTables();
+    void refusesColumns();
     void takesAnyName();
     void evaluatesDefaults();
     void readsWhatIsStored();
@@ -139,72 +139,64 @@ void CatalogTest::storesAGeneratedTable()
     QCOMPARE(added(), Value(42));
 }
 
-void CatalogTest::refuses_data()
+void CatalogTest::refusesTables()
 {
-    QTest::addColumn<QString>("table");
-    QTest::addColumn<QString>("column");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<Value>("property"); // "AutoIncrement" or "Default"
-    QTest::addColumn<QString>("error");
-
-    const auto table = [](const QString &name, const QString &error) {
-        QTest::addRow("table '%s'", qUtf8Printable(name)) << name << u"c"_s << 202 << Value() << error.arg(name);
-    };
     const QString exists = u"-2147217857 Table '%1' already exists."_s;
-    table(u"PERSONAL information"_s, exists);
-    table(u"Names"_s, exists);           // a view
-    table(u"FieldInfo_TabId"_s, exists); // an index
-    table(QString(), invalidName);
-    table(u"a]b"_s, invalidName);
-    table(u"SQLite_x"_s, invalidName);
-    table(u"a\0b"_s, invalidName);
-    const auto column = [](const QString &name, int type, const Value &property, const QString &error) {
-        QTest::addRow("column '%s' %d", qUtf8Printable(name), type) << u"T"_s << name << type << property << error;
-    };
-    const QString refused = u"-2147217887 Multiple-step OLE DB operation generated errors. Check each OLE DB status "
-                            u"value, if available. No work was done."_s;
-    column({}, 202, {}, invalidName.arg(QString()));
-    column(u"[c"_s, 202, {}, invalidName.arg(u"[c"));
-    column(u"_ROWID_"_s, 202, {}, invalidName.arg(u"_ROWID_")); // would hide by what the rows are found again
-    column(u"c"_s, 72, {}, u"-2147217872 Type is invalid."_s);
-    column(u"counts"_s, 202, Value(true), refused);
-    column(u"counts too"_s, 3, Value(true), refused);
-    const QString place = u" in validation expression or default value on 'T.c'."_s;
-    column(u"c"_s, 7, Value(u"=Now$()"_s), u"-2147217900 Unknown function 'Now$'"_s + place);
-    column(u"c"_s, 7, Value(u"Date() + 1"_s),
-           u"-2147217900 Syntax error (missing operator) in query expression 'Date() + 1'."_s);
-    const QString mismatch = u"-2147217913 Data type mismatch in criteria expression."_s;
-    column(u"c"_s, 202, Value(u"Date$()"_s), mismatch);
-    column(u"c"_s, 3, Value(u"\"many\""_s), mismatch);
+    const QStringList before = layout();
+    for (const auto &[name, error] :
+         {std::pair(u"PERSONAL information"_s, exists), std::pair(u"Names"_s, exists), // a view
+          std::pair(u"FieldInfo_TabId"_s, exists),                                     // an index
+          std::pair(QString(), invalidName), std::pair(u"a]b"_s, invalidName), std::pair(u"SQLite_x"_s, invalidName),
+          std::pair(u"a\0b"_s, invalidName)}) {
+        Table refused = described(name);
+        QCOMPARE(errorOf([&] { m_catalog.Tables().Append(refused); }), error.arg(name));
+        refused.setName(u"Other"_s); // it is not taken for stored
+    }
+    QCOMPARE(layout(), before);
 }
 
-void CatalogTest::refuses()
+// In a table that is described as in one that is stored.
+void CatalogTest::refusesColumns()
 {
-    QFETCH(QString, table);
-    QFETCH(QString, column);
-    QFETCH(int, type);
-    QFETCH(Value, property);
-    QFETCH(QString, error);
-    const auto appendTo = [&](const Table &target) {
-        Column added;
-        added.setName(column);
-        added.setParentCatalog(m_catalog);
-        if (!property.isNull())
-            set(added, property.is<bool>() ? u"AutoIncrement" : u"Default", property);
-        target.Columns().Append(added, type, 0);
+    struct Refused
+    {
+        QString name;
+        int type;
+        Value property; // "AutoIncrement" or "Default"
+        QString error;
     };
-    QStringList before = layout();
-    Table refused = described(table);
-    appendTo(refused);
-    QCOMPARE(errorOf([&] { m_catalog.Tables().Append(refused); }), error);
-    QCOMPARE(layout(), before);
-    refused.setName(u"Other"_s); // it is not taken for stored
-    if (table != u"T")
-        return;
-    m_folder->execute("CREATE TABLE T (Day DATETIME)");
-    before = layout();
-    QCOMPARE(errorOf([&] { appendTo(stored(u"T"_s)); }), error);
-    QCOMPARE(layout(), before);
+    const QString mismatch = u"-2147217913 Data type mismatch in criteria expression."_s;
+    const QString refused = u"-2147217887 Multiple-step OLE DB operation generated errors. Check each OLE DB status "
+                            u"value, if available. No work was done."_s;
+    m_folder->execute("CREATE TABLE Stored (Day DATETIME)");
+    const QStringList before = layout();
+    for (const auto &[name, type, property, error] :
+         {Refused{{}, 202, {}, invalidName.arg(QString())}, Refused{u"[c"_s, 202, {}, invalidName.arg(u"[c")},
+          Refused{u"_ROWID_"_s, 202, {}, invalidName.arg(u"_ROWID_")}, // would hide by what the rows are found again
+          Refused{u"c"_s, 72, {}, u"-2147217872 Type is invalid."_s}, Refused{u"counts"_s, 202, Value(true), refused},
+          Refused{u"counts too"_s, 3, Value(true), refused},
+          Refused{u"c"_s, 7, Value(u"=Now$()"_s),
+                  u"-2147217900 Unknown function 'Now$' in validation expression or default value on 'T.c'."_s},
+          Refused{u"c"_s, 7, Value(u"Date() + 1"_s),
+                  u"-2147217900 Syntax error (missing operator) in query expression 'Date() + 1'."_s},
+          Refused{u"c"_s, 202, Value(u"Date$()"_s), mismatch}, Refused{u"c"_s, 3, Value(u"\"many\""_s), mismatch}}) {
+        const Table table = described(u"T"_s);
+        const auto refusal = [&, &name = name, &type = type, &property = property](const Table &target) {
+            Column column;
+            column.setName(name);
+            column.setParentCatalog(m_catalog);
+            if (!property.isNull())
+                set(column, property.is<bool>() ? u"AutoIncrement" : u"Default", property);
+            return errorOf([&] {
+                target.Columns().Append(column, type, 0);
+                if (target.Name() == u"T")
+                    m_catalog.Tables().Append(table);
+            });
+        };
+        QCOMPARE(refusal(table), error);
+        QCOMPARE(refusal(stored(u"Stored"_s)), QString(error).replace(u"'T.c'"_s, u"'Stored.c'"_s));
+        QCOMPARE(layout(), before);
+    }
 }
 
 void CatalogTest::takesAnyName()

@@ -22,7 +22,6 @@ private Q_SLOTS:
     void endsASeriesAtAnotherField();
     void readsWhatIsPending();
     void tellsNoBytesFromNull();
-    void takesBytesAlone();
     void leavesBytesAlone();
 
 private:
@@ -38,8 +37,6 @@ private:
 };
 
 namespace {
-
-const QString storedBytes = u"SELECT hex(Attachments) FROM Attachments ORDER BY AttachmentsId DESC LIMIT 1"_s;
 
 // By this process, from files, since it began.
 qint64 bytesReadSoFar()
@@ -82,7 +79,6 @@ void ChunksTest::storesASeries()
     rows.Update();
     QCOMPARE(rows[u"Attachments"].ActualSize(), 8);
     QCOMPARE(rows[u"Attachments"].Value(), Value(QByteArray("one,two\0", 8)));
-    QCOMPARE(m_folder->row(storedBytes.toUtf8()), QString::fromLatin1(QByteArray("one,two\0", 8).toHex().toUpper()));
 
     // The first call after the save begins anew.
     rows[u"Attachments"].AppendChunk("new");
@@ -146,7 +142,7 @@ void ChunksTest::readsWhatIsPending()
     rows[u"AttachmentsName"].setValue(u"b"_s);
     QCOMPARE(rows[u"Attachments"].GetChunk(9), bytes("a")); // an edit that leaves the bytes alone
     rows.Update();
-    QCOMPARE(m_folder->row(storedBytes.toUtf8()), u"61"_s);
+    QCOMPARE(m_folder->row("SELECT hex(Attachments) FROM Attachments"), u"61"_s);
     Recordset joined; // rows that may not be changed have the bytes in them
     joined.Open(u"SELECT x.Attachments FROM Attachments AS x LEFT JOIN MemberType ON x.MemberId = MemberTypeId"_s,
                 m_connection);
@@ -165,25 +161,18 @@ void ChunksTest::readsWhatIsPending()
 void ChunksTest::tellsNoBytesFromNull()
 {
     Recordset rows = attachments();
-    rows.AddNew();
-    rows[u"Attachments"].AppendChunk({});
-    rows.Update();
-    QCOMPARE(rows[u"Attachments"].Value(), Value(QByteArray()));
-    QCOMPARE(rows[u"Attachments"].ActualSize(), 0);
-    QVERIFY(rows[u"Attachments"].GetChunk(10).isNull());
-    rows.AddNew();
-    rows.Update();
-    QVERIFY(rows[u"Attachments"].Value().isNull());
-    QVERIFY(rows[u"Attachments"].GetChunk(10).isNull());
-    QCOMPARE(rows[u"Attachments"].ActualSize(), 0);
+    for (const bool isNull : {false, true}) {
+        rows.AddNew();
+        if (!isNull)
+            rows[u"Attachments"].AppendChunk({});
+        rows.Update();
+        QCOMPARE(rows[u"Attachments"].Value(), isNull ? Value() : Value(QByteArray()));
+        QVERIFY(rows[u"Attachments"].GetChunk(10).isNull());
+        QCOMPARE(rows[u"Attachments"].ActualSize(), 0);
+    }
     QCOMPARE(m_folder->rows("SELECT typeof(Attachments), length(Attachments) FROM Attachments"),
              (QStringList{u"blob|0"_s, u"null|NULL"_s}));
-}
 
-void ChunksTest::takesBytesAlone()
-{
-    Recordset rows = attachments();
-    rows.AddNew();
     QCOMPARE(errorOf([&] { rows[u"Attachments"].setValue(u"text"_s); }),
              u"-2147217887 Multiple-step operation generated errors. Check each status value."_s);
     const QString notInContext = u"3219 Operation is not allowed in this context."_s;

@@ -18,18 +18,14 @@ class CollationTest : public QObject
 private Q_SLOTS:
     void initTestCase();
 
-    void tellsTextsApart_data();
     void tellsTextsApart();
     void isAnOrder();
     void agreesWithTheIndexesOnAscii();
-    void matchesPatterns_data();
     void matchesPatterns();
-    void findsByPatternWhatThePatternMatches_data();
     void findsByPatternWhatThePatternMatches();
     void findsByEqualityWhatCountsAsEqual();
     void groupsAndOrdersNames();
     void failsWithoutMemory();
-    void searchesByIndex_data();
     void searchesByIndex();
 
 private:
@@ -73,33 +69,18 @@ void CollationTest::initTestCase()
     QCOMPARE(m_folder.row("SELECT COUNT(*) FROM MemberInformation"), QString::number(names.size() + 1));
 }
 
-void CollationTest::tellsTextsApart_data()
-{
-    QTest::addColumn<QString>("first");
-    QTest::addColumn<QString>("second");
-    QTest::addColumn<int>("sign");
-
-    QTest::newRow("case") << u"Smith"_s << u"sMITH"_s << 0;
-    QTest::newRow("case of an accented letter") << u"Élan"_s << u"éLAN"_s << 0;
-    QTest::newRow("case beyond Latin") << u"ΑΒΓ"_s << u"αβγ"_s << 0;
-    QTest::newRow("accent") << u"Elan"_s << u"Élan"_s << -1;
-    QTest::newRow("accent yields to a later letter") << u"Élan"_s << u"Elba"_s << -1;
-    QTest::newRow("accent before the next letter") << u"Öberg"_s << u"Ocker"_s << -1;
-    QTest::newRow("trailing blank") << u"Smith"_s << u"Smith "_s << -1;
-    QTest::newRow("nothing") << u""_s << u" "_s << -1;
-    QTest::newRow("Kelvin sign") << kelvin << u"k"_s << 1;
-    QTest::newRow("long s") << longS << u"s"_s << 1;
-    QTest::newRow("German sharp s") << u"Straße"_s << u"Strasse"_s << 1;
-    QTest::newRow("beyond the first plane") << u"😀"_s << u"😁"_s << -1;
-}
-
 void CollationTest::tellsTextsApart()
 {
-    QFETCH(QString, first);
-    QFETCH(QString, second);
-    QFETCH(int, sign);
-    QCOMPARE(compared(first, second), sign);
-    QCOMPARE(compared(second, first), -sign);
+    for (const auto &[first, second] :
+         {std::pair(u"Smith"_s, u"sMITH"_s), std::pair(u"Élan"_s, u"éLAN"_s), std::pair(u"ΑΒΓ"_s, u"αβγ"_s)})
+        QCOMPARE(compared(first, second), 0);
+    for (const auto &[lower, higher] :
+         {std::pair(u"Elan"_s, u"Élan"_s), std::pair(u"Élan"_s, u"Elba"_s), std::pair(u"Öberg"_s, u"Ocker"_s),
+          std::pair(u"Smith"_s, u"Smith "_s), std::pair(u"k"_s, kelvin), std::pair(u"s"_s, longS),
+          std::pair(u"Strasse"_s, u"Straße"_s), std::pair(u"😀"_s, u"😁"_s)}) {
+        QCOMPARE(compared(lower, higher), -1);
+        QCOMPARE(compared(higher, lower), 1);
+    }
 }
 
 // A comparison that contradicts itself damages indexes and sorts at random.
@@ -137,45 +118,24 @@ void CollationTest::agreesWithTheIndexesOnAscii()
     }
 }
 
-void CollationTest::matchesPatterns_data()
-{
-    QTest::addColumn<QString>("pattern");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("matches");
-
-    const auto row = [](const QString &pattern, const QString &text, bool matches) {
-        QTest::addRow("%s ~ %s", qPrintable(text), qPrintable(pattern)) << pattern << text << matches;
-    };
-    row(u"smi%"_s, u"SMITH"_s, true);
-    row(u"%"_s, u""_s, true);
-    row(u""_s, u""_s, true);
-    row(u""_s, u"x"_s, false);
-    row(u"_"_s, u"😀"_s, true);
-    row(u"_"_s, u""_s, false);
-    row(u"é%"_s, u"Élan"_s, true);
-    row(u"e%"_s, u"Élan"_s, false);
-    row(u"%a%b%c"_s, u"aXbXbc"_s, true); // has to go back to an earlier run
-    row(u"%a%b%c"_s, u"aXbXcb"_s, false);
-    row(u"%ab"_s, u"aab"_s, true);
-    row(u"[a-c]x"_s, u"Bx"_s, true);
-    row(u"[a-c]x"_s, u"dx"_s, false);
-    row(u"[^a-c]x"_s, u"dx"_s, true);
-    row(u"[^a-c]x"_s, u"Bx"_s, false);
-    row(u"100[%]"_s, u"100%"_s, true);
-    row(u"100[%]"_s, u"100 percent"_s, false);
-    row(u"a[_]b"_s, u"axb"_s, false);
-    row(u"[[]x]"_s, u"[x]"_s, true);
-    row(u"[x"_s, u"[x"_s, true); // a bracket without its fellow
-    row(u"a*b?"_s, u"a*b?"_s, true);
-    row(u"a*b?"_s, u"axxbx"_s, false);
-    row(u"k%"_s, kelvin, false);
-}
-
 void CollationTest::matchesPatterns()
 {
-    QFETCH(QString, pattern);
-    QFETCH(QString, text);
-    QTEST(data::matchesLike(pattern.toUtf8(), text.toUtf8()), "matches");
+    const auto matches = [](const QString &pattern, const QString &text) {
+        return data::matchesLike(pattern.toUtf8(), text.toUtf8());
+    };
+    for (const auto &[pattern, text] :
+         {std::pair(u"smi%"_s, u"SMITH"_s), std::pair(u"%"_s, u""_s), std::pair(u""_s, u""_s),
+          std::pair(u"_"_s, u"😀"_s), std::pair(u"é%"_s, u"Élan"_s), std::pair(u"%a%b%c"_s, u"aXbXbc"_s),
+          std::pair(u"%ab"_s, u"aab"_s), std::pair(u"[a-c]x"_s, u"Bx"_s), std::pair(u"[^a-c]x"_s, u"dx"_s),
+          std::pair(u"100[%]"_s, u"100%"_s), std::pair(u"[[]x]"_s, u"[x]"_s), std::pair(u"[x"_s, u"[x"_s),
+          std::pair(u"a*b?"_s, u"a*b?"_s)})
+        QVERIFY2(matches(pattern, text), qPrintable(pattern));
+    for (const auto &[pattern, text] :
+         {std::pair(u""_s, u"x"_s), std::pair(u"_"_s, u""_s), std::pair(u"e%"_s, u"Élan"_s),
+          std::pair(u"%a%b%c"_s, u"aXbXcb"_s), std::pair(u"[a-c]x"_s, u"dx"_s), std::pair(u"[^a-c]x"_s, u"Bx"_s),
+          std::pair(u"100[%]"_s, u"100 percent"_s), std::pair(u"a[_]b"_s, u"axb"_s), std::pair(u"a*b?"_s, u"axxbx"_s),
+          std::pair(u"k%"_s, kelvin)})
+        QVERIFY2(!matches(pattern, text), qPrintable(pattern));
 }
 
 QStringList CollationTest::namesWhere(const QString &condition)
@@ -185,30 +145,24 @@ QStringList CollationTest::namesWhere(const QString &condition)
                    u"LastName");
 }
 
-void CollationTest::findsByPatternWhatThePatternMatches_data()
+// Ranges over an index, equality and the function of the store have to find what the plain rule says.
+void CollationTest::findsByPatternWhatThePatternMatches()
 {
-    QTest::addColumn<QString>("pattern");
     for (const QString &pattern :
          {u"S%"_s,      u"smi%"_s, u"Smith%"_s, u"Smith %"_s, u"e%"_s,    u"É%"_s,  u"él%"_s, u"Sch%"_s,  u"schä%"_s,
           u"O'%"_s,     u"o'b%"_s, u"k%"_s,     u"z%"_s,      u"zo%"_s,   u"a@%"_s, u"a`%"_s, u"az%"_s,   u"a%"_s,
           u"100[%]"_s,  u"100%"_s, u"a[_]b"_s,  u"a_b"_s,     u"[[]x]"_s, u"x]%"_s, u"%i%"_s, u"_mith"_s, u"[s-z]%"_s,
           u"[^a-z]%"_s, u"%"_s,    u""_s,       u" %"_s,      u"Ł%"_s,    u"日%"_s, u"😀"_s,   u"σ%"_s,    u"a*%"_s,
-          u"Smith"_s,   u"ELAN"_s, u"Élan"_s,   u"s[mc]%"_s,  u"%%"_s})
-        QTest::newRow(qPrintable(pattern)) << pattern;
-}
-
-// Ranges over an index, equality and the function of the store have to find what the plain rule says.
-void CollationTest::findsByPatternWhatThePatternMatches()
-{
-    QFETCH(QString, pattern);
-    QStringList expected;
-    for (const QString &name : names) {
-        if (data::matchesLike(pattern.toUtf8(), name.toUtf8()))
-            expected << name;
+          u"Smith"_s,   u"ELAN"_s, u"Élan"_s,   u"s[mc]%"_s,  u"%%"_s}) {
+        QStringList expected;
+        for (const QString &name : names) {
+            if (data::matchesLike(pattern.toUtf8(), name.toUtf8()))
+                expected << name;
+        }
+        const QString written = QString(pattern).replace(u"'"_s, u"''"_s);
+        QCOMPARE(namesWhere(u"LastName LIKE '%1'"_s.arg(written)), expected);
+        QCOMPARE(namesWhere(u"NOT (LastName LIKE '%1')"_s.arg(written)).size(), names.size() - expected.size());
     }
-    const QString written = QString(pattern).replace(u"'"_s, u"''"_s);
-    QCOMPARE(namesWhere(u"LastName LIKE '%1'"_s.arg(written)), expected);
-    QCOMPARE(namesWhere(u"NOT (LastName LIKE '%1')"_s.arg(written)).size(), names.size() - expected.size());
 }
 
 void CollationTest::findsByEqualityWhatCountsAsEqual()
@@ -274,33 +228,21 @@ void CollationTest::failsWithoutMemory()
     }
 }
 
-void CollationTest::searchesByIndex_data()
-{
-    QTest::addColumn<QString>("statement");
-    QTest::addColumn<QString>("search");
-
-    QTest::newRow("explorer") << u"select * from [MemberInformation] Where [LastName] like 'A%' and Active = yes"_s
-                              << u"USING INDEX MemberInformation_LastName (LastName>? AND LastName<?)"_s;
-    QTest::newRow("accent behind a plain beginning")
-        << u"select * from [MemberInformation] Where [LastName] like 'Schä%'"_s
-        << u"USING INDEX MemberInformation_LastName (LastName>? AND LastName<?)"_s;
-    QTest::newRow("equal name") << u"SELECT * FROM MemberInformation WHERE LastName = 'smith'"_s
-                                << u"USING INDEX MemberInformation_LastName (LastName=?)"_s;
-}
-
 void CollationTest::searchesByIndex()
 {
-    QFETCH(QString, statement);
-    QFETCH(QString, search);
-    const sql::Translation translation = sql::translate(statement);
     data::Database file;
     file.open(m_folder.file());
-    if (translation.callsLike)
-        file.provideLike();
-    QString plan;
-    for (data::Statement query = file.prepare("EXPLAIN QUERY PLAN " + translation.sql); query.step();)
-        plan += QString::fromUtf8(query.text(3)) + u'\n';
-    QVERIFY2(plan.contains(search), qPrintable(plan));
+    file.provideLike();
+    for (const auto &[condition, search] :
+         {std::pair(u"[LastName] like 'A%' and Active = yes"_s, u"(LastName>? AND LastName<?)"_s),
+          std::pair(u"[LastName] like 'Schä%'"_s, u"(LastName>? AND LastName<?)"_s),
+          std::pair(u"LastName = 'smith'"_s, u"(LastName=?)"_s)}) {
+        const QByteArray sql = sql::translate(u"select * from [MemberInformation] Where "_s + condition).sql;
+        QString plan;
+        for (data::Statement query = file.prepare("EXPLAIN QUERY PLAN " + sql); query.step();)
+            plan += QString::fromUtf8(query.text(3)) + u'\n';
+        QVERIFY2(plan.contains(u"USING INDEX MemberInformation_LastName "_s + search), qPrintable(plan));
+    }
 }
 
 QTEST_GUILESS_MAIN(CollationTest)

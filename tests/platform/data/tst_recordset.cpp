@@ -25,13 +25,11 @@ private Q_SLOTS:
     void followsARowToItsNewKey();
     void keepsAmountsExactly();
     void walksItsRows();
-    void findsFieldsByName();
     void keepsTypes();
     void tellsNullFromTheEmptyText();
     void keepsToItsOwnStates();
 
     void addsRows();
-    void addsBeforeAnythingIsRead();
     void addsSeveral();
     void editsARowThatIsNoMore();
     void dropsWhatIsPending();
@@ -39,7 +37,6 @@ private Q_SLOTS:
     void deletesTheRowJustAdded();
 
     void refusesValues();
-    void refusesToWrite_data();
     void refusesToWrite();
     void writesThroughNamedColumns();
     void passesOverAPersonThatIsThereAlready();
@@ -89,7 +86,6 @@ void RecordsetTest::standsOnNothing()
     Recordset rows = opened(u"select * from MemberInformation where MemberId = 0"_s);
     QCOMPARE(rows.RecordCount(), 0);
     QVERIFY(rows.Eof());
-    QCOMPARE(rows.RecordCount(), 0);
     QCOMPARE(errorOf([&] { rows.MoveNext(); }), noCurrentRecord);
     QCOMPARE(errorOf([&] { rows.MoveFirst(); }), noCurrentRecord);
     QCOMPARE(errorOf([&] { rows.MoveLast(); }), noCurrentRecord);
@@ -144,8 +140,7 @@ void RecordsetTest::keepsAmountsExactly()
     Recordset rows = opened(u"select * from Contributions where MemberId = 99"_s);
     for (const qint64 scaled :
          {std::numeric_limits<qint64>::max(), std::numeric_limits<qint64>::min(), qint64(900'719'925'474'099'300),
-          qint64(9'007'199'254'740'993), qint64(-9'007'199'254'740'991), qint64(8'999'999'999'999'999'999),
-          qint64(9'223'372'036'854'770'000), qint64(-1), qint64(120'000)}) {
+          qint64(9'007'199'254'740'993), qint64(8'999'999'999'999'999'999), qint64(-1), qint64(120'000)}) {
         const Value amount(runtime::Currency::fromScaled(scaled));
         rows.AddNew();
         rows[u"ContributionAmount"].setValue(amount);
@@ -157,10 +152,9 @@ void RecordsetTest::keepsAmountsExactly()
 
 void RecordsetTest::walksItsRows()
 {
-    Recordset rows = opened(u"select * from MemberType order by MemberTypeId"_s);
-    QVERIFY(!rows.Eof());
+    Recordset rows = opened(u"SELECT MemberTypeId AS id, MemberType AS [type] FROM MemberType order by MemberTypeId"_s);
     QCOMPARE(rows.RecordCount(), 6);
-    const data::Field type = rows[u"MemberType"];
+    const data::Field type = rows[u"TYPE"];
     QCOMPARE(type.Value(), text("Regular"));
     rows.MoveLast();
     QCOMPARE(type.Value(), text("Honorary")); // the field follows the moves
@@ -169,21 +163,15 @@ void RecordsetTest::walksItsRows()
     QCOMPARE(errorOf([&] { rows.MoveNext(); }), noCurrentRecord);
     QCOMPARE(errorOf([&] { type.Value(); }), noCurrentRecord);
     rows.MoveFirst();
-    QCOMPARE(textsOf(rows, u"MemberTypeId"), (QStringList{u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s}));
-}
+    QCOMPARE(textsOf(rows, u"id"), (QStringList{u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s}));
 
-void RecordsetTest::findsFieldsByName()
-{
-    Recordset rows =
-        opened(u"SELECT MemberId AS id, LastName AS [last] FROM [MemberInformation] WHERE MemberId = 16"_s);
-    QCOMPARE(rows[u"LAST"].Value(), text("Dangelo"));
-    QCOMPARE(rows.Fields(1).Name(), u"last"_s);
+    QCOMPARE(rows.Fields(1).Name(), u"type"_s);
     const QString noSuchItem = u"3265 Item cannot be found in the collection corresponding to the requested name or "
                                u"ordinal."_s;
-    QCOMPARE(errorOf([&] { rows[u"LastName"]; }), noSuchItem);
-    QCOMPARE(errorOf([&] { rows.Fields(u""); }), noSuchItem);
-    QCOMPARE(errorOf([&] { rows.Fields(2); }), noSuchItem);
-    QCOMPARE(errorOf([&] { rows.Fields(-1); }), noSuchItem);
+    for (const QString &name : {u"MemberType"_s, QString()})
+        QCOMPARE(errorOf([&] { rows[name]; }), noSuchItem);
+    for (const int place : {2, -1})
+        QCOMPARE(errorOf([&] { rows.Fields(place); }), noSuchItem);
 }
 
 void RecordsetTest::keepsTypes()
@@ -194,8 +182,6 @@ void RecordsetTest::keepsTypes()
         "INSERT INTO Kinds VALUES (-1, 7, 100000, 1.5, 12.3456, '2001-01-31 17:04:00', 'w', 'm', x'00ff'),"
         "                         (0, 70000, 5000000000, 2, 3, 'soon', 12, 1.5, 'text')");
     Recordset rows = opened(u"select * from Kinds"_s);
-    const auto typeOf = [&rows](QStringView name) { return int(rows[name].Value().type()); };
-    using Type = Value::Type;
     QCOMPARE(rows[u"Flag"].Value(), Value(true));
     QCOMPARE(rows[u"Small"].Value(), Value(qint16(7)));
     QCOMPARE(rows[u"Whole"].Value(), Value(qint32(100'000)));
@@ -209,8 +195,8 @@ void RecordsetTest::keepsTypes()
     QCOMPARE(rows[u"Flag"].Value(), Value(false));
     QCOMPARE(rows[u"Small"].Value(), Value(qint32(70'000)));
     QCOMPARE(rows[u"Whole"].Value(), Value(5e9));
-    QCOMPARE(typeOf(u"Real"), int(Type::Double));
-    QCOMPARE(typeOf(u"Amount"), int(Type::Currency));
+    QCOMPARE(rows[u"Real"].Value(), Value(2.0));
+    QCOMPARE(rows[u"Amount"].Value(), Value(runtime::Currency::fromScaled(30'000)));
     QCOMPARE(rows[u"Day"].Value(), text("soon"));
     QCOMPARE(rows[u"Word"].Value(), text("12"));
     QCOMPARE(rows[u"Memo"].Value(), text("1.5"));
@@ -228,9 +214,6 @@ void RecordsetTest::tellsNullFromTheEmptyText()
     QCOMPARE(m_folder->row("SELECT MiddleName, CellPhone FROM MemberInformation WHERE MemberId = 2"), u"NULL|"_s);
     QVERIFY(rows[u"MiddleName"].Value().isNull());
     QCOMPARE(rows[u"CellPhone"].Value(), text(""));
-    QCOMPARE(textsOf(m_connection, u"select * from MemberInformation where MiddleName = '' and MemberId <= 3"_s,
-                     u"MemberId"),
-             QStringList{}); // = '' does not find the Null of the third
 }
 
 void RecordsetTest::keepsToItsOwnStates()
@@ -262,58 +245,39 @@ void RecordsetTest::addsRows()
     rows.AddNew();
     QVERIFY(!rows.Eof());
     QVERIFY(rows[u"MemberId"].Value().isNull());
-    QVERIFY(rows[u"Active"].Value().isNull());
     rows[u"FirstName"].setValue(u"Zoë"_s);
     rows[u"LastName"].setValue(u"O'Hara; (\"x\")"_s);
     QCOMPARE(rows[u"LastName"].Value(), text("O'Hara; (\"x\")"));
     rows.UpdateBatch();
     QCOMPARE(rows[u"MemberId"].Value(), Value(qint32(65)));
     QCOMPARE(rows[u"Active"].Value(), Value(true)); // the file's default
-    QVERIFY(rows[u"City"].Value().isNull());
     QCOMPARE(m_folder->row("SELECT FirstName, LastName, City, Active FROM MemberInformation WHERE MemberId = 65"),
              u"Zoë|O'Hara; (\"x\")|NULL|-1"_s);
     rows.MoveNext(); // the new row stands at the end
     QVERIFY(rows.Eof());
 }
 
-void RecordsetTest::addsBeforeAnythingIsRead()
-{
-    Recordset rows = opened(u"select * from EventInformation order by EventName"_s);
-    rows.AddNew();
-    rows[u"EventName"].setValue(u"Gala"_s);
-    rows.Update();
-    const Value id = rows[u"EventIdentification"].Value();
-    QCOMPARE(id, Value(qint32(18)));
-    QCOMPARE(rows.RecordCount(), 18);
-    rows[u"EventDescription"].setValue(u"In the hall"_s); // an edit of the new row
-    rows.Update();
-    QCOMPARE(rows[u"EventDescription"].Value(), text("In the hall"));
-    rows.MoveLast();
-    QCOMPARE(rows[u"EventIdentification"].Value(), id); // wherever the order put it
-    rows.MoveFirst();
-    QCOMPARE(rows[u"EventName"].Value(), text("50th Anniversary"));
-    QCOMPARE(m_folder->row("SELECT EventName, EventDescription FROM EventInformation WHERE EventIdentification = 18"),
-             u"Gala|In the hall"_s);
-}
-
 void RecordsetTest::addsSeveral()
 {
     for (const bool readFirst : {false, true}) {
-        Recordset rows = opened(u"select * from CategoryInfo"_s);
+        Recordset rows = opened(u"select * from CategoryInfo order by CategoryName"_s);
         if (readFirst)
             QVERIFY(!rows.Eof());
-        const qint32 before = rows.RecordCount();
-        for (const char *name : {"One", "Two", "Three"}) {
+        const qint32 before = opened(u"select * from CategoryInfo"_s).RecordCount();
+        for (const QString &name : {u"1"_s, u"2"_s, u"3"_s}) {
             rows.AddNew(); // writes the one before
-            rows[u"CategoryName"].setValue(QString::fromLatin1(name));
+            rows[u"CategoryName"].setValue(name);
         }
         rows.Update();
-        QCOMPARE(rows[u"CategoryName"].Value(), text("Three"));
-        QCOMPARE(rows.RecordCount(), before + 3);
+        rows[u"CategoryName"].setValue(u"0"_s); // an edit of the new row
+        rows.Update();
         rows.Update(); // nothing more is pending
         QCOMPARE(rows.RecordCount(), before + 3);
+        rows.MoveLast();
+        QCOMPARE(rows[u"CategoryName"].Value(), text("0")); // wherever the order would put it
     }
-    QCOMPARE(m_folder->row("SELECT COUNT(*) FROM CategoryInfo WHERE CategoryName IN ('One', 'Two', 'Three')"), u"6"_s);
+    QCOMPARE(m_folder->rows("SELECT CategoryName FROM CategoryInfo WHERE CategoryName < '4' ORDER BY CategoryName"),
+             (QStringList{u"0"_s, u"0"_s, u"1"_s, u"1"_s, u"2"_s, u"2"_s}));
 }
 
 void RecordsetTest::editsARowThatIsNoMore()
@@ -409,33 +373,24 @@ void RecordsetTest::refusesValues()
              u"1200.5"_s);
 }
 
-void RecordsetTest::refusesToWrite_data()
-{
-    QTest::addColumn<QString>("statement");
-    QTest::addColumn<int>("lock");
-
-    QTest::newRow("join") << u"SELECT FieldInfo.*, TabInfo.TabNam FROM FieldInfo INNER JOIN TabInfo ON FieldInfo.TabId "
-                             u"= TabInfo.TabId"_s
-                          << int(data::adLockOptimistic);
-    QTest::newRow("distinct rows") << u"SELECT distinct AttachmentExtension FROM Attachments"_s
-                                   << int(data::adLockOptimistic);
-    QTest::newRow("groups") << u"SELECT LastName, Count(*) FROM MemberInformation GROUP BY LastName"_s
-                            << int(data::adLockOptimistic);
-    QTest::newRow("computed column") << u"SELECT MemberId + 1 AS following, LastName FROM MemberInformation"_s
-                                     << int(data::adLockOptimistic);
-    QTest::newRow("read-only lock") << u"select * from MemberType"_s << int(data::adLockReadOnly);
-}
-
 void RecordsetTest::refusesToWrite()
 {
-    QFETCH(QString, statement);
-    QFETCH(int, lock);
-    Recordset rows = opened(statement, data::LockTypeEnum(lock));
-    QVERIFY(rows.RecordCount() > 0);
-    QCOMPARE(errorOf([&] { rows.AddNew(); }), notUpdatable);
-    QCOMPARE(errorOf([&] { rows.Fields(0).setValue(Value()); }), notUpdatable);
-    QCOMPARE(errorOf([&] { rows.Delete(); }), notUpdatable);
-    rows.Close();
+    using Source = std::pair<QString, data::LockTypeEnum>;
+    for (
+        const auto &[statement, lock] :
+        {Source(
+             u"SELECT FieldInfo.*, TabInfo.TabNam FROM FieldInfo INNER JOIN TabInfo ON FieldInfo.TabId = TabInfo.TabId"_s,
+             data::adLockOptimistic),
+         Source(u"SELECT distinct LastName FROM MemberInformation"_s, data::adLockOptimistic),
+         Source(u"SELECT LastName, Count(*) FROM MemberInformation GROUP BY LastName"_s, data::adLockOptimistic),
+         Source(u"SELECT MemberId + 1 AS following, LastName FROM MemberInformation"_s, data::adLockOptimistic),
+         Source(u"select * from MemberType"_s, data::adLockReadOnly)}) {
+        Recordset rows = opened(statement, lock);
+        QVERIFY(rows.RecordCount() > 0);
+        QCOMPARE(errorOf([&] { rows.AddNew(); }), notUpdatable);
+        QCOMPARE(errorOf([&] { rows.Fields(0).setValue(Value()); }), notUpdatable);
+        QCOMPARE(errorOf([&] { rows.Delete(); }), notUpdatable);
+    }
 }
 
 // A list of columns, renamed ones among them, is as good as all of them.

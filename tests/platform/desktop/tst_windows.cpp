@@ -3,7 +3,6 @@
 #include "platform/desktop/Launch.h"
 #include "platform/desktop/MdiForm.h"
 #include "platform/desktop/MsgBox.h"
-#include "platform/desktop/Settings.h"
 #include "platform/runtime/ErrorHandling.h"
 #include "support/Dialogs.h"
 #include "support/Outcome.h"
@@ -267,16 +266,6 @@ private Q_SLOTS:
         QCOMPARE(process.exitStatus(), QProcess::NormalExit);
         QCOMPARE(process.exitCode(), 1);
         QVERIFY(process.readAllStandardError().contains("Run-time error '6':\n\nOverflow\n"));
-    }
-
-    void settingsAreKept()
-    {
-        QTemporaryDir folder;
-        desktop::setSettingsFile(folder.filePath(u"settings.ini"_s));
-        QCOMPARE(desktop::GetSetting(u"Options"_s, u"Show Tips at Startup"_s, u"1"_s), u"1"_s);
-        desktop::SaveSetting(u"Options"_s, u"Show Tips at Startup"_s, u"0"_s);
-        QCOMPARE(desktop::GetSetting(u"Options"_s, u"Show Tips at Startup"_s, u"1"_s), u"0"_s);
-        desktop::setSettingsFile({});
     }
 
     void filesAreHandedToTheirProgram()

