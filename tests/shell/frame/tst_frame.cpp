@@ -42,9 +42,10 @@ QAction &item(const char *name)
     return *child<QAction>(MDIBaseForm::frame(), name);
 }
 
-bool isShown(const char *name)
+MDIBaseForm &openFrame()
 {
-    return item(name).isVisible();
+    MDIBaseForm::frame().Show();
+    return MDIBaseForm::frame();
 }
 
 } // namespace
@@ -58,16 +59,17 @@ private Q_SLOTS:
         QApplication::setQuitOnLastWindowClosed(false);
         Session::current() = Session();
         m_folder.emplace(DataStoreFolder::Content::Sample);
+        m_errors.emplace();
     }
     void cleanup()
     {
+        m_errors.reset();
         delete &MDIBaseForm::frame();
         delete &frmLogin::shared();
     }
 
     void theProgramStartsWithAnEmptySession()
     {
-        CaughtErrors errors;
         QuickClock clock;
         frmLogin::shared().Show();
         MDIBaseForm &frame = MDIBaseForm::frame();
@@ -100,14 +102,13 @@ private Q_SLOTS:
         QCOMPARE(bar, administration ? (QStringList{u"File"_s, u"Tools"_s, u"Windows"_s, u"Help"_s})
                                      : (QStringList{u"File"_s, u"Tools (hidden)"_s, u"Windows"_s, u"Help (hidden)"_s}));
         for (const char *name : {"mnuNewUser", "mnuDifferentUser", "mnuDoc", "mnuNewRecord", "mnuOpenRecord"})
-            QCOMPARE(isShown(name), administration);
+            QCOMPARE(item(name).isVisible(), administration);
         for (const char *name : {"MnuNewClient", "MnuExplorer", "mnuNewEvent", "mnuEventExplorer", "mnuExit"})
-            QVERIFY(isShown(name));
+            QVERIFY(item(name).isVisible());
     }
 
     void eachMenuItemOpensItsWindow()
     {
-        CaughtErrors errors;
         MDIBaseForm &frame = MDIBaseForm::frame();
         frame.setUserLevel(99);
         frame.setUserId(runtime::Value(u"5"_s));
@@ -131,13 +132,7 @@ private Q_SLOTS:
         m_folder->execute("DROP TABLE ObjectTbl");
         item("mnuDoc").trigger(); // fails without a word
         QCOMPARE(frame.area().subWindowList().size(), opened.size());
-    }
 
-    void theMenuOpensTheRecordWindow()
-    {
-        CaughtErrors errors;
-        MDIBaseForm &frame = MDIBaseForm::frame();
-        frame.Show();
         item("mnuOpenRecord").trigger();
         QTest::keyClick(child<frmOpenRecord>(frame, "frmOpenRecord")->lstPerson, Qt::Key_Return);
         QCOMPARE(frame.ActiveRecordId(), u"1"_s);
@@ -152,9 +147,7 @@ private Q_SLOTS:
     // The toolbar has no guard.
     void eachPressOfFindOpensASearchOfItsOwn()
     {
-        CaughtErrors errors;
-        MDIBaseForm &frame = MDIBaseForm::frame();
-        frame.Show();
+        MDIBaseForm &frame = openFrame();
         QWidget *find = frame.Toolbar1->widgetForAction(&item("Find"));
         QTest::mouseClick(find, Qt::LeftButton);
         QTest::mouseClick(find, Qt::LeftButton);
@@ -163,14 +156,13 @@ private Q_SLOTS:
             QVERIFY(search->isVisible() && search->MemberId.isEmpty());
         m_folder->execute("DROP TABLE Attachments");
         QTest::mouseClick(find, Qt::LeftButton);
-        QVERIFY(errors.takeNumber() != 0);
+        QVERIFY(m_errors->takeNumber() != 0);
         QCOMPARE(frame.findChildren<frmFindInfo *>().size(), 2);
     }
 
     // The first resize is that of the opening; the second finds no size to compare with.
     void aResizeScalesWhatStandsInTheFrame()
     {
-        CaughtErrors errors;
         Session &session = Session::current();
         MDIBaseForm &frame = MDIBaseForm::frame(); // its bars have no place of their own and are passed over
         auto *box = new desktop::TextBox(&frame, u"box");
@@ -218,10 +210,9 @@ private Q_SLOTS:
     void aMissingDataFileEndsTheStart()
     {
         QVERIFY(QFile::remove(m_folder->file()));
-        CaughtErrors errors;
         QuickClock clock;
         desktop::guarded([] { frmLogin::shared().Show(); });
-        QCOMPARE(errors.takeNumber(), -2147467259);
+        QCOMPARE(m_errors->takeNumber(), -2147467259);
     }
 
     void login()
@@ -240,9 +231,7 @@ private Q_SLOTS:
         m_folder->execute("INSERT INTO Security (SecurityId, UserName, UserPassword, UserFirstName, UserMiddleName, "
                           "UserLastName, UserLevel) VALUES (77, 'ann', 'secret', 'Ann', NULL, 'Cole', 99), "
                           "(78, 'nolevel', 'x', 'No', NULL, 'Level', NULL)");
-        CaughtErrors errors;
-        MDIBaseForm &frame = MDIBaseForm::frame();
-        frame.Show();
+        MDIBaseForm &frame = openFrame();
         frmLogin &window = frmLogin::shared();
         window.ReLogin = true;
         window.show(); // stays on the screen, as its load would not let it
@@ -253,7 +242,7 @@ private Q_SLOTS:
             window.txtPassword->setText(row.password);
             BoxAnswers boxes(row.message.isEmpty() ? QList<QMessageBox::StandardButton>() : QList{QMessageBox::Ok});
             QTest::keyClick(&window, Qt::Key_Return);
-            QCOMPARE(errors.takeNumber(), row.error);
+            QCOMPARE(m_errors->takeNumber(), row.error);
             QCOMPARE(boxes.seen.value(0).text, row.message);
             QCOMPARE(window.txtUserName->text(), row.user);
         }
@@ -264,7 +253,6 @@ private Q_SLOTS:
 
     void enterPressesTheButtonThatHasTheFocus()
     {
-        CaughtErrors errors;
         BoxAnswers none;
         frmLogin &window = frmLogin::shared();
         window.show();
@@ -288,9 +276,7 @@ private Q_SLOTS:
 
     void closingEmptiesTheTempFolderButNotWhatLiesUnderIt()
     {
-        CaughtErrors errors;
-        MDIBaseForm &frame = MDIBaseForm::frame();
-        frame.Show();
+        MDIBaseForm &frame = openFrame();
         for (const QString &name : {u"a.txt"_s, u"no extension"_s, u".hidden"_s, u"a\\b"_s, u"Search/kept.txt"_s})
             m_folder->write(u"temp/"_s + name, "x");
         item("mnuExit").trigger();
@@ -301,17 +287,10 @@ private Q_SLOTS:
         QVERIFY(QDir(m_folder->path(u"temp"_s)).removeRecursively()); // nor is it missed
         frame.show();
         frame.close();
-    }
-
-    // The kernel's own files can be deleted by nobody.
-    void aFileThatCannotBeDeletedStopsTheCleaning()
-    {
-        CaughtErrors errors;
-        QVERIFY(QDir(m_folder->path(u"temp"_s)).removeRecursively());
-        QVERIFY(QFile::link(u"/proc/tty"_s, m_folder->path(u"temp"_s)));
-        MDIBaseForm::frame().Show();
-        MDIBaseForm::frame().close();
-        QCOMPARE(errors.takeNumber(), 75);
+        QVERIFY(QFile::link(u"/proc/tty"_s, m_folder->path(u"temp"_s))); // the kernel's: nobody can delete them
+        frame.show();
+        frame.close();
+        QCOMPARE(m_errors->takeNumber(), 75);
     }
 
     void theSplashGoesAtAKeyOrAClick()
@@ -329,6 +308,7 @@ private Q_SLOTS:
 
 private:
     std::optional<DataStoreFolder> m_folder;
+    std::optional<CaughtErrors> m_errors;
 };
 
 QTEST_MAIN(tst_Frame)

@@ -84,14 +84,18 @@ private Q_SLOTS:
     }
 
     // Ctrl+Tab is also the frame's key for its next window.
-    void theKeyboardTurnsTheTabs()
+    void theWindowOpensInTheMiddleAndTheKeyboardTurnsItsTabs()
     {
         CaughtErrors errors;
         desktop::MdiForm frame(u"frame");
-        frame.resize(900, 700);
+        frame.setGeometry(frame.screen()->availableGeometry().adjusted(10, 10, -10, -10));
         frame.Show();
         openOptions(u"8"_s);
+        const QMdiSubWindow &host = *frame.area().subWindowList()[0];
+        const QPoint off = host.mapToGlobal(host.rect().center()) - frame.screen()->availableGeometry().center();
+        QVERIFY2(off.manhattanLength() <= 2, qPrintable(u"%1, %2"_s.arg(off.x()).arg(off.y())));
         frmOptions &window = *openOptions(u"7"_s);
+        QVERIFY(window.picOptions(0)->geometry().bottom() < window.cmdOK->y());
         QApplication::setActiveWindow(&frame);
         QVERIFY(QTest::qWaitForWindowActive(&frame));
         QCOMPARE(QApplication::focusWidget(), window.txtOldPassword);
@@ -118,19 +122,6 @@ private Q_SLOTS:
         QCOMPARE(clicks.count(), 3);
         QCOMPARE(frame.area().activeSubWindow()->widget(), &window);
         QCOMPARE(window.picOptions(3)->Left(), outOfView);
-    }
-
-    void theWindowOpensInTheMiddleOfTheScreen()
-    {
-        desktop::MdiForm frame(u"frame");
-        frame.setGeometry(frame.screen()->availableGeometry().adjusted(10, 10, -10, -10));
-        frame.Show();
-        const frmOptions &window = *openOptions(u"7"_s);
-        const QMdiSubWindow &host = *frame.area().subWindowList()[0];
-        const QPoint middle = host.mapToGlobal(host.rect().center());
-        const QPoint off = middle - frame.screen()->availableGeometry().center();
-        QVERIFY2(off.manhattanLength() <= 2, qPrintable(u"%1, %2"_s.arg(off.x()).arg(off.y())));
-        QVERIFY(window.picOptions(0)->geometry().bottom() < window.cmdOK->y());
     }
 
 private:
