@@ -24,15 +24,6 @@ desktop::TextBox &box(FrmAddEditMember &window, const char *name)
     return *child<desktop::TextBox>(window, name);
 }
 
-FrmAddEditMember *openWindow()
-{
-    auto *window = desktop::showNew<FrmAddEditMember>();
-    QApplication::setActiveWindow(window);
-    if (!QTest::qWaitForWindowActive(window))
-        qFatal("the window never became active");
-    return window;
-}
-
 } // namespace
 
 class tst_NewMember : public QObject
@@ -49,7 +40,9 @@ private Q_SLOTS:
     void everythingTypedByKeyboardIsStored()
     {
         BoxAnswers none; // an unexpected one would wait for an answer
-        QPointer<FrmAddEditMember> window = openWindow();
+        QPointer<FrmAddEditMember> window = desktop::showNew<FrmAddEditMember>();
+        QApplication::setActiveWindow(window);
+        QVERIFY(QTest::qWaitForWindowActive(window));
         QCOMPARE(QApplication::focusWidget(), child(*window, "txtMemberFirstName"));
         type({u"Ann"_s, u"B"_s, u"Cole"_s, u"1 Main"_s, u"Flat 2"_s, u"Salem"_s, u"Virg"_s, u"97301"_s, u"555-1"_s,
               u"555-2"_s, u"555-3"_s, u"ann@x.org"_s});

@@ -263,7 +263,10 @@ private Q_SLOTS:
         FrmEventExplorer window;
         desktop::guarded([&window] { window.Show(); });
         QTEST(errors.takeNumber(), "ofEvents");
-        QTEST(child<desktop::TreeView>(window, "TreClassView")->Nodes.Count(), "nodes");
+        const int nodes = child<desktop::TreeView>(window, "TreClassView")->Nodes.Count();
+        QTEST(nodes, "nodes");
+        QCOMPARE(child<desktop::Label>(window, "LblMemberListing")->text(),
+                 nodes > 0 ? u"Events (Click to Refresh)"_s : u"Events - 0 (Click to Refresh)"_s);
         QCOMPARE(child<desktop::ListView>(window, "LstStudenInformation")->columnCount(), 10);
     }
 
