@@ -28,6 +28,8 @@ public:
     void choose(const char *item) { child<QAction>(m_window, item)->trigger(); }
     void turnTo(QWidget *tab) { m_window.SSTab1->setCurrentWidget(tab->parentWidget()); }
 
+    CaughtErrors errors;
+
 private:
     DisplayMembers m_window;
 };

@@ -22,9 +22,8 @@ private Q_SLOTS:
         m_folder->execute("INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion) VALUES"
                           " (2, 'A.TXT', 4), (2, 'a.txt', 5), (2, 'b.txt', 9)");
         const QString path = m_folder->write(u"a.txt"_s, "one");
-        CaughtErrors errors;
         OpenDossier dossier;
-        FileAnswers files({path, path});
+        FileAnswers files({path, path, m_folder->write(u"it's.txt"_s, "x"), path, m_folder->write(u"b.txt"_s, "x")});
         BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok});
         AttachmentsTab &tab = *dossier->Frame4;
         tab.butAddAttachement->click();
@@ -39,6 +38,14 @@ private Q_SLOTS:
         QCOMPARE(m_folder->rows("SELECT MemberId, AttachmentsName, AttachmentVersion, hex(Attachments), "
                                 "AttachmentsDate IS NULL FROM Attachments WHERE AttachmentsId > 3"),
                  (QStringList{u"1|a.txt|6|6F6E6500|0"_s, u"1|a.txt|7|6F6E6500|0"_s}));
+        m_folder->execute("UPDATE Attachments SET AttachmentVersion = 32767 WHERE MemberId = 1; UPDATE Attachments SET "
+                          "AttachmentVersion = 2147483647 WHERE MemberId = 2 AND AttachmentsName = 'b.txt'");
+        for (const int error : {-2147217900, 6, 6}) {
+            tab.butAddAttachement->click();
+            QCOMPARE(dossier.errors.takeNumber(), error);
+        }
+        QCOMPARE(m_folder->row("SELECT count(*) FROM Attachments"), u"5"_s);
+        QCOMPARE(m_folder->row("PRAGMA integrity_check"), u"ok"_s);
     }
 
     void namesStandInDescendingOrderWhileOnlyCurrentVersionsShow()
@@ -47,7 +54,6 @@ private Q_SLOTS:
         m_folder->execute("INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion, AttachmentsDate) "
                           "VALUES (1, 'b', 2, '2026-01-01 00:00:00'), (1, 'c', 1, NULL), (1, 'b', 1, '2026-02-01 "
                           "10:00:00'), (1, NULL, 1, NULL)");
-        CaughtErrors errors;
         OpenDossier dossier;
         const desktop::ListView &list = *dossier->Frame4->lstAttachement;
         QCOMPARE(lines(list), (QStringList{u"c||1"_s, u"b|2/1/2026 10:00:00 AM|2"_s, u"||1"_s}));
@@ -62,7 +68,6 @@ private Q_SLOTS:
                           "Attachments (MemberId, AttachmentsName, AttachmentVersion, Attachments) SELECT 1, 'a.txt', "
                           "i, randomblob(1000000) FROM n");
         const QString path = m_folder->write(u"a.txt"_s, "one");
-        CaughtErrors errors;
         FileAnswers files({path});
         BoxAnswers boxes({QMessageBox::Ok});
         const qint64 before = bytesRead();
@@ -76,70 +81,32 @@ private Q_SLOTS:
         QVERIFY2(read < 5'000'000, qPrintable(QString::number(read)));
     }
 
-    void whatCannotBeAddedEndsInTheReport_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("error");
-        QTest::newRow("apostrophe") << u"it's.txt"_s << -2147217900;
-        QTest::newRow("version 32767 is the last") << u"full.txt"_s << 6;
-        QTest::newRow("version of another tool, the last of 32 bits") << u"over.txt"_s << 6;
-    }
-    void whatCannotBeAddedEndsInTheReport()
-    {
-        QFETCH(QString, name);
-        QFETCH(int, error);
-        m_folder->execute("INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion) VALUES"
-                          " (2, 'full.txt', 32767), (2, 'over.txt', 2147483647)");
-        CaughtErrors errors;
-        OpenDossier dossier;
-        FileAnswers files({m_folder->write(name, "x")});
-        dossier->Frame4->butAddAttachement->click();
-        QCOMPARE(errors.takeNumber(), error);
-        QCOMPARE(m_folder->row("SELECT count(*) FROM Attachments"), u"2"_s);
-        QCOMPARE(m_folder->row("PRAGMA integrity_check"), u"ok"_s);
-    }
-
-    void severalDroppedFilesAreAddedWithoutAMessage()
-    {
-        CaughtErrors errors;
-        BoxAnswers boxes;
-        OpenDossier dossier;
-        drop({QUrl::fromLocalFile(m_folder->write(u"a.txt"_s, "a")),
-              QUrl::fromLocalFile(m_folder->write(u"b.txt"_s, "b"))},
-             *dossier->Frame4);
-        QTRY_COMPARE(versions(*dossier->Frame4), (QStringList{u"b.txt 1"_s, u"a.txt 1"_s}));
-    }
-
-    void unusualFilesComeBackWithOneByteMore_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("content");
-        QTest::newRow("empty") << u"empty.bin"_s << QByteArray();
-        QTest::newRow("zeros inside") << u"zeros.bin"_s << QByteArray("\0a\0\0", 4);
-        QTest::newRow("a backslash") << u"report\\2001.txt"_s << QByteArray("y");
-        QTest::newRow("a dot first") << u".profile"_s << QByteArray("z");
-        QTest::newRow("outside ASCII") << u"Grüße 日本.txt"_s << QByteArray("x");
-    }
     void unusualFilesComeBackWithOneByteMore()
     {
-        QFETCH(QString, name);
-        QFETCH(QByteArray, content);
-        CaughtErrors errors;
-        OpenDossier dossier;
-        AttachmentsTab &tab = *dossier->Frame4;
-        drop({QUrl::fromLocalFile(m_folder->write(name, content))}, tab);
-        QTRY_COMPARE(tab.lstAttachement->ListItems.Count(), 1);
-        select(*tab.lstAttachement, 1);
-        Launches launches;
-        dossier.choose("MnuView");
-        QCOMPARE(launches.paths, QStringList(m_folder->path(u"temp/"_s + name)));
-        QCOMPARE(contentOf(launches.paths[0]), content + '\0');
+        const std::pair<QString, QByteArray> files[] = {{u"empty.bin"_s, {}},
+                                                        {u"zeros.bin"_s, QByteArray("\0a\0\0", 4)},
+                                                        {u"report\\2001.txt"_s, "y"},
+                                                        {u".profile"_s, "z"},
+                                                        {u"Grüße 日本.txt"_s, "x"}};
         const QString saved = m_folder->path(u"saved"_s);
         m_folder->write(u"SAVED"_s, "another's");
-        FileAnswers files({saved});
-        dossier.choose("MnuSaveAs");
-        QCOMPARE(files.name, name);
-        QCOMPARE(contentOf(saved), content + '\0');
+        for (const auto &[name, content] : files) {
+            m_folder->execute("DELETE FROM Attachments");
+            OpenDossier dossier;
+            AttachmentsTab &tab = *dossier->Frame4;
+            drop({QUrl::fromLocalFile(m_folder->write(name, content))}, tab);
+            QTRY_COMPARE(tab.lstAttachement->ListItems.Count(), 1);
+            select(*tab.lstAttachement, 1);
+            Launches launches;
+            dossier.choose("MnuView");
+            QCOMPARE(launches.paths, QStringList(m_folder->path(u"temp/"_s + name)));
+            QCOMPARE(contentOf(launches.paths[0]), content + '\0');
+            FileAnswers answers({saved});
+            dossier.choose("MnuSaveAs");
+            QCOMPARE(answers.name, name);
+            QCOMPARE(contentOf(saved), content + '\0');
+            QVERIFY(QFile::remove(saved));
+        }
         QCOMPARE(contentOf(m_folder->path(u"SAVED"_s)), "another's");
     }
 
@@ -148,7 +115,6 @@ private Q_SLOTS:
         m_folder->execute("INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion, Attachments) VALUES"
                           " (1, 'a.txt', 1, x'6C6F6E67657200'), (1, 'a.txt', 2, x'78797A00')");
         QVERIFY(QDir(m_folder->path(u"temp"_s)).removeRecursively());
-        CaughtErrors errors;
         Launches launches;
         OpenDossier dossier;
         AttachmentsTab &tab = *dossier->Frame4;
@@ -160,108 +126,89 @@ private Q_SLOTS:
         QCOMPARE(contentOf(m_folder->path(u"Temp/a.txt"_s)), QByteArray("xyz\0er\0", 7));
     }
 
-    void savingEndsSilently()
+    // Viewing ends in the report, saving silently.
+    void whatIsNotThereIsNeitherSavedNorViewed()
     {
         m_folder->execute("INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion, Attachments) VALUES"
                           " (1, 'a.txt', 1, x'00'), (1, 'it''s', 1, x'00'), (1, 'null', 1, NULL)");
-        CaughtErrors errors;
-        BoxAnswers boxes;
+        BoxAnswers none;
         OpenDossier dossier;
         AttachmentsTab &tab = *dossier->Frame4;
+        const auto viewed = [&dossier] {
+            dossier.choose("MnuView");
+            return dossier.errors.takeNumber();
+        };
         tab.lstAttachement->setCurrentItem(nullptr);
-        dossier.choose("MnuSaveAs"); // nothing is selected
+        dossier.choose("MnuSaveAs");
+        QCOMPARE(viewed(), 91);
         select(*tab.lstAttachement, 2);
-        QCOMPARE(tab.lstAttachement->ListItems(2).Text(), u"it's"_s);
-        dossier.choose("MnuSaveAs"); // a broken statement
+        QCOMPARE(tab.lstAttachement->ListItems(2).Text(), u"it's"_s); // breaks the statement
+        dossier.choose("MnuSaveAs");
+        QCOMPARE(viewed(), -2147217900);
         select(*tab.lstAttachement, 3);
         FileAnswers files({QString(), QString()});
         dossier.choose("MnuSaveAs");    // cancelled
         tab.butAddAttachement->click(); // this too
         QCOMPARE(m_folder->row("SELECT count(*) FROM Attachments"), u"3"_s);
         QVERIFY(!QFile::exists(m_folder->path(u"a.txt"_s)));
-    }
-
-    void viewingWhatIsNotThereEndsInTheReport()
-    {
-        m_folder->execute("INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion, Attachments) VALUES"
-                          " (1, 'a.txt', 1, x'00'), (1, 'it''s', 1, x'00')");
-        CaughtErrors errors;
-        OpenDossier dossier;
-        AttachmentsTab &tab = *dossier->Frame4;
-        tab.lstAttachement->setCurrentItem(nullptr);
-        dossier.choose("MnuView");
-        QCOMPARE(errors.takeNumber(), 91);
-        select(*tab.lstAttachement, 1);
-        dossier.choose("MnuView");
-        QCOMPARE(errors.takeNumber(), -2147217900); // an apostrophe in the name
         QDir(m_folder->folder()).mkpath(u"temp/a.txt"_s);
-        select(*tab.lstAttachement, 2);
-        dossier.choose("MnuView");
-        QCOMPARE(errors.takeNumber(), 75); // the copy cannot be written
+        QCOMPARE(viewed(), 75); // the copy cannot be written
         QDir(m_folder->folder()).rmdir(u"temp/a.txt"_s);
         m_folder->execute("DELETE FROM Attachments");
-        dossier.choose("MnuView");
-        QCOMPARE(errors.takeNumber(), 3021); // the row is gone
+        QCOMPARE(viewed(), 3021); // the row is gone
     }
 
-    void aStoredNameLeadsNowhereElse_data()
-    {
-        QTest::addColumn<QByteArray>("name");
-        QTest::newRow("the data file") << QByteArray("../Tolmark.mdb");
-        QTest::newRow("a new file") << QByteArray("../evil.txt");
-        QTest::newRow("a link in the folder") << QByteArray("link");
-    }
     void aStoredNameLeadsNowhereElse()
     {
-        QFETCH(QByteArray, name);
         QVERIFY(QFile::link(m_folder->file(), m_folder->path(u"temp/link"_s)));
         m_folder->execute("INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion, Attachments) VALUES"
-                          " (1, '" +
-                          name + "', 1, x'00')");
-        CaughtErrors errors;
+                          " (1, 'link', 1, x'00'), (1, '../evil.txt', 1, x'00'), (1, '../Tolmark.mdb', 1, x'00')");
         Launches launches;
         OpenDossier dossier;
-        select(*dossier->Frame4->lstAttachement, 1);
-        dossier.choose("MnuView");
-        QCOMPARE(errors.takeNumber(), 75);
+        for (const int line : {1, 2, 3}) {
+            select(*dossier->Frame4->lstAttachement, line);
+            dossier.choose("MnuView");
+            QCOMPARE(dossier.errors.takeNumber(), 75);
+            if (line > 1)
+                dossier.choose("MnuSaveAs"); // no dialog suggests the name
+        }
+        QCOMPARE(dossier->Frame4->lstAttachement->ListItems(1).Text(), u"link"_s);
         QCOMPARE(launches.paths, QStringList());
         QVERIFY(!QFile::exists(m_folder->path(u"evil.txt"_s)));
         QCOMPARE(m_folder->row("PRAGMA integrity_check"), u"ok"_s);
-        if (name != "link")
-            dossier.choose("MnuSaveAs"); // no dialog suggests it
     }
 
-    void whatCannotBeTakenInADropGivesTheMessage_data()
+    void severalFilesAreDroppedAndWhatCannotBeTakenGivesTheMessage()
     {
-        QTest::addColumn<QString>("second"); // what follows a good file; a text when it is no path
-        QTest::addColumn<QString>("left");
-        QTest::newRow("no file list") << u"just a text"_s << u"0"_s;
-        QTest::newRow("folder") << u"folder"_s << u"1"_s;
-        QTest::newRow("missing file beside its like") << u"gone.txt"_s << u"1"_s;
-        QTest::newRow("apostrophe") << u"it's.txt"_s << u"1"_s;
-    }
-    void whatCannotBeTakenInADropGivesTheMessage()
-    {
-        QFETCH(QString, second);
-        QFETCH(QString, left);
         m_folder->write(u"it's.txt"_s, "x");
         m_folder->write(u"GONE.txt"_s, "x");
         QDir(m_folder->folder()).mkdir(u"folder"_s);
-        CaughtErrors errors;
-        BoxAnswers boxes({QMessageBox::Ok});
         OpenDossier dossier;
         AttachmentsTab &tab = *dossier->Frame4;
-        if (second == u"just a text")
-            drop({}, tab, second);
-        else
-            drop({QUrl::fromLocalFile(m_folder->write(u"a.txt"_s, "a")), QUrl::fromLocalFile(m_folder->path(second))},
+        {
+            BoxAnswers none;
+            drop({QUrl::fromLocalFile(m_folder->write(u"a.txt"_s, "a")),
+                  QUrl::fromLocalFile(m_folder->write(u"b.txt"_s, "b"))},
                  tab);
-        QTRY_COMPARE(boxes.seen.size(), 1);
-        QCOMPARE(boxes.seen[0].text, u"Currently you can't drag and drop straight from that application\r\n"
-                                     "Try dragging and dropping from the desktop then to Brenlow Premium."_s);
-        QCOMPARE(boxes.seen[0].icon, QMessageBox::Information);
-        QCOMPARE(QString::number(tab.lstAttachement->ListItems.Count()), left); // the list was loaded again
-        QCOMPARE(m_folder->row("SELECT count(*) FROM Attachments"), left);
+            QTRY_COMPARE(versions(tab), (QStringList{u"b.txt 1"_s, u"a.txt 1"_s}));
+        }
+        int added = 2;
+        // What follows a good file; a text alone. The missing file has its like beside it.
+        for (const QString &second : {u"just a text"_s, u"folder"_s, u"gone.txt"_s, u"it's.txt"_s}) {
+            BoxAnswers boxes({QMessageBox::Ok});
+            if (second == u"just a text") {
+                drop({}, tab, second);
+            } else {
+                const QString good = m_folder->write(QString::number(++added), "a");
+                drop({QUrl::fromLocalFile(good), QUrl::fromLocalFile(m_folder->path(second))}, tab);
+            }
+            QTRY_COMPARE(boxes.seen.size(), 1);
+            QCOMPARE(boxes.seen[0].text, u"Currently you can't drag and drop straight from that application\r\n"
+                                         "Try dragging and dropping from the desktop then to Brenlow Premium."_s);
+            QCOMPARE(boxes.seen[0].icon, QMessageBox::Information);
+            QCOMPARE(tab.lstAttachement->ListItems.Count(), added); // the list was loaded again
+            QCOMPARE(m_folder->row("SELECT count(*) FROM Attachments"), QString::number(added));
+        }
     }
 
 private:

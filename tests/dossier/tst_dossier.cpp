@@ -28,78 +28,74 @@ private Q_SLOTS:
         m_folder->execute(oneMember);
     }
 
-    void eachBoxShowsItsColumnAndUpdateWritesIt_data()
-    {
-        QTest::addColumn<QByteArray>("table");
-        QTest::addColumn<QByteArrayList>("columns");
-        QTest::addColumn<QByteArrayList>("boxes");
-        QTest::addColumn<QByteArrayList>("notWritten");
-        QTest::addColumn<QByteArray>("state");
-        QTest::addColumn<QByteArray>("button");
-        const auto words = [](const char *text) { return QByteArray(text).split(' '); };
-        QTest::newRow("member")
-            << QByteArray("MemberInformation")
-            << words("FirstName MiddleName LastName AddressOne AddressTwo City Zip HomePhone CellPhone EMailAddress")
-            << words("txtFirstName txtMiddleName txtLastName txtAddressOne txtAddressTwo txtCity txtZip txtHomePhone "
-                     "txtCellPhone txtEMailAddress")
-            << words("City") << QByteArray("LstState") << QByteArray("butEditMember");
-        QTest::newRow("employer")
-            << QByteArray("EmployerInformation")
-            << words("Name AddressOne AddressTwo City Zip PhoneNumber Extension EMailAddress WebAddress")
-            << words("txtEmployerName txtEmployerAddressOne txtEmployerAddressTwo txtEmployerCity txtEmployerZip "
-                     "txtEmployerPhoneNumber txtEmployerExtension txtEmail txtWebAddress")
-            << words("Extension") << QByteArray("LstEmployerState") << QByteArray("butEditEmployer");
-    }
     // Every column holds another text, so that no two boxes and no two columns can stand for one another.
     void eachBoxShowsItsColumnAndUpdateWritesIt()
     {
-        QFETCH(QByteArray, table);
-        QFETCH(QByteArrayList, columns);
-        QFETCH(QByteArrayList, boxes);
-        QFETCH(QByteArrayList, notWritten);
-        QFETCH(QByteArray, state);
-        QFETCH(QByteArray, button);
-        for (const QByteArray &column : columns)
-            m_folder->execute("UPDATE " + table + " SET State = 'ohio', " + column + " = '<" + column + ">'");
-        CaughtErrors errors;
-        BoxAnswers answers({QMessageBox::Ok});
-        OpenDossier dossier;
-        QStringList shown;
-        QStringList stored;
-        QStringList expected;
-        for (int at = 0; at < boxes.size(); ++at) {
-            desktop::TextBox &box = dossier.box(boxes[at]);
-            shown << box.text();
-            stored << u'<' + QString::fromLatin1(columns[at]) + u'>';
-            expected << (notWritten.contains(columns[at]) ? stored.last() : QString::fromLatin1(boxes[at]));
-            box.setText(QString::fromLatin1(boxes[at]));
+        struct Page
+        {
+            QByteArray table, columns, boxes, notWritten, state, button;
+        };
+        const Page member{"MemberInformation",
+                          "FirstName MiddleName LastName AddressOne AddressTwo City Zip HomePhone CellPhone "
+                          "EMailAddress",
+                          "txtFirstName txtMiddleName txtLastName txtAddressOne txtAddressTwo txtCity txtZip "
+                          "txtHomePhone txtCellPhone txtEMailAddress",
+                          "City",
+                          "LstState",
+                          "butEditMember"};
+        const Page employer{"EmployerInformation",
+                            "Name AddressOne AddressTwo City Zip PhoneNumber Extension EMailAddress WebAddress",
+                            "txtEmployerName txtEmployerAddressOne txtEmployerAddressTwo txtEmployerCity "
+                            "txtEmployerZip txtEmployerPhoneNumber txtEmployerExtension txtEmail txtWebAddress",
+                            "Extension",
+                            "LstEmployerState",
+                            "butEditEmployer"};
+        for (const Page &page : {member, employer}) {
+            const QByteArrayList columns = page.columns.split(' ');
+            const QByteArrayList boxes = page.boxes.split(' ');
+            for (const QByteArray &column : columns)
+                m_folder->execute("UPDATE " + page.table + " SET State = 'ohio', " + column + " = '<" + column + ">'");
+            BoxAnswers answers({QMessageBox::Ok});
+            OpenDossier dossier;
+            QStringList shown;
+            QStringList stored;
+            QStringList expected;
+            for (int at = 0; at < boxes.size(); ++at) {
+                desktop::TextBox &box = dossier.box(boxes[at]);
+                shown << box.text();
+                stored << u'<' + QString::fromLatin1(columns[at]) + u'>';
+                expected << (page.notWritten == columns[at] ? stored.last() : QString::fromLatin1(boxes[at]));
+                box.setText(QString::fromLatin1(boxes[at]));
+            }
+            QCOMPARE(shown, stored);
+            QCOMPARE(dossier.states(page.state).Text(), u"Ohio"_s);
+            dossier.states(page.state).setText(u"Utah"_s);
+            dossier.click(page.button);
+            QCOMPARE(answers.seen[0].text, u"Changes have been saved"_s);
+            QCOMPARE(answers.seen[0].title, u"Tolmark Lite"_s);
+            QCOMPARE(answers.seen[0].icon, QMessageBox::Information);
+            const QByteArray select =
+                "SELECT " + columns.join(", ") + ", State FROM " + page.table + " WHERE MemberId = ";
+            QCOMPARE(m_folder->row(select + '1'), (expected + QStringList(u"ohio"_s)).join(u'|'));
+            QCOMPARE(m_folder->row(select + '2'), (stored + QStringList(u"ohio"_s)).join(u'|'));
         }
-        QCOMPARE(shown, stored);
-        QCOMPARE(dossier.states(state).Text(), u"Ohio"_s);
-        dossier.states(state).setText(u"Utah"_s);
-        dossier.click(button);
-        QCOMPARE(answers.seen[0].text, u"Changes have been saved"_s);
-        QCOMPARE(answers.seen[0].title, u"Tolmark Lite"_s);
-        QCOMPARE(answers.seen[0].icon, QMessageBox::Information);
-        const QByteArray select = "SELECT " + columns.join(", ") + ", State FROM " + table + " WHERE MemberId = ";
-        QCOMPARE(m_folder->row(select + '1'), (expected + QStringList(u"ohio"_s)).join(u'|'));
-        QCOMPARE(m_folder->row(select + '2'), (stored + QStringList(u"ohio"_s)).join(u'|'));
     }
 
     void anInactiveMemberHasEmptyBoxesAndFullLists()
     {
-        CaughtErrors errors;
         OpenDossier dossier(2);
         QVERIFY(dossier.box("txtLastName").text().isEmpty());
         QCOMPARE(dossier.box("txtEmployerName").text(), u"Hall"_s);
         QCOMPARE(lines(*dossier->Frame3->lstInterest), QStringList(u"Sailing|"_s));
+        dossier.turnTo(dossier->Frame6);
+        QTest::mouseDClick(dossier->Frame6->lstPhoneNotes->viewport(), Qt::LeftButton); // no note to open
+        QCOMPARE(dossier.errors.takeNumber(), 91);
     }
 
     void updateOfTheEmployerWritesEveryRowOrNone()
     {
         m_folder->execute("DELETE FROM EmployerInformation WHERE MemberId = 2; "
                           "INSERT INTO EmployerInformation (MemberId, Name, Extension) VALUES (1, 'Second', '13')");
-        CaughtErrors errors;
         BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok});
         for (const qint16 member : {qint16(1), qint16(2)}) { // the second has none
             OpenDossier dossier(member);
@@ -113,7 +109,6 @@ private Q_SLOTS:
 
     void aMemberDeletedMeanwhileStaysOnTheScreen()
     {
-        CaughtErrors errors;
         BoxAnswers boxes({QMessageBox::Ok});
         OpenDossier dossier;
         m_folder->execute("DELETE FROM MemberInformation WHERE MemberId = 1");
@@ -126,7 +121,6 @@ private Q_SLOTS:
 
     void everyCloseButtonClosesWithoutAQuestion()
     {
-        CaughtErrors errors;
         BoxAnswers boxes;
         for (const char *button : {"butCloseMember", "butEmployerClose", "butCloseEvent", "butCloseContributions",
                                    "butCLoseAttachment", "butCloseInterest", "butClosePhone"}) {
@@ -137,66 +131,44 @@ private Q_SLOTS:
         }
     }
 
-    void deletion_data()
-    {
-        QTest::addColumn<QByteArray>("list");
-        QTest::addColumn<QByteArray>("item");
-        QTest::addColumn<QString>("thing");
-        QTest::addColumn<QString>("confirmation");
-        QTest::addColumn<int>("linesAtConfirmation");
-        QTest::addColumn<QByteArray>("table");
-        const auto row = [](const char *list, const char *item, const char *thing, const char *confirmation, int left,
-                            const char *table) {
-            QTest::newRow(item) << QByteArray(list) << QByteArray(item) << QString::fromLatin1(thing)
-                                << QString::fromLatin1(confirmation) << left << QByteArray(table);
-        };
-        row("lstAttachement", "MnuDeleteAttachment", "file", "Attachment deleted", 2, "Attachments");
-        row("lstContributions", "mnuDeleteContribution", "contribution", "Contribution deleted", 1, "Contributions");
-        row("lstEvent", "mnuDeleteEvent", "event", "Event deleted", 2, "EventMemberInfo");
-        row("lstInterest", "MnuDeleteInterest", "file", "Interest deleted", 1, "MemberInterest");
-        row("lstPhoneNotes", "mnuDeleteNote", "note", "Note deleted", 1, "MeetingInfo");
-    }
     // The first line stands for a No, the second for a Yes: exactly its row goes.
     void deletion()
     {
-        QFETCH(QByteArray, list);
-        QFETCH(QByteArray, item);
-        QFETCH(QString, thing);
-        QFETCH(QString, confirmation);
-        QFETCH(int, linesAtConfirmation);
-        QFETCH(QByteArray, table);
-        CaughtErrors errors;
+        const std::tuple<const char *, const char *, QString, QString, int, QByteArray> tabs[] = {
+            {"lstAttachement", "MnuDeleteAttachment", u"file"_s, u"Attachment deleted"_s, 2, "Attachments"},
+            {"lstContributions", "mnuDeleteContribution", u"contribution"_s, u"Contribution deleted"_s, 1,
+             "Contributions"},
+            {"lstEvent", "mnuDeleteEvent", u"event"_s, u"Event deleted"_s, 2, "EventMemberInfo"},
+            {"lstInterest", "MnuDeleteInterest", u"file"_s, u"Interest deleted"_s, 1, "MemberInterest"},
+            {"lstPhoneNotes", "mnuDeleteNote", u"note"_s, u"Note deleted"_s, 1, "MeetingInfo"}};
         OpenDossier dossier;
-        desktop::ListView &view = dossier.list(list);
-        select(view, 2);
-        const QString kept = view.ListItems(1).Tag;
-        const int rows = m_folder->row("SELECT count(*) FROM " + table).toInt();
-        {
-            BoxAnswers boxes({QMessageBox::No});
+        for (const auto &[list, item, thing, confirmation, linesAtConfirmation, table] : tabs) {
+            desktop::ListView &view = dossier.list(list);
+            select(view, 2);
+            const QString kept = view.ListItems(1).Tag;
+            const int rows = m_folder->row("SELECT count(*) FROM " + table).toInt();
+            BoxAnswers boxes({QMessageBox::No, QMessageBox::Yes, QMessageBox::Ok});
+            QList<int> linesSeen;
+            boxes.atBox = [&] { linesSeen << view.ListItems.Count(); };
             dossier.choose(item);
             QCOMPARE(boxes.seen[0].text,
                      u"Warning you are about to delete the selected "_s + thing + u"\r\nDo you want to continue"_s);
             QCOMPARE(boxes.seen[0].title, u"Tolmark Lite"_s);
             QCOMPARE(boxes.seen[0].icon, QMessageBox::NoIcon);
             QCOMPARE(boxes.seen[0].buttons, QMessageBox::Yes | QMessageBox::No);
+            dossier.choose(item);
+            QCOMPARE(boxes.seen[2].text, confirmation);
+            QCOMPARE(boxes.seen[2].icon, QMessageBox::Information);
+            QCOMPARE(linesSeen, (QList{2, 2, linesAtConfirmation}));
+            QCOMPARE(view.ListItems.Count(), 1);
+            QCOMPARE(view.ListItems(1).Tag, kept);
+            QCOMPARE(m_folder->row("SELECT count(*) FROM " + table).toInt(), rows - 1);
         }
-        QCOMPARE(view.ListItems.Count(), 2);
-        BoxAnswers boxes({QMessageBox::Yes, QMessageBox::Ok});
-        int linesSeen = 0;
-        boxes.atBox = [&] { linesSeen = view.ListItems.Count(); };
-        dossier.choose(item);
-        QCOMPARE(boxes.seen[1].text, confirmation);
-        QCOMPARE(boxes.seen[1].icon, QMessageBox::Information);
-        QCOMPARE(linesSeen, linesAtConfirmation);
-        QCOMPARE(view.ListItems.Count(), 1);
-        QCOMPARE(view.ListItems(1).Tag, kept);
-        QCOMPARE(m_folder->row("SELECT count(*) FROM " + table).toInt(), rows - 1);
     }
 
     // The focus marks a line as the current one without highlighting it: that is no selection.
     void withoutAHighlightedLineNothingIsDeleted()
     {
-        CaughtErrors errors;
         BoxAnswers boxes({QMessageBox::Yes, QMessageBox::Ok, QMessageBox::Yes});
         OpenDossier dossier;
         for (QWidget *tab : {static_cast<QWidget *>(dossier->Frame4), static_cast<QWidget *>(dossier->Frame3)}) {
@@ -211,9 +183,9 @@ private Q_SLOTS:
         QCOMPARE(boxes.seen[1].text, u"Nothing selected"_s);
         QCOMPARE(boxes.seen[1].icon, QMessageBox::Information);
         dossier.choose("MnuDeleteInterest");
-        QCOMPARE(errors.takeNumber(), 91);
+        QCOMPARE(dossier.errors.takeNumber(), 91);
         dossier.choose("mnuInterestEdit");
-        QCOMPARE(errors.takeNumber(), 91);
+        QCOMPARE(dossier.errors.takeNumber(), 91);
         QCOMPARE(m_folder->row("SELECT (SELECT count(*) FROM Attachments) + (SELECT count(*) FROM MemberInterest)"),
                  u"5"_s);
     }
@@ -223,7 +195,6 @@ private Q_SLOTS:
     void aLineWithoutKeyIsNotDeleted()
     {
         m_folder->execute("UPDATE Attachments SET AttachmentsName = NULL; UPDATE MeetingInfo SET MeetingDate = NULL");
-        CaughtErrors errors;
         BoxAnswers boxes({QMessageBox::Yes, QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Yes});
         OpenDossier dossier;
         select(dossier.list("lstAttachement"), 1);
@@ -233,7 +204,7 @@ private Q_SLOTS:
         QCOMPARE(boxes.seen.size(), 3); // "Changes have been saved"
         select(dossier.list("lstPhoneNotes"), 1);
         dossier.choose("mnuDeleteNote");
-        QCOMPARE(errors.takeNumber(), -2147217900);
+        QCOMPARE(dossier.errors.takeNumber(), -2147217900);
         QCOMPARE(m_folder->row("SELECT (SELECT count(*) FROM Attachments) + (SELECT count(*) FROM MeetingInfo)"),
                  u"4"_s);
     }
@@ -247,7 +218,6 @@ private Q_SLOTS:
             {"lstAttachement", "MnuViewOptions", u"Save As, , View, Delete Attachment"_s},
             {"lstContributions", "mnuContributions", u"Delete Contribution"_s},
         };
-        CaughtErrors errors;
         OpenDossier dossier;
         for (const auto &[list, menu, items] : menus) {
             desktop::ListView &view = dossier.list(list);
@@ -272,40 +242,35 @@ private Q_SLOTS:
         }
     }
 
-    void tabStopsFollowTheEye_data()
-    {
-        QTest::addColumn<int>("page");
-        for (int page = 0; page < 7; ++page)
-            QTest::addRow("page %d", page) << page;
-    }
     void tabStopsFollowTheEye()
     {
-        QFETCH(int, page);
-        CaughtErrors errors;
         OpenDossier dossier;
         QApplication::setActiveWindow(&*dossier);
         QVERIFY(QTest::qWaitForWindowActive(&*dossier));
-        dossier->SSTab1->setCurrentIndex(page);
-        for (const char *add : {"butAssignEvent", "butAddContributions", "butAddInterest"}) {
-            if (auto *button = child<QPushButton>(*dossier, add); button->isVisible())
-                button->click();
+        for (int page = 0; page < 7; ++page) {
+            dossier->SSTab1->setCurrentIndex(page);
+            for (const char *add : {"butAssignEvent", "butAddContributions", "butAddInterest"}) {
+                if (auto *button = child<QPushButton>(*dossier, add); button->isVisible())
+                    button->click();
+            }
+            dossier->SSTab1->tabBar()->setFocus();
+            QStringList stops;
+            QPoint before(-1, -1);
+            for (QWidget *bar = QApplication::focusWidget();;) {
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+                QWidget *stop = QApplication::focusWidget();
+                if (stop == bar)
+                    break;
+                stops << stop->objectName();
+                QVERIFY2(!stop->objectName().isEmpty() && stops.size() < 20, qPrintable(stops.join(u' ')));
+                const QPoint place = stop->mapTo(&*dossier, QPoint());
+                const bool follows =
+                    place.y() > before.y() + 5 || (place.y() > before.y() - 5 && place.x() > before.x());
+                QVERIFY2(follows, qPrintable(stops.join(u' ')));
+                before = place;
+            }
+            QVERIFY(stops.size() >= 3);
         }
-        dossier->SSTab1->tabBar()->setFocus();
-        QStringList stops;
-        QPoint before(-1, -1);
-        for (QWidget *bar = QApplication::focusWidget();;) {
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-            QWidget *stop = QApplication::focusWidget();
-            if (stop == bar)
-                break;
-            stops << stop->objectName();
-            QVERIFY2(!stop->objectName().isEmpty() && stops.size() < 20, qPrintable(stops.join(u' ')));
-            const QPoint place = stop->mapTo(&*dossier, QPoint());
-            const bool follows = place.y() > before.y() + 5 || (place.y() > before.y() - 5 && place.x() > before.x());
-            QVERIFY2(follows, qPrintable(stops.join(u' ')));
-            before = place;
-        }
-        QVERIFY(stops.size() >= 3);
     }
 
 private:

@@ -24,27 +24,25 @@ desktop::TextBox &box(FrmAddEditMember &window, const char *name)
     return *child<desktop::TextBox>(window, name);
 }
 
-FrmAddEditMember *openWindow()
-{
-    auto *window = desktop::showNew<FrmAddEditMember>();
-    QApplication::setActiveWindow(window);
-    if (!QTest::qWaitForWindowActive(window))
-        qFatal("the window never became active");
-    return window;
-}
-
 } // namespace
 
 class tst_NewMember : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { m_folder.emplace(DataStoreFolder::Content::Empty); }
+    void init()
+    {
+        m_folder.emplace(DataStoreFolder::Content::Empty);
+        m_errors.emplace();
+    }
+    void cleanup() { m_errors.reset(); }
 
     void everythingTypedByKeyboardIsStored()
     {
-        CaughtErrors errors;
-        QPointer<FrmAddEditMember> window = openWindow();
+        BoxAnswers none; // an unexpected one would wait for an answer
+        QPointer<FrmAddEditMember> window = desktop::showNew<FrmAddEditMember>();
+        QApplication::setActiveWindow(window);
+        QVERIFY(QTest::qWaitForWindowActive(window));
         QCOMPARE(QApplication::focusWidget(), child(*window, "txtMemberFirstName"));
         type({u"Ann"_s, u"B"_s, u"Cole"_s, u"1 Main"_s, u"Flat 2"_s, u"Salem"_s, u"Virg"_s, u"97301"_s, u"555-1"_s,
               u"555-2"_s, u"555-3"_s, u"ann@x.org"_s});
@@ -71,32 +69,36 @@ private Q_SLOTS:
                  u"2|Chess:Sundays,Chess:"_s);
     }
 
-    void nothingIsSavedWithoutBothNames()
+    void nothingIsSavedWithoutBothNamesAndClosingAsksNothing()
     {
-        CaughtErrors errors;
-        BoxAnswers boxes; // and nothing is said
+        BoxAnswers none;
         for (const char *name : {"txtMemberFirstName", "txtMemberLastName"}) {
             FrmAddEditMember window;
             window.Show();
             box(window, name).setText(u"x"_s);
             window.Command1->click();
             QVERIFY(window.isVisible());
+            window.Command2->click();
+            QVERIFY(!window.isVisible());
         }
+        frmAddInterest small;
+        small.Show();
+        small.Command1->click();
+        QVERIFY(small.isVisible());
+        small.Command2->click();
+        QVERIFY(!small.isVisible());
         QCOMPARE(m_folder->row("SELECT count(*) FROM MemberInformation"), u"0"_s);
     }
 
     // What was written before the statement that breaks stays.
     void anApostropheEndsInTheReport()
     {
-        CaughtErrors errors;
         for (const char *name : {"txtCity", "txtEmployerName"}) {
             FrmAddEditMember window;
-            window.Show();
-            box(window, "txtMemberFirstName").setText(u"Ann"_s);
-            box(window, "txtMemberLastName").setText(u"Cole"_s);
+            enterAnnCole(window);
             box(window, name).setText(u"O'Fallon"_s);
             window.Command1->click();
-            QCOMPARE(errors.takeNumber(), -2147217900);
+            QCOMPARE(m_errors->takeNumber(), -2147217900);
         }
         QCOMPARE(m_folder->row("SELECT (SELECT count(*) FROM MemberInformation), count(*) FROM EmployerInformation"),
                  u"1|0"_s);
@@ -104,12 +106,9 @@ private Q_SLOTS:
 
     void theSameMemberTwiceGivesTheInterestsToTheFirst()
     {
-        CaughtErrors errors;
         for (int round = 0; round < 2; ++round) {
             FrmAddEditMember window;
-            window.Show();
-            box(window, "txtMemberFirstName").setText(u"Ann"_s);
-            box(window, "txtMemberLastName").setText(u"Cole"_s);
+            enterAnnCole(window);
             box(window, "txtMemberZip").setText(QString::number(round));
             addInterest(window, u"Chess"_s, {});
             window.Command1->click();
@@ -121,7 +120,6 @@ private Q_SLOTS:
 
     void theEntryOfAnInterestHasTwoStates()
     {
-        CaughtErrors errors;
         FrmAddEditMember window;
         window.Show();
         window.SSTab1->setCurrentIndex(2);
@@ -161,23 +159,14 @@ private Q_SLOTS:
         QVERIFY(std::is_sorted(statesList().cbegin(), statesList().cend()));
     }
 
-    void closingAsksNothing()
+private:
+    static void enterAnnCole(FrmAddEditMember &window)
     {
-        CaughtErrors errors;
-        BoxAnswers boxes;
-        QPointer<FrmAddEditMember> window = openWindow();
-        box(*window, "txtMemberFirstName").setText(u"Ann"_s);
-        window->Command2->click();
-        QTRY_VERIFY(!window);
-        frmAddInterest small;
-        small.Show();
-        small.Command1->click();
-        QVERIFY(small.isVisible());
-        small.Command2->click();
-        QVERIFY(!small.isVisible());
+        window.Show();
+        box(window, "txtMemberFirstName").setText(u"Ann"_s);
+        box(window, "txtMemberLastName").setText(u"Cole"_s);
     }
 
-private:
     static void addInterest(FrmAddEditMember &window, const QString &interest, const QString &description)
     {
         InterestEntry &entry = *window.Frame3;
@@ -188,6 +177,7 @@ private:
     }
 
     std::optional<DataStoreFolder> m_folder;
+    std::optional<CaughtErrors> m_errors;
 };
 
 QTEST_MAIN(tst_NewMember)

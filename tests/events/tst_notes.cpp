@@ -22,35 +22,12 @@ frmMeeting *newNote(const QString &memberId)
     });
 }
 
-frmMeeting *storedNote()
-{
-    return desktop::showNew<frmMeeting>([](frmMeeting &window) {
-        window.EventDate = u"1/30/2026"_s;
-        window.EventType = u"Member Meeting"_s;
-        window.EventStartTime = u"10:05 AM"_s;
-        window.EventEndTime = u"10:25 AM"_s;
-        window.EventPurpose = u"Annual dues"_s;
-        window.EventCategory = u"Training"_s;
-        window.EventNotes = u"First line\nSecond line, O'Brien & <b>"_s;
-        window.setCaption(u"Tolmark View Event"_s);
-    });
-}
-
 QStringList itemsOf(const desktop::ListBox &list)
 {
     QStringList items;
     for (int row = 0; row < list.count(); ++row)
         items << list.item(row)->text();
     return items;
-}
-
-QPointer<frmSelectClient> openPicker()
-{
-    for (QWidget *widget : QApplication::allWidgets()) {
-        if (auto *picker = qobject_cast<frmSelectClient *>(widget); picker && picker->isVisible())
-            return picker;
-    }
-    return {};
 }
 
 } // namespace
@@ -67,17 +44,18 @@ private Q_SLOTS:
                           "('Membership', -1), ('Archive', 0); INSERT INTO EventInformation (EventName, Active) VALUES "
                           "('Picnic', -1), ('Cancelled', 0), (NULL, -1)");
         setTime(u"2026-01-31T14:05:00"_s);
+        m_errors.emplace();
     }
     void cleanup()
     {
+        m_errors.reset();
         runtime::setClock({});
         desktop::setPrintFile({});
     }
 
-    void aNewNoteOffersWhatIsActive()
+    void aNewNoteOffersWhatIsActiveAndItsButtonsTakeTheTime()
     {
         const UnitedStates region;
-        CaughtErrors errors;
         const std::unique_ptr<frmMeeting> window(newNote({}));
         QCOMPARE(itemsOf(*window->lstEventType), (QStringList{u"Phone Conversation"_s, u"Member Meeting"_s,
                                                               u"Member Conference"_s, u"Picnic"_s, QString()}));
@@ -89,13 +67,7 @@ private Q_SLOTS:
         QCOMPARE(window->txtEventDate->text(), u"1/31/2026"_s);
         QCOMPARE(window->txtEventStartTime->text(), u"2:05 PM"_s);
         QCOMPARE(window->txtEventEndTime->text(), QString());
-    }
 
-    void theButtonsTakeTheTime()
-    {
-        const UnitedStates region;
-        CaughtErrors errors;
-        const std::unique_ptr<frmMeeting> window(newNote({}));
         window->lstEventType->setText(u"Picnic"_s);
         window->lstCategory->setText(u"Membership"_s);
         window->txtEventPurpose->setText(u"x"_s);
@@ -118,7 +90,6 @@ private Q_SLOTS:
 
     void aNoteOfAMemberIsStored()
     {
-        CaughtErrors errors;
         QPointer<frmMeeting> window = newNote(u"7"_s);
         window->lstEventType->setText(u"Picnic"_s);
         window->lstCategory->setText(u"Membership"_s);
@@ -134,7 +105,6 @@ private Q_SLOTS:
 
     void aSaveThatCannotBe()
     {
-        CaughtErrors errors;
         const std::unique_ptr<frmMeeting> window(newNote(u"7"_s));
         const auto saveWith = [&window](const QString &start, const QString &title) {
             window->txtEventStartTime->setText(start);
@@ -148,31 +118,17 @@ private Q_SLOTS:
         QCOMPARE(saveWith({}, u"x"_s).title, u"Halvic"_s);
         QCOMPARE(saveWith({}, u"x"_s).icon, QMessageBox::Critical);
         QVERIFY(window->isVisible());
-        QCOMPARE(m_folder->rows(everyNote), QStringList());
-    }
-
-    void aTimeThatIsNoneIsRefusedByTheColumn()
-    {
-        CaughtErrors errors;
-        const std::unique_ptr<frmMeeting> window(newNote(u"7"_s));
+        // A time that is none is refused by the column.
         window->txtEventStartTime->setText(u"early"_s);
         window->txtEventPurpose->setText(u"x"_s);
         window->cmdSave->click();
-        QCOMPARE(errors.takeNumber(), -2147217887);
+        QCOMPARE(m_errors->takeNumber(), -2147217887);
         QCOMPARE(m_folder->rows(everyNote), QStringList());
         QCOMPARE(m_folder->row("PRAGMA integrity_check"), u"ok"_s);
     }
 
-    void aNoteWithoutMemberGoesThroughThePicker_data()
-    {
-        QTest::addColumn<bool>("confirmed");
-        QTest::newRow("OK") << true;
-        QTest::newRow("closed by its border") << false;
-    }
     void aNoteWithoutMemberGoesThroughThePicker()
     {
-        QFETCH(bool, confirmed);
-        CaughtErrors errors;
         BoxAnswers boxes; // nothing is asked
         m_folder->execute("DELETE FROM \"Personal Information\"; INSERT INTO \"Personal Information\" "
                           "(PersonalInformationId, Active, \"First Name\", \"Middle Name\", \"Last Name\") VALUES "
@@ -180,46 +136,52 @@ private Q_SLOTS:
         desktop::MdiForm frame(u"MainWindow");
         frame.resize(1000, 760);
         frame.Show();
-        QPointer<frmMeeting> window = newNote({});
-        window->lstEventType->setText(u"Member Meeting"_s);
-        window->lstCategory->setText(u"Training"_s);
-        window->txtEventPurpose->setText(u"Call"_s);
-        window->txtEventNotes->setText(u"Text"_s);
-        window->cmdSave->click();
-        QTRY_VERIFY(!window);
-        const QPointer<frmSelectClient> picker = openPicker();
-        QVERIFY(picker);
-        QCOMPARE(m_folder->rows(everyNote), QStringList());
-        QCOMPARE(itemsOf(*picker->lstClient), (QStringList{u"Cole  Ann"_s, u"Dunn C Bea"_s}));
-        QCOMPARE(picker->lstClient->ListIndex(), 0);
-        QCOMPARE(picker->Width(), 4800.0);
-        QCOMPARE(picker->Height(), 5715.0);
-        QTest::keyClick(picker->lstClient, Qt::Key_Down);
-        if (confirmed)
-            QTest::keyClick(picker->lstClient, Qt::Key_Return);
-        else
-            picker->parentWidget()->close();
-        QTRY_VERIFY(!picker);
-        const QStringList stored{u"NULL|13|2026-01-31 00:00:00|1899-12-30 14:05:00|1899-12-30 14:05:00|Member Meeting|"
-                                 "Training|Call|Text"_s};
-        QCOMPARE(m_folder->rows(everyNote), confirmed ? stored : QStringList());
-    }
-
-    void withNobodyToChooseThePickerFails()
-    {
-        CaughtErrors errors;
-        m_folder->execute("UPDATE \"Personal Information\" SET Active = 0");
+        for (const bool confirmed : {false, true}) { // closed by its border, or by Enter
+            QPointer<frmMeeting> window = newNote({});
+            window->lstEventType->setText(u"Member Meeting"_s);
+            window->lstCategory->setText(u"Training"_s);
+            window->txtEventPurpose->setText(u"Call"_s);
+            window->txtEventNotes->setText(u"Text"_s);
+            window->cmdSave->click();
+            QTRY_VERIFY(!window);
+            const QPointer<frmSelectClient> picker = child<frmSelectClient>(frame, "frmSelectClient");
+            QVERIFY(picker->isVisible());
+            QCOMPARE(m_folder->rows(everyNote), QStringList());
+            QCOMPARE(itemsOf(*picker->lstClient), (QStringList{u"Cole  Ann"_s, u"Dunn C Bea"_s}));
+            QCOMPARE(picker->lstClient->ListIndex(), 0);
+            QCOMPARE(picker->Width(), 4800.0);
+            QCOMPARE(picker->Height(), 5715.0);
+            QTest::keyClick(picker->lstClient, Qt::Key_Down);
+            if (confirmed)
+                QTest::keyClick(picker->lstClient, Qt::Key_Return);
+            else
+                picker->parentWidget()->close();
+            QTRY_VERIFY(!picker);
+            const QStringList stored{
+                u"NULL|13|2026-01-31 00:00:00|1899-12-30 14:05:00|1899-12-30 14:05:00|Member Meeting|"
+                "Training|Call|Text"_s};
+            QCOMPARE(m_folder->rows(everyNote), confirmed ? stored : QStringList());
+        }
+        m_folder->execute("UPDATE \"Personal Information\" SET Active = 0; DELETE FROM MeetingInfo");
         const std::unique_ptr<frmMeeting> window(newNote({}));
         window->txtEventPurpose->setText(u"Call"_s);
         window->cmdSave->click();
-        QCOMPARE(errors.takeNumber(), 380);
+        QCOMPARE(m_errors->takeNumber(), 380); // nobody to choose
         QCOMPARE(m_folder->rows(everyNote), QStringList());
     }
 
-    void aStoredNoteIsReadOnly()
+    void aStoredNoteIsReadOnlyAndPrinted()
     {
-        CaughtErrors errors;
-        const std::unique_ptr<frmMeeting> window(storedNote());
+        const std::unique_ptr<frmMeeting> window(desktop::showNew<frmMeeting>([](frmMeeting &note) {
+            note.EventDate = u"1/30/2026"_s;
+            note.EventType = u"Member Meeting"_s;
+            note.EventStartTime = u"10:05 AM"_s;
+            note.EventEndTime = u"10:25 AM"_s;
+            note.EventPurpose = u"Annual dues"_s;
+            note.EventCategory = u"Training"_s;
+            note.EventNotes = u"First line\nSecond line, O'Brien & <b>"_s;
+            note.setCaption(u"Tolmark View Event"_s);
+        }));
         QCOMPARE(itemsOf(*window->lstEventType), QStringList{u"Member Meeting"_s});
         QCOMPARE(itemsOf(*window->lstCategory), QStringList{u"Training"_s});
         const auto texts = [&window] {
@@ -243,12 +205,8 @@ private Q_SLOTS:
                 usable << button->objectName();
         }
         QCOMPARE(usable, (QStringList{u"cmdCancel"_s, u"cmdPrint"_s}));
-    }
-
-    void aNoteIsPrinted()
-    {
-        CaughtErrors errors;
-        const std::unique_ptr<frmMeeting> window(storedNote());
+        window->cmdPrint->click(); // without a printer
+        QCOMPARE(m_errors->takeNumber(), 482);
         const QString file = m_folder->path(u"note.pdf"_s);
         desktop::setPrintFile(file);
         window->cmdPrint->click();
@@ -258,15 +216,6 @@ private Q_SLOTS:
         QCOMPARE(lines, (QStringList{u"Annual dues"_s, QString(), u"Date : 1/30/2026"_s, QString(),
                                      u"Start Time : 10:05 AM  End Time : 10:25 AM"_s, QString(), u"Notes:"_s, QString(),
                                      u"First line"_s, u"Second line, O'Brien & <b>"_s, QString()}));
-    }
-
-    void withoutAPrinterPrintFails()
-    {
-        CaughtErrors errors;
-        const std::unique_ptr<frmMeeting> window(storedNote());
-        window->cmdPrint->click();
-        QCOMPARE(errors.takeNumber(), 482);
-        QCOMPARE(errors.takeNumber(), 0);
     }
 
 private:
@@ -279,6 +228,7 @@ private:
                                       "MeetingInfo";
 
     std::optional<DataStoreFolder> m_folder;
+    std::optional<CaughtErrors> m_errors;
 };
 
 QTEST_MAIN(tst_Notes)

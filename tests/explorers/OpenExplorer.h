@@ -25,6 +25,7 @@ public:
     QString listing() { return child<desktop::Label>(m_window, "LblMemberListing")->text(); }
     QString information() { return child<desktop::Label>(m_window, "LblMemberInformation")->text(); }
 
+    void refresh() { QTest::mouseClick(child<desktop::Label>(m_window, "LblMemberListing"), Qt::LeftButton); }
     void clickGroup(const QString &name)
     {
         for (int index = 1; index <= tree().Nodes.Count(); ++index) {
@@ -47,6 +48,11 @@ public:
         auto *bar = child<desktop::Toolbar>(m_window, "Toolbar1");
         QTest::mouseClick(bar->widgetForAction(bar->actions().constFirst()), Qt::LeftButton);
     }
+    void doubleClickRow(int row)
+    {
+        const QPoint middle = list().visualItemRect(&list().ListItems(row)).center();
+        QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, middle);
+    }
     QStringList column(int index)
     {
         QStringList texts;
@@ -61,6 +67,8 @@ public:
                 list().ListItems(row).setSelected(true);
         }
     }
+
+    CaughtErrors errors;
 
 private:
     Window m_window;

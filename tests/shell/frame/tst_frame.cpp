@@ -43,9 +43,10 @@ QAction &item(const char *name)
     return *child<QAction>(MDIBaseForm::frame(), name);
 }
 
-bool isShown(const char *name)
+MDIBaseForm &openFrame()
 {
-    return item(name).isVisible();
+    MDIBaseForm::frame().Show();
+    return MDIBaseForm::frame();
 }
 
 } // namespace
@@ -59,16 +60,17 @@ private Q_SLOTS:
         QApplication::setQuitOnLastWindowClosed(false);
         Session::current() = Session();
         m_folder.emplace(DataStoreFolder::Content::Sample);
+        m_errors.emplace();
     }
     void cleanup()
     {
+        m_errors.reset();
         delete &MDIBaseForm::frame();
         delete &frmLogin::shared();
     }
 
     void theProgramStartsWithAnEmptySession()
     {
-        CaughtErrors errors;
         QuickClock clock;
         frmLogin::shared().Show();
         MDIBaseForm &frame = MDIBaseForm::frame();
@@ -101,14 +103,13 @@ private Q_SLOTS:
         QCOMPARE(bar, administration ? (QStringList{u"File"_s, u"Tools"_s, u"Windows"_s, u"Help"_s})
                                      : (QStringList{u"File"_s, u"Tools (hidden)"_s, u"Windows"_s, u"Help (hidden)"_s}));
         for (const char *name : {"mnuNewUser", "mnuDifferentUser", "mnuDoc", "mnuNewRecord", "mnuOpenRecord"})
-            QCOMPARE(isShown(name), administration);
+            QCOMPARE(item(name).isVisible(), administration);
         for (const char *name : {"MnuNewClient", "MnuExplorer", "mnuNewEvent", "mnuEventExplorer", "mnuExit"})
-            QVERIFY(isShown(name));
+            QVERIFY(item(name).isVisible());
     }
 
-    void eachMenuItemOpensItsWindow()
+    void eachMenuItemAndButtonOpensItsWindow()
     {
-        CaughtErrors errors;
         MDIBaseForm &frame = MDIBaseForm::frame();
         frame.setUserLevel(99);
         frame.setUserId(runtime::Value(u"5"_s));
@@ -132,13 +133,7 @@ private Q_SLOTS:
         m_folder->execute("DROP TABLE ObjectTbl");
         item("mnuDoc").trigger(); // fails without a word
         QCOMPARE(frame.area().subWindowList().size(), opened.size());
-    }
 
-    void theMenuOpensTheRecordWindow()
-    {
-        CaughtErrors errors;
-        MDIBaseForm &frame = MDIBaseForm::frame();
-        frame.Show();
         item("mnuOpenRecord").trigger();
         QTest::keyClick(child<frmOpenRecord>(frame, "frmOpenRecord")->lstPerson, Qt::Key_Return);
         QCOMPARE(frame.ActiveRecordId(), u"1"_s);
@@ -148,30 +143,23 @@ private Q_SLOTS:
         QVERIFY(record);
         QCOMPARE(record->Caption(), u"New Member Information"_s);
         QCOMPARE(record->EditMode, u"New"_s);
-    }
 
-    // The toolbar has no guard.
-    void eachPressOfFindOpensASearchOfItsOwn()
-    {
-        CaughtErrors errors;
-        MDIBaseForm &frame = MDIBaseForm::frame();
-        frame.Show();
+        // Each press of Find opens a search of its own; the toolbar has no guard.
         QWidget *find = frame.Toolbar1->widgetForAction(&item("Find"));
         QTest::mouseClick(find, Qt::LeftButton);
         QTest::mouseClick(find, Qt::LeftButton);
-        QCOMPARE(frame.area().subWindowList().size(), 3);
+        QCOMPARE(frame.findChildren<frmFindInfo *>().size(), 2);
         for (const frmFindInfo *search : frame.findChildren<frmFindInfo *>())
             QVERIFY(search->isVisible() && search->MemberId.isEmpty());
         m_folder->execute("DROP TABLE Attachments");
         QTest::mouseClick(find, Qt::LeftButton);
-        QVERIFY(errors.takeNumber() != 0);
+        QVERIFY(m_errors->takeNumber() != 0);
         QCOMPARE(frame.findChildren<frmFindInfo *>().size(), 2);
     }
 
     // The first resize is that of the opening; the second finds no size to compare with.
     void aResizeScalesWhatStandsInTheFrame()
     {
-        CaughtErrors errors;
         Session &session = Session::current();
         MDIBaseForm &frame = MDIBaseForm::frame(); // its bars have no place of their own and are passed over
         auto *box = new desktop::TextBox(&frame, u"box");
@@ -219,10 +207,9 @@ private Q_SLOTS:
     void aMissingDataFileEndsTheStart()
     {
         QVERIFY(QFile::remove(m_folder->file()));
-        CaughtErrors errors;
         QuickClock clock;
         desktop::guarded([] { frmLogin::shared().Show(); });
-        QCOMPARE(errors.takeNumber(), -2147467259);
+        QCOMPARE(m_errors->takeNumber(), -2147467259);
     }
 
     void login()
@@ -241,9 +228,7 @@ private Q_SLOTS:
         m_folder->execute("INSERT INTO Security (SecurityId, UserName, UserPassword, UserFirstName, UserMiddleName, "
                           "UserLastName, UserLevel) VALUES (77, 'ann', 'secret', 'Ann', NULL, 'Cole', 99), "
                           "(78, 'nolevel', 'x', 'No', NULL, 'Level', NULL)");
-        CaughtErrors errors;
-        MDIBaseForm &frame = MDIBaseForm::frame();
-        frame.Show();
+        MDIBaseForm &frame = openFrame();
         frmLogin &window = frmLogin::shared();
         window.ReLogin = true;
         window.show(); // stays on the screen, as its load would not let it
@@ -254,22 +239,16 @@ private Q_SLOTS:
             window.txtPassword->setText(row.password);
             BoxAnswers boxes(row.message.isEmpty() ? QList<QMessageBox::StandardButton>() : QList{QMessageBox::Ok});
             QTest::keyClick(&window, Qt::Key_Return);
-            QCOMPARE(errors.takeNumber(), row.error);
+            QCOMPARE(m_errors->takeNumber(), row.error);
             QCOMPARE(boxes.seen.value(0).text, row.message);
             QCOMPARE(window.txtUserName->text(), row.user);
         }
         QVERIFY(!window.isVisible());
         QCOMPARE(frame.Caption(), u"Tolmark : Ann  Cole"_s);
         QCOMPARE(frame.UserId() + frame.UMiddleName() + QString::number(frame.UserLevel()), u"77 99"_s);
-    }
-
-    void enterPressesTheButtonThatHasTheFocus()
-    {
-        CaughtErrors errors;
         BoxAnswers none;
-        frmLogin &window = frmLogin::shared();
         window.show();
-        window.cmdCancel->setFocus();
+        window.cmdCancel->setFocus(); // Enter presses the button that has the focus
         QTest::keyClick(window.cmdCancel, Qt::Key_Return);
         QVERIFY(!window.isVisible());
     }
@@ -289,9 +268,7 @@ private Q_SLOTS:
 
     void closingEmptiesTheTempFolderButNotWhatLiesUnderIt()
     {
-        CaughtErrors errors;
-        MDIBaseForm &frame = MDIBaseForm::frame();
-        frame.Show();
+        MDIBaseForm &frame = openFrame();
         for (const QString &name : {u"a.txt"_s, u"no extension"_s, u".hidden"_s, u"a\\b"_s, u"Search/kept.txt"_s})
             m_folder->write(u"temp/"_s + name, "x");
         item("mnuExit").trigger();
@@ -302,17 +279,10 @@ private Q_SLOTS:
         QVERIFY(QDir(m_folder->path(u"temp"_s)).removeRecursively()); // nor is it missed
         frame.show();
         frame.close();
-    }
-
-    // The kernel's own files can be deleted by nobody.
-    void aFileThatCannotBeDeletedStopsTheCleaning()
-    {
-        CaughtErrors errors;
-        QVERIFY(QDir(m_folder->path(u"temp"_s)).removeRecursively());
-        QVERIFY(QFile::link(u"/proc/tty"_s, m_folder->path(u"temp"_s)));
-        MDIBaseForm::frame().Show();
-        MDIBaseForm::frame().close();
-        QCOMPARE(errors.takeNumber(), 75);
+        QVERIFY(QFile::link(u"/proc/tty"_s, m_folder->path(u"temp"_s))); // the kernel's: nobody can delete them
+        frame.show();
+        frame.close();
+        QCOMPARE(m_errors->takeNumber(), 75);
     }
 
     void theSplashGoesAtAKeyOrAClick()
@@ -330,6 +300,7 @@ private Q_SLOTS:
 
 private:
     std::optional<DataStoreFolder> m_folder;
+    std::optional<CaughtErrors> m_errors;
 };
 
 QTEST_MAIN(tst_Frame)
