@@ -3,6 +3,7 @@
 #include "datafile/Progress.h"
 #include "datafile/RowChecks.h"
 #include "datafile/Schema.h"
+#include "datafile/Upgrade.h"
 #include "platform/data/engine/ColumnType.h"
 
 #include <QMap>
@@ -163,8 +164,11 @@ QStringList faultsOf(const QString &path)
     data::Database file;
     file.open(path);
     QStringList faults = layoutFaultsOfOpen(file);
+    const QString version = findingOfVersion(file, path);
     if (faults.isEmpty()) // otherwise a statement may name a table or column that is missing
         faults = faultsOfRows(file);
+    if (!version.isEmpty())
+        faults.prepend(version); // the upgrade may mend the others
     return faults;
 }
 

@@ -79,19 +79,6 @@ void requireGoodFile(const QString &path)
         failToCopy(u"'%1' cannot serve as the data file: %2"_s.arg(path, faults.first()));
 }
 
-// A name beside the file that tells when it was put aside: "Tolmark 2026-11-22 014501.mdb".
-QString datedName(const QString &file)
-{
-    const QFileInfo place(file);
-    const QString stem = place.absolutePath() + u'/' + place.completeBaseName() +
-                         QDateTime::currentDateTime().toString(u" yyyy-MM-dd HHmmss"_s);
-    const QString suffix = place.suffix().isEmpty() ? QString() : u'.' + place.suffix();
-    QString name = stem + suffix;
-    for (int i = 2; QFileInfo::exists(name) || QFileInfo(name).isSymLink(); ++i)
-        name = stem + u" (%1)"_s.arg(i) + suffix;
-    return name;
-}
-
 // Holds the file against every other connection. A file that SQLite cannot read has none, and needs no lock.
 data::Database lockedFile(const QString &path)
 {
@@ -199,6 +186,26 @@ QStringList processesUsing(const QString &file)
     return users;
 }
 
+void refuseFileInUse(const QString &file)
+{
+    const QStringList users = processesUsing(file);
+    if (!users.isEmpty())
+        throw runtime::RuntimeError(runtime::PermissionDenied,
+                                    u"'%1' is open in %2; close it first."_s.arg(file, users.join(u", "_s)));
+}
+
+QString datedName(const QString &file)
+{
+    const QFileInfo place(file);
+    const QString stem = place.absolutePath() + u'/' + place.completeBaseName() +
+                         QDateTime::currentDateTime().toString(u" yyyy-MM-dd HHmmss"_s);
+    const QString suffix = place.suffix().isEmpty() ? QString() : u'.' + place.suffix();
+    QString name = stem + suffix;
+    for (int i = 2; QFileInfo::exists(name) || QFileInfo(name).isSymLink(); ++i)
+        name = stem + u" (%1)"_s.arg(i) + suffix;
+    return name;
+}
+
 QString restore(const QString &copy, const QString &file, Progress &progress)
 {
     if (isSameFile(copy, file))
@@ -215,10 +222,7 @@ QString restore(const QString &copy, const QString &file, Progress &progress)
     copyWholeFile(copy, result.unfinished(), progress);
 
     const data::Database locked = lockedFile(path);
-    const QStringList users = processesUsing(path);
-    if (!users.isEmpty())
-        throw runtime::RuntimeError(runtime::PermissionDenied,
-                                    u"'%1' is open in %2; close it first."_s.arg(file, users.join(u", "_s)));
+    refuseFileInUse(path);
     QFile::setPermissions(result.unfinished(), place.permissions());
     progress.at(1, 1); // the last moment at which Ctrl-C leaves everything as it was
     renameCompanions(path, old);

@@ -26,5 +26,10 @@ QString restore(const QString &copy, const QString &file, Progress &progress);
 // The processes, other than this one, that have the file open or run a program named Tolmark in its folder, as
 // "NAME (process N)". Of processes of other users only root sees that.
 QStringList processesUsing(const QString &file);
+// Raises 70 while there are some.
+void refuseFileInUse(const QString &file);
+
+// A free name beside the file that tells when it was put aside: "Tolmark 2026-11-22 014501.mdb".
+QString datedName(const QString &file);
 
 } // namespace datafile

@@ -18,8 +18,8 @@ namespace {
 QList<commands::Command> allCommands()
 {
     using namespace commands;
-    return {createCommand(), sampleCommand(),  generateCommand(), checkCommand(),
-            backupCommand(), restoreCommand(), exportCommand(),   importMembersCommand()};
+    return {createCommand(),  sampleCommand(), generateCommand(),      checkCommand(),  backupCommand(),
+            restoreCommand(), exportCommand(), importMembersCommand(), upgradeCommand()};
 }
 
 QString usageOfAll()

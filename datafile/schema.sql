@@ -13,7 +13,7 @@
 -- A binary column is the last of its table, since SQLite reads past a large value to reach the columns behind it.
 
 PRAGMA application_id = 1416392043; -- "Tlmk"
-PRAGMA user_version = 1;
+PRAGMA user_version = 2; -- a change below: the next number, and its step in Upgrade.cpp
 
 -- Users and the groups of the explorers ------------------------------------------------------------------------------
 
