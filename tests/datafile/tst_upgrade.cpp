@@ -58,6 +58,8 @@ void tst_upgrade::olderFiles_data()
     QTest::newRow("version 1") << QByteArray();
     QTest::newRow("version 0") << QByteArray("PRAGMA user_version = 0");
     QTest::newRow("text missing") << QByteArray("ALTER TABLE EmployerInformation DROP COLUMN Extension");
+    QTest::newRow("text of an index missing") << QByteArray("DROP INDEX Attachments_AttachmentExtension; "
+                                                            "ALTER TABLE Attachments DROP COLUMN AttachmentExtension");
     QTest::newRow("default missing") << QByteArray("ALTER TABLE TabInfo DROP COLUMN TabEdit");
     QTest::newRow("indexes missing") << QByteArray("DROP INDEX Attachments_MemberId; DROP INDEX Resources_ObjectIndex");
 }
