@@ -34,7 +34,7 @@ int importAll(const QCommandLineParser &given)
     try {
         imported = datafile::importMembers(file, csv, options, progress);
     } catch (const runtime::RuntimeError &error) {
-        const QString text = error.description();
+        const QString &text = error.description();
         if (error.number() == runtime::TypeMismatch)
             throw runtime::RuntimeError(error.number(), csv + u": "_s + text);
         throw runtime::RuntimeError(error.number(), text.contains(csv) ? text : file + u": "_s + text);

@@ -45,91 +45,87 @@ class tst_upgrade : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void olderFiles_data();
-    void olderFiles();
-    void refusedFiles_data();
-    void refusedFiles();
-    void presentFileIsLeftAlone();
-};
-
-void tst_upgrade::olderFiles_data()
-{
-    QTest::addColumn<QByteArray>("change");
-    QTest::newRow("version 1") << QByteArray();
-    QTest::newRow("version 0") << QByteArray("PRAGMA user_version = 0");
-    QTest::newRow("text missing") << QByteArray("ALTER TABLE EmployerInformation DROP COLUMN Extension");
-    QTest::newRow("text of an index missing") << QByteArray("DROP INDEX Attachments_AttachmentExtension; "
-                                                            "ALTER TABLE Attachments DROP COLUMN AttachmentExtension");
-    QTest::newRow("default missing") << QByteArray("ALTER TABLE TabInfo DROP COLUMN TabEdit");
-    QTest::newRow("indexes missing") << QByteArray("DROP INDEX Attachments_MemberId; DROP INDEX Resources_ObjectIndex");
-}
-
-void tst_upgrade::olderFiles()
-{
-    const Folder folder;
-    QFETCH(QByteArray, change);
-    const QString path = makeOldFile(folder, change);
-    QVERIFY(datafile::faultsOf(path).value(0).contains(u"tolmark-datafile upgrade "_s + path));
-
-    datafile::Progress progress({});
-    const QString old = datafile::upgrade(path, progress);
-    datafile::createDataFile(folder.path(u"new.mdb"_s));
-    QCOMPARE(layoutOf(path), layoutOf(folder.path(u"new.mdb"_s)));
-    QCOMPARE(datafile::faultsOf(path), QStringList());
-    data::Database file;
-    file.open(path);
-    QCOMPARE(valueOf(file, rows), u"1|Åkesson"_s);
-    data::Database kept;
-    kept.open(old);
-    QCOMPARE(valueOf(kept, rows), u"1|Åkesson"_s);
-    QVERIFY(datafile::versionOf(kept) < datafile::presentVersion());
-}
-
-void tst_upgrade::refusedFiles_data()
-{
-    QTest::addColumn<QByteArray>("change");
-    QTest::addColumn<QString>("reason");
-    QTest::newRow("newer") << QByteArray("PRAGMA user_version = 99") << u"version 99"_s;
-    QTest::newRow("no such table") << QByteArray("DROP TABLE Contributions") << u"table [Contributions]"_s;
-    QTest::newRow("computed default, behind a column that was added")
-        << QByteArray("ALTER TABLE EmployerInformation DROP COLUMN Extension; "
-                      "ALTER TABLE Resources RENAME COLUMN DocumentDate TO Day")
-        << u"[Resources].[DocumentDate]"_s;
-    QTest::newRow("the last step fails")
-        << QByteArray("CREATE TRIGGER Stop BEFORE INSERT ON NodeInformation BEGIN SELECT RAISE(ABORT, 'stop'); END")
-        << u"stop"_s;
-}
-
-void tst_upgrade::refusedFiles()
-{
-    const Folder folder;
-    QFETCH(QByteArray, change);
-    QFETCH(QString, reason);
-    const QString path = makeOldFile(folder, change);
-    const QByteArray before = bytesOf(path);
-    QString told;
-    try {
-        datafile::Progress progress({});
-        datafile::upgrade(path, progress);
-    } catch (const runtime::RuntimeError &error) {
-        told = error.description();
+    void olderFiles_data()
+    {
+        QTest::addColumn<QByteArray>("change");
+        QTest::newRow("version 1") << QByteArray();
+        QTest::newRow("version 0") << QByteArray("PRAGMA user_version = 0");
+        QTest::newRow("text missing") << QByteArray("ALTER TABLE EmployerInformation DROP COLUMN Extension");
+        QTest::newRow("text of an index missing")
+            << QByteArray("DROP INDEX Attachments_AttachmentExtension; "
+                          "ALTER TABLE Attachments DROP COLUMN AttachmentExtension");
+        QTest::newRow("default missing") << QByteArray("ALTER TABLE TabInfo DROP COLUMN TabEdit");
+        QTest::newRow("indexes missing") << QByteArray(
+            "DROP INDEX Attachments_MemberId; DROP INDEX Resources_ObjectIndex");
     }
-    QVERIFY2(told.contains(reason), qPrintable(told));
-    QCOMPARE(bytesOf(path), before);
-    QCOMPARE(folder.names(), QStringList{u"f.mdb"_s});
-}
 
-void tst_upgrade::presentFileIsLeftAlone()
-{
-    const Folder folder;
-    const QString path = folder.path(u"f.mdb"_s);
-    datafile::createDataFile(path);
-    const QByteArray before = bytesOf(path);
-    datafile::Progress progress({});
-    QCOMPARE(datafile::upgrade(path, progress), QString());
-    QCOMPARE(bytesOf(path), before);
-    QCOMPARE(folder.names(), QStringList{u"f.mdb"_s});
-}
+    void olderFiles()
+    {
+        const Folder folder;
+        QFETCH(QByteArray, change);
+        const QString path = makeOldFile(folder, change);
+        QVERIFY(datafile::faultsOf(path).value(0).contains(u"tolmark-datafile upgrade "_s + path));
+
+        datafile::Progress progress({});
+        const QString old = datafile::upgrade(path, progress);
+        datafile::createDataFile(folder.path(u"new.mdb"_s));
+        QCOMPARE(layoutOf(path), layoutOf(folder.path(u"new.mdb"_s)));
+        QCOMPARE(datafile::faultsOf(path), QStringList());
+        data::Database file;
+        file.open(path);
+        QCOMPARE(valueOf(file, rows), u"1|Åkesson"_s);
+        data::Database kept;
+        kept.open(old);
+        QCOMPARE(valueOf(kept, rows), u"1|Åkesson"_s);
+        QVERIFY(datafile::versionOf(kept) < datafile::presentVersion());
+    }
+
+    void refusedFiles_data()
+    {
+        QTest::addColumn<QByteArray>("change");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("newer") << QByteArray("PRAGMA user_version = 99") << u"version 99"_s;
+        QTest::newRow("no such table") << QByteArray("DROP TABLE Contributions") << u"table [Contributions]"_s;
+        QTest::newRow("computed default, behind a column that was added")
+            << QByteArray("ALTER TABLE EmployerInformation DROP COLUMN Extension; "
+                          "ALTER TABLE Resources RENAME COLUMN DocumentDate TO Day")
+            << u"[Resources].[DocumentDate]"_s;
+        QTest::newRow("the last step fails")
+            << QByteArray("CREATE TRIGGER Stop BEFORE INSERT ON NodeInformation BEGIN SELECT RAISE(ABORT, 'stop'); END")
+            << u"stop"_s;
+    }
+
+    void refusedFiles()
+    {
+        const Folder folder;
+        QFETCH(QByteArray, change);
+        QFETCH(QString, reason);
+        const QString path = makeOldFile(folder, change);
+        const QByteArray before = bytesOf(path);
+        QString told;
+        try {
+            datafile::Progress progress({});
+            datafile::upgrade(path, progress);
+        } catch (const runtime::RuntimeError &error) {
+            told = error.description();
+        }
+        QVERIFY2(told.contains(reason), qPrintable(told));
+        QCOMPARE(bytesOf(path), before);
+        QCOMPARE(folder.names(), QStringList{u"f.mdb"_s});
+    }
+
+    void presentFileIsLeftAlone()
+    {
+        const Folder folder;
+        const QString path = folder.path(u"f.mdb"_s);
+        datafile::createDataFile(path);
+        const QByteArray before = bytesOf(path);
+        datafile::Progress progress({});
+        QCOMPARE(datafile::upgrade(path, progress), QString());
+        QCOMPARE(bytesOf(path), before);
+        QCOMPARE(folder.names(), QStringList{u"f.mdb"_s});
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_upgrade)
 #include "tst_upgrade.moc"

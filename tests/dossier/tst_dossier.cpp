@@ -242,37 +242,6 @@ private Q_SLOTS:
         }
     }
 
-    void tabStopsFollowTheEye()
-    {
-        OpenDossier dossier;
-        QApplication::setActiveWindow(&*dossier);
-        QVERIFY(QTest::qWaitForWindowActive(&*dossier));
-        for (int page = 0; page < 7; ++page) {
-            dossier->SSTab1->setCurrentIndex(page);
-            for (const char *add : {"butAssignEvent", "butAddContributions", "butAddInterest"}) {
-                if (auto *button = child<QPushButton>(*dossier, add); button->isVisible())
-                    button->click();
-            }
-            dossier->SSTab1->tabBar()->setFocus();
-            QStringList stops;
-            QPoint before(-1, -1);
-            for (QWidget *bar = QApplication::focusWidget();;) {
-                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-                QWidget *stop = QApplication::focusWidget();
-                if (stop == bar)
-                    break;
-                stops << stop->objectName();
-                QVERIFY2(!stop->objectName().isEmpty() && stops.size() < 20, qPrintable(stops.join(u' ')));
-                const QPoint place = stop->mapTo(&*dossier, QPoint());
-                const bool follows =
-                    place.y() > before.y() + 5 || (place.y() > before.y() - 5 && place.x() > before.x());
-                QVERIFY2(follows, qPrintable(stops.join(u' ')));
-                before = place;
-            }
-            QVERIFY(stops.size() >= 3);
-        }
-    }
-
 private:
     std::optional<DataStoreFolder> m_folder;
 };

@@ -217,25 +217,6 @@ private Q_SLOTS:
         QCOMPARE(m_errors->takeNumber(), 3021);
     }
 
-    void tabFollowsTheEye()
-    {
-        QVERIFY(QTest::qWaitForWindowActive(&*m_window));
-        click(m_window->optSearchClient(2));
-        click(m_window->optSearchVersion(1));
-        m_window->txtSearchString->setFocus();
-        QStringList stops;
-        do {
-            const QWidget *stop = QApplication::focusWidget();
-            stops << stop->objectName();
-            QVERIFY(!stop->accessibleName().isEmpty() || qobject_cast<const QAbstractButton *>(stop));
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        } while (QApplication::focusWidget() != m_window->txtSearchString && stops.size() < 20);
-        QCOMPARE(stops, (QStringList{u"txtSearchString"_s, u"optSearchSummary(1)"_s, u"optSearchExactPhrase(1)"_s,
-                                     u"optSearchClient(2)"_s, u"lstSearchClient"_s, u"lstSearchFileType"_s,
-                                     u"optSearchVersion(1)"_s, u"txtSpecifyVersion"_s, u"lstSearchCategory"_s,
-                                     u"cmdSearch"_s, u"cmdCancel"_s, u"lstViewResults"_s}));
-    }
-
 private:
     void search(const QString &phrase)
     {

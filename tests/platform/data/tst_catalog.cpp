@@ -14,35 +14,6 @@ using data::Recordset;
 using data::Table;
 using runtime::Value;
 
-class CatalogTest : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void init();
-
-    void storesAGeneratedTable();
-    void refusesTables();
-    void refusesColumns();
-    void takesAnyName();
-    void evaluatesDefaults();
-    void readsWhatIsStored();
-    void addsColumnsToAStoredTable();
-    void addsAColumnOfTodayToRows();
-    void leavesNothingOfARefusedChange();
-    void givesPropertiesWithACatalog();
-    void sharesAConnectionToOneFileOnly();
-
-private:
-    Table described(const QString &name) const;
-    Table stored(const QString &name) const;
-    QStringList layout() const { return m_folder->rows("SELECT type, name, sql FROM sqlite_master ORDER BY name"); }
-
-    std::optional<DataFolder> m_folder;
-    Catalog m_catalog;
-    data::Connection m_connection;
-};
-
 namespace {
 
 const QString invalidName = u"-2147217900 '%1' is not a valid name.  Make sure that it does not include invalid "
@@ -68,336 +39,352 @@ QStringList namesOf(auto &&collection)
 
 } // namespace
 
-void CatalogTest::init()
+class CatalogTest : public QObject
 {
-    m_catalog = Catalog();
-    m_connection = data::Connection();
-    m_folder.emplace(DataFolder::Content::Empty);
-    m_folder->execute("CREATE VIEW Names AS SELECT \"Last Name\" FROM \"Personal Information\"");
-    m_folder->open(m_connection);
-    m_catalog.setActiveConnection(m_folder->connectionString());
-}
+    Q_OBJECT
 
-// As the designer describes the table of a tab.
-Table CatalogTest::described(const QString &name) const
-{
-    Table table;
-    table.setName(name);
-    table.setParentCatalog(m_catalog);
-    table.Columns().Append(u"Key"_s, data::adInteger);
-    set(table.Columns().Item(u"Key"), u"AutoIncrement", Value(true));
-    table.Columns().Append(u"Link"_s, data::adInteger);
-    table.Columns().Append(u"Day"_s, data::adDate);
-    set(table.Columns().Item(u"Day"), u"Default", Value(u"Date$()"_s));
-    table.Columns().Append(u"Phone"_s, data::adVarWChar);
-    set(table.Columns().Item(u"Phone"), u"Required", Value(false));
-    return table;
-}
-
-Table CatalogTest::stored(const QString &name) const
-{
-    for (const Table &table : m_catalog.Tables()) {
-        if (table.Name() == name)
-            return table;
-    }
-    return {};
-}
-
-void CatalogTest::storesAGeneratedTable()
-{
-    m_catalog.Tables().Append(described(u"T"_s));
-    QCOMPARE(m_folder->rows("SELECT name, type, \"notnull\", dflt_value, pk FROM pragma_table_info('T')"),
-             (QStringList{u"Key|INTEGER|0|NULL|0"_s, u"Link|INTEGER|1|NULL|0"_s,
-                          u"Day|DATETIME|1|strftime('%Y-%m-%d 00:00:00', 'now', 'localtime')|0"_s,
-                          u"Phone|TEXT|0|NULL|0"_s}));
-    QCOMPARE(m_folder->row("SELECT COUNT(*) FROM pragma_index_list('T')"), u"0"_s);
-
-    const Value before{runtime::Date(QDate::currentDate())};
-    Recordset rows;
-    rows.Open(u"select * from [T]"_s, m_connection);
-    rows.AddNew();
-    QVERIFY(errorOf([&] { rows.Update(); }).contains(u"'T.Link' cannot contain a Null value"));
-    const auto added = [&rows](const Value &key = {}) {
-        rows.AddNew();
-        rows[u"Link"].setValue(Value(17));
-        if (!key.isNull())
-            rows[u"Key"].setValue(key);
-        rows.Update();
-        return rows[u"Key"].Value();
-    };
-    rows.CancelUpdate();
-    QCOMPARE(added(), Value(1));
-    const Value day = rows[u"Day"].Value();
-    QVERIFY(day == before || day == Value(runtime::Date(QDate::currentDate()))); // midnight may have passed
-    QCOMPARE(added(), Value(2));
-    rows.Delete();
-    QCOMPARE(added(), Value(3)); // no number twice
-    QCOMPARE(added(Value(40)), Value(40));
-    QCOMPARE(added(Value(40)), Value(40)); // by hand, for it is no key
-    QCOMPARE(added(), Value(41));
-    m_folder->execute("DELETE FROM sqlite_sequence"); // as if by another tool
-    QCOMPARE(added(), Value(42));
-}
-
-void CatalogTest::refusesTables()
-{
-    const QString exists = u"-2147217857 Table '%1' already exists."_s;
-    const QStringList before = layout();
-    for (const auto &[name, error] :
-         {std::pair(u"PERSONAL information"_s, exists), std::pair(u"Names"_s, exists), // a view
-          std::pair(u"FieldInfo_TabId"_s, exists),                                     // an index
-          std::pair(QString(), invalidName), std::pair(u"a]b"_s, invalidName), std::pair(u"SQLite_x"_s, invalidName),
-          std::pair(u"a\0b"_s, invalidName)}) {
-        Table refused = described(name);
-        QCOMPARE(errorOf([&] { m_catalog.Tables().Append(refused); }), error.arg(name));
-        refused.setName(u"Other"_s); // it is not taken for stored
-    }
-    QCOMPARE(layout(), before);
-}
-
-// In a table that is described as in one that is stored.
-void CatalogTest::refusesColumns()
-{
-    struct Refused
+private Q_SLOTS:
+    void init()
     {
-        QString name;
-        int type;
-        Value property; // "AutoIncrement" or "Default"
-        QString error;
-    };
-    const QString mismatch = u"-2147217913 Data type mismatch in criteria expression."_s;
-    const QString refused = u"-2147217887 Multiple-step OLE DB operation generated errors. Check each OLE DB status "
-                            u"value, if available. No work was done."_s;
-    m_folder->execute("CREATE TABLE Stored (Day DATETIME)");
-    const QStringList before = layout();
-    for (const auto &[name, type, property, error] :
-         {Refused{{}, 202, {}, invalidName.arg(QString())}, Refused{u"[c"_s, 202, {}, invalidName.arg(u"[c")},
-          Refused{u"_ROWID_"_s, 202, {}, invalidName.arg(u"_ROWID_")}, // would hide by what the rows are found again
-          Refused{u"c"_s, 72, {}, u"-2147217872 Type is invalid."_s}, Refused{u"counts"_s, 202, Value(true), refused},
-          Refused{u"counts too"_s, 3, Value(true), refused},
-          Refused{u"c"_s, 7, Value(u"=Now$()"_s),
-                  u"-2147217900 Unknown function 'Now$' in validation expression or default value on 'T.c'."_s},
-          Refused{u"c"_s, 7, Value(u"Date() + 1"_s),
-                  u"-2147217900 Syntax error (missing operator) in query expression 'Date() + 1'."_s},
-          Refused{u"c"_s, 202, Value(u"Date$()"_s), mismatch}, Refused{u"c"_s, 3, Value(u"\"many\""_s), mismatch}}) {
-        const Table table = described(u"T"_s);
-        const auto refusal = [&, &name = name, &type = type, &property = property](const Table &target) {
-            Column column;
-            column.setName(name);
-            column.setParentCatalog(m_catalog);
-            if (!property.isNull())
-                set(column, property.is<bool>() ? u"AutoIncrement" : u"Default", property);
-            return errorOf([&] {
-                target.Columns().Append(column, type, 0);
-                if (target.Name() == u"T")
-                    m_catalog.Tables().Append(table);
-            });
-        };
-        QCOMPARE(refusal(table), error);
-        QCOMPARE(refusal(stored(u"Stored"_s)), QString(error).replace(u"'T.c'"_s, u"'Stored.c'"_s));
-        QCOMPARE(layout(), before);
+        m_catalog = Catalog();
+        m_connection = data::Connection();
+        m_folder.emplace(DataFolder::Content::Empty);
+        m_folder->execute("CREATE VIEW Names AS SELECT \"Last Name\" FROM \"Personal Information\"");
+        m_folder->open(m_connection);
+        m_catalog.setActiveConnection(m_folder->connectionString());
     }
-}
 
-void CatalogTest::takesAnyName()
-{
-    for (const QString &name : {u"   "_s, u"O'Brien's"_s, u"say \"so\""_s, u"a.b;--"_s, u"Select"_s, u"Größe"_s, u"`"_s,
-                                u"?1 %1"_s, u"two\nlines"_s, QString(200, u'x')}) {
-        const Table table = described(name);
-        table.Columns().Append(name);
-        m_catalog.Tables().Append(table);
-        QCOMPARE(namesOf(stored(name).Columns()).last(), name);
-        Recordset rows;
-        rows.Open(u"select * from ["_s + name + u']', m_connection);
-        rows.AddNew();
-        rows[u"Link"].setValue(Value(1));
-        rows[name].setValue(name);
-        rows.Update();
-        QCOMPARE(textsOf(m_connection, u"select * from ["_s + name + u"] where Link = 1"_s, name), QStringList{name});
-    }
-}
-
-void CatalogTest::evaluatesDefaults()
-{
-    struct Default
+    void storesAGeneratedTable()
     {
-        int type;
-        QString expression;
-        QString stored; // by an insert: the storage and, as a pattern, the text
-    };
-    const QList<Default> defaults{
-        {7, u"date"_s, u"text 20..-..-.. 00:00:00"_s},
-        {7, u" = DATE ( ) "_s, u"text 20..-..-.. 00:00:00"_s},
-        {7, u"Now()"_s, u"text 20..-..-.. ..:..:.."_s},
-        {7, u"Time$"_s, u"text 1899-12-30 ..:..:.."_s},
-        {7, u"\"2001-01-31\""_s, u"text 2001-01-31 00:00:00"_s},
-        {3, u"-5"_s, u"integer -5"_s},
-        {2, u"2.5"_s, u"integer 2"_s}, // rounded as a field rounds it
-        {6, u"1.5"_s, u"real 1.5"_s},
-        {11, {}, u"integer 0"_s},
-        {202, u"=7"_s, u"text 7"_s},
-        {202, u"\"it's \"\"so\"\"\""_s, u"text it's \"so\""_s},
-    };
-    const Table table = described(u"T"_s);
-    for (qsizetype at = 0; at < defaults.size(); ++at) {
-        const QString name = u'c' + QString::number(at);
-        table.Columns().Append(name, defaults[at].type);
-        set(table.Columns().Item(name), u"Default", Value(defaults[at].expression));
-    }
-    m_catalog.Tables().Append(table);
-    m_folder->execute("INSERT INTO T (Link) VALUES (1)");
-    for (qsizetype at = 0; at < defaults.size(); ++at) {
-        const QByteArray name = 'c' + QByteArray::number(at);
-        const QString actual = m_folder->row("SELECT typeof(" + name + ") || ' ' || " + name + " FROM T");
-        const QRegularExpression expected(QRegularExpression::anchoredPattern(defaults[at].stored));
-        QVERIFY2(expected.match(actual).hasMatch(), qPrintable(defaults[at].expression + u" gives "_s + actual));
-    }
-}
+        m_catalog.Tables().Append(described(u"T"_s));
+        QCOMPARE(m_folder->rows("SELECT name, type, \"notnull\", dflt_value, pk FROM pragma_table_info('T')"),
+                 (QStringList{u"Key|INTEGER|0|NULL|0"_s, u"Link|INTEGER|1|NULL|0"_s,
+                              u"Day|DATETIME|1|strftime('%Y-%m-%d 00:00:00', 'now', 'localtime')|0"_s,
+                              u"Phone|TEXT|0|NULL|0"_s}));
+        QCOMPARE(m_folder->row("SELECT COUNT(*) FROM pragma_index_list('T')"), u"0"_s);
 
-void CatalogTest::readsWhatIsStored()
-{
-    QCOMPARE(namesOf(m_catalog.Tables()),
-             m_folder->rows("SELECT name FROM sqlite_master WHERE type IN ('table', 'view') ORDER BY name"));
-    QCOMPARE(stored(u"Names"_s).Type(), u"VIEW"_s);
-    QCOMPARE(namesOf(stored(u"Names"_s).Columns()), QStringList{u"Last Name"_s});
-    QCOMPARE(stored(u"sqlite_sequence"_s).Type(), u"SYSTEM TABLE"_s);
-    QCOMPARE(stored(u"TabInfo"_s).Type(), u"TABLE"_s);
-    m_catalog.Tables().Append(described(u"T"_s));
-    const auto columns = stored(u"T"_s).Columns();
-    QCOMPARE(columns.Item(u"DAY").Type(), int(data::adDate));
-    QCOMPARE(columns.Item(u"Key").Properties().Item(u"AutoIncrement").Value(), Value(true));
-    QCOMPARE(columns.Item(u"Link").Properties().Item(u"AutoIncrement").Value(), Value(false));
-    QCOMPARE(columns.Item(u"Link").Properties().Item(u"Required").Value(), Value(true));
-}
-
-void CatalogTest::addsColumnsToAStoredTable()
-{
-    const Table table = described(u"T"_s);
-    m_catalog.Tables().Append(table);
-    m_folder->execute("INSERT INTO T (Link, Phone) VALUES (17, '555')");
-    Recordset before;
-    before.Open(u"select * from [T]"_s, m_connection);
-    QCOMPARE(before[u"Phone"].Value(), Value(u"555"_s));
-
-    Catalog another;
-    another.setActiveConnection(m_folder->connectionString());
-    Column fax;
-    fax.setName(u"Fax"_s);
-    fax.setParentCatalog(another);
-    set(fax, u"nullable", Value(true));
-    for (const Table &found : another.Tables()) {
-        if (found.Name() == u"T")
-            found.Columns().Append(fax, data::adVarWChar, 0);
-    }
-    QCOMPARE(namesOf(table.Columns()).last(), u"Fax"_s);
-    QCOMPARE(errorNumberOf([&] { before[u"Fax"].Value(); }), provider::NoSuchItem); // its rows were read before
-    Recordset after;
-    after.Open(u"select * from [T]"_s, m_connection);
-    QVERIFY(after[u"Fax"].Value().isNull());
-    after[u"Fax"].setValue(u"556"_s);
-    after.Update();
-    QCOMPARE(errorOf([&] { table.Columns().Append(u"FAX"_s); }),
-             u"-2147217858 Field 'FAX' already exists in table 'T'."_s);
-    QCOMPARE(errorOf([&] { table.Columns().Append(u"c"_s); }), // the row that is there has no value for it
-             u"-2147467259 The field 'T.c' cannot contain a Null value because the Required property for this field is "
-             u"set to True.  Enter a value in this field."_s);
-    QCOMPARE(m_folder->row("SELECT * FROM T").section(u'|', 3), u"555|556"_s);
-}
-
-// The rows that are there get the day of the change, each later one its own.
-void CatalogTest::addsAColumnOfTodayToRows()
-{
-    for (const QString &name : {u"T"_s, u"say \"so\" \"Since\" DATETIME"_s}) {
-        const Table table = described(name);
-        m_catalog.Tables().Append(table);
+        const Value before{runtime::Date(QDate::currentDate())};
         Recordset rows;
-        rows.Open(u"select * from ["_s + name + u']', m_connection);
-        const auto add = [&rows] {
+        rows.Open(u"select * from [T]"_s, m_connection);
+        rows.AddNew();
+        QVERIFY(errorOf([&] { rows.Update(); }).contains(u"'T.Link' cannot contain a Null value"));
+        const auto added = [&rows](const Value &key = {}) {
             rows.AddNew();
             rows[u"Link"].setValue(Value(17));
+            if (!key.isNull())
+                rows[u"Key"].setValue(key);
             rows.Update();
+            return rows[u"Key"].Value();
         };
-        add();
-        Column since;
-        since.setName(u"Since"_s);
-        since.setParentCatalog(m_catalog);
-        set(since, u"Default", Value(u"=Date()"_s));
-        table.Columns().Append(since, data::adDate, 0);
-        QVERIFY(table.Columns().Item(u"Since").Properties().Item(u"Default").Value().is<QString>());
-        QCOMPARE(table.Columns().Item(u"Since").Properties().Item(u"Required").Value(), Value(true));
-        add();
-        Recordset after;
-        after.Open(u"select * from ["_s + name + u"] where Since > #1/1/2001# and Since <= Now()"_s, m_connection);
-        QCOMPARE(after.RecordCount(), 2);
+        rows.CancelUpdate();
+        QCOMPARE(added(), Value(1));
+        const Value day = rows[u"Day"].Value();
+        QVERIFY(day == before || day == Value(runtime::Date(QDate::currentDate()))); // midnight may have passed
+        QCOMPARE(added(), Value(2));
+        rows.Delete();
+        QCOMPARE(added(), Value(3)); // no number twice
+        QCOMPARE(added(Value(40)), Value(40));
+        QCOMPARE(added(Value(40)), Value(40)); // by hand, for it is no key
+        QCOMPARE(added(), Value(41));
+        m_folder->execute("DELETE FROM sqlite_sequence"); // as if by another tool
+        QCOMPARE(added(), Value(42));
     }
-    QCOMPARE(m_folder->row("PRAGMA integrity_check"), u"ok"_s);
-}
 
-void CatalogTest::leavesNothingOfARefusedChange()
-{
-    m_folder->execute("CREATE TRIGGER T AFTER DELETE ON TabInfo BEGIN SELECT 1; END");
-    QStringList before = layout();
-    QVERIFY(!errorOf([&] { m_catalog.Tables().Append(described(u"T"_s)); }).isEmpty()); // its counter has that name
-    QCOMPARE(layout(), before);
+    void refusesTables()
+    {
+        const QString exists = u"-2147217857 Table '%1' already exists."_s;
+        const QStringList before = layout();
+        for (const auto &[name, error] :
+             {std::pair(u"PERSONAL information"_s, exists), std::pair(u"Names"_s, exists), // a view
+              std::pair(u"FieldInfo_TabId"_s, exists),                                     // an index
+              std::pair(QString(), invalidName), std::pair(u"a]b"_s, invalidName),
+              std::pair(u"SQLite_x"_s, invalidName), std::pair(u"a\0b"_s, invalidName)}) {
+            Table refused = described(name);
+            QCOMPARE(errorOf([&] { m_catalog.Tables().Append(refused); }), error.arg(name));
+            refused.setName(u"Other"_s); // it is not taken for stored
+        }
+        QCOMPARE(layout(), before);
+    }
 
-    m_folder->execute("CREATE TABLE U (a TEXT); INSERT INTO U VALUES ('x');"
-                      "CREATE TRIGGER V BEFORE UPDATE ON U BEGIN SELECT RAISE(ABORT, 'refused'); END");
-    before = layout();
-    Column day;
-    day.setName(u"Day"_s);
-    day.setParentCatalog(m_catalog);
-    set(day, u"Default", Value(u"Date()"_s));
-    QCOMPARE(errorOf([&] { stored(u"U"_s).Columns().Append(day, data::adDate, 0); }), u"-2147467259 refused"_s);
-    QCOMPARE(layout(), before);
-}
+    // In a table that is described as in one that is stored.
+    void refusesColumns()
+    {
+        struct Refused
+        {
+            QString name;
+            int type;
+            Value property; // "AutoIncrement" or "Default"
+            QString error;
+        };
+        const QString mismatch = u"-2147217913 Data type mismatch in criteria expression."_s;
+        const QString refused =
+            u"-2147217887 Multiple-step OLE DB operation generated errors. Check each OLE DB status "
+            u"value, if available. No work was done."_s;
+        m_folder->execute("CREATE TABLE Stored (Day DATETIME)");
+        const QStringList before = layout();
+        for (const auto &[name, type, property, error] :
+             {Refused{{}, 202, {}, invalidName.arg(QString())}, Refused{u"[c"_s, 202, {}, invalidName.arg(u"[c")},
+              Refused{
+                  u"_ROWID_"_s, 202, {}, invalidName.arg(u"_ROWID_")}, // would hide by what the rows are found again
+              Refused{u"c"_s, 72, {}, u"-2147217872 Type is invalid."_s},
+              Refused{u"counts"_s, 202, Value(true), refused}, Refused{u"counts too"_s, 3, Value(true), refused},
+              Refused{u"c"_s, 7, Value(u"=Now$()"_s),
+                      u"-2147217900 Unknown function 'Now$' in validation expression or default value on 'T.c'."_s},
+              Refused{u"c"_s, 7, Value(u"Date() + 1"_s),
+                      u"-2147217900 Syntax error (missing operator) in query expression 'Date() + 1'."_s},
+              Refused{u"c"_s, 202, Value(u"Date$()"_s), mismatch},
+              Refused{u"c"_s, 3, Value(u"\"many\""_s), mismatch}}) {
+            const Table table = described(u"T"_s);
+            const auto refusal = [&, &name = name, &type = type, &property = property](const Table &target) {
+                Column column;
+                column.setName(name);
+                column.setParentCatalog(m_catalog);
+                if (!property.isNull())
+                    set(column, property.is<bool>() ? u"AutoIncrement" : u"Default", property);
+                return errorOf([&] {
+                    target.Columns().Append(column, type, 0);
+                    if (target.Name() == u"T")
+                        m_catalog.Tables().Append(table);
+                });
+            };
+            QCOMPARE(refusal(table), error);
+            QCOMPARE(refusal(stored(u"Stored"_s)), QString(error).replace(u"'T.c'"_s, u"'Stored.c'"_s));
+            QCOMPARE(layout(), before);
+        }
+    }
 
-void CatalogTest::givesPropertiesWithACatalog()
-{
-    QCOMPARE(errorNumberOf([] { Catalog().Tables(); }), provider::NoConnection);
-    Table table;
-    table.setName(u"T"_s);
-    QCOMPARE(errorNumberOf([&] { m_catalog.Tables().Append(table); }), provider::SyntaxError); // no column
-    table.Columns().Append(u"Key"_s, data::adInteger);
-    const Column key = table.Columns().Item(u"KEY");
-    QCOMPARE(errorNumberOf([&] { key.Properties().Item(u"AutoIncrement"); }), provider::NoSuchItem);
-    QCOMPARE(errorNumberOf([&] { table.Columns().Item(u"Keys"); }), provider::NoSuchItem);
-    QCOMPARE(errorNumberOf([&] { table.Columns().Append(u"key"_s); }), provider::AlreadyInCollection);
-    QCOMPARE(errorNumberOf([&] { Table().Columns().Append(key, 3, 0); }), provider::AlreadyInCollection);
+    void takesAnyName()
+    {
+        for (const QString &name : {u"   "_s, u"O'Brien's"_s, u"say \"so\""_s, u"a.b;--"_s, u"Select"_s, u"Größe"_s,
+                                    u"`"_s, u"?1 %1"_s, u"two\nlines"_s, QString(200, u'x')}) {
+            const Table table = described(name);
+            table.Columns().Append(name);
+            m_catalog.Tables().Append(table);
+            QCOMPARE(namesOf(stored(name).Columns()).last(), name);
+            Recordset rows;
+            rows.Open(u"select * from ["_s + name + u']', m_connection);
+            rows.AddNew();
+            rows[u"Link"].setValue(Value(1));
+            rows[name].setValue(name);
+            rows.Update();
+            QCOMPARE(textsOf(m_connection, u"select * from ["_s + name + u"] where Link = 1"_s, name),
+                     QStringList{name});
+        }
+    }
 
-    table.setParentCatalog(m_catalog);
-    QCOMPARE(errorNumberOf([&] { key.Properties().Item(u"Seed"); }), provider::NoSuchItem);
-    QCOMPARE(errorNumberOf([&] { set(key, u"AutoIncrement", Value(1)); }), provider::WrongArguments);
-    QCOMPARE(errorNumberOf([&] { set(key, u"Default", Value(1)); }), provider::WrongArguments);
-    m_catalog.Tables().Append(table);
-    QCOMPARE(errorNumberOf([&] { set(key, u"Nullable", Value(true)); }), provider::MultipleStep); // too late
-    QCOMPARE(errorNumberOf([&] { table.setName(u"Other"_s); }), provider::MultipleStep);
+    void evaluatesDefaults()
+    {
+        struct Default
+        {
+            int type;
+            QString expression;
+            QString stored; // by an insert: the storage and, as a pattern, the text
+        };
+        const QList<Default> defaults{
+            {7, u"date"_s, u"text 20..-..-.. 00:00:00"_s},
+            {7, u" = DATE ( ) "_s, u"text 20..-..-.. 00:00:00"_s},
+            {7, u"Now()"_s, u"text 20..-..-.. ..:..:.."_s},
+            {7, u"Time$"_s, u"text 1899-12-30 ..:..:.."_s},
+            {7, u"\"2001-01-31\""_s, u"text 2001-01-31 00:00:00"_s},
+            {3, u"-5"_s, u"integer -5"_s},
+            {2, u"2.5"_s, u"integer 2"_s}, // rounded as a field rounds it
+            {6, u"1.5"_s, u"real 1.5"_s},
+            {11, {}, u"integer 0"_s},
+            {202, u"=7"_s, u"text 7"_s},
+            {202, u"\"it's \"\"so\"\"\""_s, u"text it's \"so\""_s},
+        };
+        const Table table = described(u"T"_s);
+        for (qsizetype at = 0; at < defaults.size(); ++at) {
+            const QString name = u'c' + QString::number(at);
+            table.Columns().Append(name, defaults[at].type);
+            set(table.Columns().Item(name), u"Default", Value(defaults[at].expression));
+        }
+        m_catalog.Tables().Append(table);
+        m_folder->execute("INSERT INTO T (Link) VALUES (1)");
+        for (qsizetype at = 0; at < defaults.size(); ++at) {
+            const QByteArray name = 'c' + QByteArray::number(at);
+            const QString actual = m_folder->row("SELECT typeof(" + name + ") || ' ' || " + name + " FROM T");
+            const QRegularExpression expected(QRegularExpression::anchoredPattern(defaults[at].stored));
+            QVERIFY2(expected.match(actual).hasMatch(), qPrintable(defaults[at].expression + u" gives "_s + actual));
+        }
+    }
 
-    const QString missing = DataFolder::connectionStringFor(m_folder->path(u"none.mdb"_s));
-    QVERIFY(errorOf([&] { m_catalog.setActiveConnection(missing); }).contains(u"Could not find file"));
-    QCOMPARE(namesOf(table.Columns()), QStringList{u"Key"_s}); // the former connection is kept
-    m_catalog = Catalog();
-    QCOMPARE(errorNumberOf([&] { namesOf(table.Columns()); }), provider::NoConnection);
-}
+    void readsWhatIsStored()
+    {
+        QCOMPARE(namesOf(m_catalog.Tables()),
+                 m_folder->rows("SELECT name FROM sqlite_master WHERE type IN ('table', 'view') ORDER BY name"));
+        QCOMPARE(stored(u"Names"_s).Type(), u"VIEW"_s);
+        QCOMPARE(namesOf(stored(u"Names"_s).Columns()), QStringList{u"Last Name"_s});
+        QCOMPARE(stored(u"sqlite_sequence"_s).Type(), u"SYSTEM TABLE"_s);
+        QCOMPARE(stored(u"TabInfo"_s).Type(), u"TABLE"_s);
+        m_catalog.Tables().Append(described(u"T"_s));
+        const auto columns = stored(u"T"_s).Columns();
+        QCOMPARE(columns.Item(u"DAY").Type(), int(data::adDate));
+        QCOMPARE(columns.Item(u"Key").Properties().Item(u"AutoIncrement").Value(), Value(true));
+        QCOMPARE(columns.Item(u"Link").Properties().Item(u"AutoIncrement").Value(), Value(false));
+        QCOMPARE(columns.Item(u"Link").Properties().Item(u"Required").Value(), Value(true));
+    }
 
-void CatalogTest::sharesAConnectionToOneFileOnly()
-{
-    Catalog second;
-    second.setActiveConnection(m_folder->connectionString());
-    const DataFolder otherFolder(DataFolder::Content::Empty);
-    Catalog other;
-    other.setActiveConnection(otherFolder.connectionString());
-    second.Tables().Append(described(u"T"_s));
-    QVERIFY(namesOf(m_catalog.Tables()).contains(u"T"_s));
-    QVERIFY(!namesOf(other.Tables()).contains(u"T"_s));
-    otherFolder.execute("CREATE TABLE T (Another TEXT)"); // a table of one name in both files
-    QStringList columns;
-    for (const Table &table : other.Tables())
-        columns += table.Name() == u"T" ? namesOf(table.Columns()) : QStringList();
-    QCOMPARE(columns, QStringList{u"Another"_s});
-    QCOMPARE(namesOf(stored(u"T"_s).Columns()).first(), u"Key"_s);
-    m_catalog = Catalog(); // the one that opened it
-    QVERIFY(namesOf(second.Tables()).contains(u"T"_s));
-}
+    void addsColumnsToAStoredTable()
+    {
+        const Table table = described(u"T"_s);
+        m_catalog.Tables().Append(table);
+        m_folder->execute("INSERT INTO T (Link, Phone) VALUES (17, '555')");
+        Recordset before;
+        before.Open(u"select * from [T]"_s, m_connection);
+        QCOMPARE(before[u"Phone"].Value(), Value(u"555"_s));
+
+        Catalog another;
+        another.setActiveConnection(m_folder->connectionString());
+        Column fax;
+        fax.setName(u"Fax"_s);
+        fax.setParentCatalog(another);
+        set(fax, u"nullable", Value(true));
+        for (const Table &found : another.Tables()) {
+            if (found.Name() == u"T")
+                found.Columns().Append(fax, data::adVarWChar, 0);
+        }
+        QCOMPARE(namesOf(table.Columns()).last(), u"Fax"_s);
+        QCOMPARE(errorNumberOf([&] { before[u"Fax"].Value(); }), provider::NoSuchItem); // its rows were read before
+        Recordset after;
+        after.Open(u"select * from [T]"_s, m_connection);
+        QVERIFY(after[u"Fax"].Value().isNull());
+        after[u"Fax"].setValue(u"556"_s);
+        after.Update();
+        QCOMPARE(errorOf([&] { table.Columns().Append(u"FAX"_s); }),
+                 u"-2147217858 Field 'FAX' already exists in table 'T'."_s);
+        QCOMPARE(
+            errorOf([&] { table.Columns().Append(u"c"_s); }), // the row that is there has no value for it
+            u"-2147467259 The field 'T.c' cannot contain a Null value because the Required property for this field is "
+            u"set to True.  Enter a value in this field."_s);
+        QCOMPARE(m_folder->row("SELECT * FROM T").section(u'|', 3), u"555|556"_s);
+    }
+
+    // The rows that are there get the day of the change, each later one its own.
+    void addsAColumnOfTodayToRows()
+    {
+        for (const QString &name : {u"T"_s, u"say \"so\" \"Since\" DATETIME"_s}) {
+            const Table table = described(name);
+            m_catalog.Tables().Append(table);
+            Recordset rows;
+            rows.Open(u"select * from ["_s + name + u']', m_connection);
+            const auto add = [&rows] {
+                rows.AddNew();
+                rows[u"Link"].setValue(Value(17));
+                rows.Update();
+            };
+            add();
+            Column since;
+            since.setName(u"Since"_s);
+            since.setParentCatalog(m_catalog);
+            set(since, u"Default", Value(u"=Date()"_s));
+            table.Columns().Append(since, data::adDate, 0);
+            QVERIFY(table.Columns().Item(u"Since").Properties().Item(u"Default").Value().is<QString>());
+            QCOMPARE(table.Columns().Item(u"Since").Properties().Item(u"Required").Value(), Value(true));
+            add();
+            Recordset after;
+            after.Open(u"select * from ["_s + name + u"] where Since > #1/1/2001# and Since <= Now()"_s, m_connection);
+            QCOMPARE(after.RecordCount(), 2);
+        }
+        QCOMPARE(m_folder->row("PRAGMA integrity_check"), u"ok"_s);
+    }
+
+    void leavesNothingOfARefusedChange()
+    {
+        m_folder->execute("CREATE TRIGGER T AFTER DELETE ON TabInfo BEGIN SELECT 1; END");
+        QStringList before = layout();
+        QVERIFY(!errorOf([&] { m_catalog.Tables().Append(described(u"T"_s)); }).isEmpty()); // its counter has that name
+        QCOMPARE(layout(), before);
+
+        m_folder->execute("CREATE TABLE U (a TEXT); INSERT INTO U VALUES ('x');"
+                          "CREATE TRIGGER V BEFORE UPDATE ON U BEGIN SELECT RAISE(ABORT, 'refused'); END");
+        before = layout();
+        Column day;
+        day.setName(u"Day"_s);
+        day.setParentCatalog(m_catalog);
+        set(day, u"Default", Value(u"Date()"_s));
+        QCOMPARE(errorOf([&] { stored(u"U"_s).Columns().Append(day, data::adDate, 0); }), u"-2147467259 refused"_s);
+        QCOMPARE(layout(), before);
+    }
+
+    void givesPropertiesWithACatalog()
+    {
+        QCOMPARE(errorNumberOf([] { Catalog().Tables(); }), provider::NoConnection);
+        Table table;
+        table.setName(u"T"_s);
+        QCOMPARE(errorNumberOf([&] { m_catalog.Tables().Append(table); }), provider::SyntaxError); // no column
+        table.Columns().Append(u"Key"_s, data::adInteger);
+        const Column key = table.Columns().Item(u"KEY");
+        QCOMPARE(errorNumberOf([&] { key.Properties().Item(u"AutoIncrement"); }), provider::NoSuchItem);
+        QCOMPARE(errorNumberOf([&] { table.Columns().Item(u"Keys"); }), provider::NoSuchItem);
+        QCOMPARE(errorNumberOf([&] { table.Columns().Append(u"key"_s); }), provider::AlreadyInCollection);
+        QCOMPARE(errorNumberOf([&] { Table().Columns().Append(key, 3, 0); }), provider::AlreadyInCollection);
+
+        table.setParentCatalog(m_catalog);
+        QCOMPARE(errorNumberOf([&] { key.Properties().Item(u"Seed"); }), provider::NoSuchItem);
+        QCOMPARE(errorNumberOf([&] { set(key, u"AutoIncrement", Value(1)); }), provider::WrongArguments);
+        QCOMPARE(errorNumberOf([&] { set(key, u"Default", Value(1)); }), provider::WrongArguments);
+        m_catalog.Tables().Append(table);
+        QCOMPARE(errorNumberOf([&] { set(key, u"Nullable", Value(true)); }), provider::MultipleStep); // too late
+        QCOMPARE(errorNumberOf([&] { table.setName(u"Other"_s); }), provider::MultipleStep);
+
+        const QString missing = DataFolder::connectionStringFor(m_folder->path(u"none.mdb"_s));
+        QVERIFY(errorOf([&] { m_catalog.setActiveConnection(missing); }).contains(u"Could not find file"));
+        QCOMPARE(namesOf(table.Columns()), QStringList{u"Key"_s}); // the former connection is kept
+        m_catalog = Catalog();
+        QCOMPARE(errorNumberOf([&] { namesOf(table.Columns()); }), provider::NoConnection);
+    }
+
+    void sharesAConnectionToOneFileOnly()
+    {
+        Catalog second;
+        second.setActiveConnection(m_folder->connectionString());
+        const DataFolder otherFolder(DataFolder::Content::Empty);
+        Catalog other;
+        other.setActiveConnection(otherFolder.connectionString());
+        second.Tables().Append(described(u"T"_s));
+        QVERIFY(namesOf(m_catalog.Tables()).contains(u"T"_s));
+        QVERIFY(!namesOf(other.Tables()).contains(u"T"_s));
+        otherFolder.execute("CREATE TABLE T (Another TEXT)"); // a table of one name in both files
+        QStringList columns;
+        for (const Table &table : other.Tables())
+            columns += table.Name() == u"T" ? namesOf(table.Columns()) : QStringList();
+        QCOMPARE(columns, QStringList{u"Another"_s});
+        QCOMPARE(namesOf(stored(u"T"_s).Columns()).first(), u"Key"_s);
+        m_catalog = Catalog(); // the one that opened it
+        QVERIFY(namesOf(second.Tables()).contains(u"T"_s));
+    }
+
+private:
+    // As the designer describes the table of a tab.
+    Table described(const QString &name) const
+    {
+        Table table;
+        table.setName(name);
+        table.setParentCatalog(m_catalog);
+        table.Columns().Append(u"Key"_s, data::adInteger);
+        set(table.Columns().Item(u"Key"), u"AutoIncrement", Value(true));
+        table.Columns().Append(u"Link"_s, data::adInteger);
+        table.Columns().Append(u"Day"_s, data::adDate);
+        set(table.Columns().Item(u"Day"), u"Default", Value(u"Date$()"_s));
+        table.Columns().Append(u"Phone"_s, data::adVarWChar);
+        set(table.Columns().Item(u"Phone"), u"Required", Value(false));
+        return table;
+    }
+    Table stored(const QString &name) const
+    {
+        for (const Table &table : m_catalog.Tables()) {
+            if (table.Name() == name)
+                return table;
+        }
+        return {};
+    }
+    QStringList layout() const { return m_folder->rows("SELECT type, name, sql FROM sqlite_master ORDER BY name"); }
+
+    std::optional<DataFolder> m_folder;
+    Catalog m_catalog;
+    data::Connection m_connection;
+};
 
 QTEST_GUILESS_MAIN(CatalogTest)
 #include "tst_catalog.moc"

@@ -8,17 +8,6 @@ using data::FieldDefinition;
 using data::Recordset;
 using runtime::Value;
 
-class DataFactoryTest : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void takesRows();
-    void keepsItsRowsForItself();
-    void refusesValues();
-    void refusesDefinitions();
-};
-
 namespace {
 
 const std::vector<FieldDefinition> hits{{u"DocumentId"_s, data::adInteger, -1, false},
@@ -40,65 +29,72 @@ void add(Recordset &rows, qint32 id, const QString &name)
 
 } // namespace
 
-void DataFactoryTest::takesRows()
+class DataFactoryTest : public QObject
 {
-    Recordset rows = made();
-    QVERIFY(rows.Eof());
-    QCOMPARE(rows.RecordCount(), 0);
-    add(rows, 70'000, u"it's a.doc"_s);
-    add(rows, 2, QString());
-    add(rows, 70'000, u" b "_s); // nothing is unique, nothing is padded
-    QVERIFY(!rows.Eof());
-    QCOMPARE(rows[u"documentname"].Value(), Value(u" b "_s)); // the last one added is current
-    QCOMPARE(rows.RecordCount(), 3);
-    rows.MoveFirst();
-    QCOMPARE(rows[u"DocumentId"].Value(), Value(qint32(70'000)));
-    QVERIFY(rows[u"Version"].Value().isNull());
-    QCOMPARE(textsOf(rows, u"DocumentName"), (QStringList{u"it's a.doc"_s, u""_s, u" b "_s}));
-    QVERIFY(rows.Eof());
-    add(rows, 3, u"after they were read"_s);
-    QCOMPARE(rows.RecordCount(), 4);
-}
+    Q_OBJECT
 
-void DataFactoryTest::keepsItsRowsForItself()
-{
-    Recordset rows = made();
-    add(rows, 1, u"a"_s);
-    Recordset other = made();
-    QCOMPARE(other.RecordCount(), 0);
-    other = std::move(rows); // the rows go along
-    QCOMPARE(other.RecordCount(), 1);
-    other.Close();
-    QVERIFY(errorOf([&] { other.Eof(); }).startsWith(u"3704 "));
+private Q_SLOTS:
+    void takesRows()
+    {
+        Recordset rows = made();
+        QVERIFY(rows.Eof());
+        QCOMPARE(rows.RecordCount(), 0);
+        add(rows, 70'000, u"it's a.doc"_s);
+        add(rows, 2, QString());
+        add(rows, 70'000, u" b "_s); // nothing is unique, nothing is padded
+        QVERIFY(!rows.Eof());
+        QCOMPARE(rows[u"documentname"].Value(), Value(u" b "_s)); // the last one added is current
+        QCOMPARE(rows.RecordCount(), 3);
+        rows.MoveFirst();
+        QCOMPARE(rows[u"DocumentId"].Value(), Value(qint32(70'000)));
+        QVERIFY(rows[u"Version"].Value().isNull());
+        QCOMPARE(textsOf(rows, u"DocumentName"), (QStringList{u"it's a.doc"_s, u""_s, u" b "_s}));
+        QVERIFY(rows.Eof());
+        add(rows, 3, u"after they were read"_s);
+        QCOMPARE(rows.RecordCount(), 4);
+    }
 
-    const DataFolder folder(DataFolder::Content::Empty);
-    data::Connection connection;
-    folder.open(connection);
-    other.Open(u"select * from Attachments"_s, connection); // as any other that is closed
-    QVERIFY(other.Eof());
-}
+    void keepsItsRowsForItself()
+    {
+        Recordset rows = made();
+        add(rows, 1, u"a"_s);
+        Recordset other = made();
+        QCOMPARE(other.RecordCount(), 0);
+        other = std::move(rows); // the rows go along
+        QCOMPARE(other.RecordCount(), 1);
+        other.Close();
+        QVERIFY(errorOf([&] { other.Eof(); }).startsWith(u"3704 "));
 
-void DataFactoryTest::refusesValues()
-{
-    Recordset rows = made();
-    rows.AddNew();
-    QVERIFY(errorOf([&] { rows.Fields(0).setValue(u"x"_s); }).startsWith(u"-2147217887 "));
-    QCOMPARE(errorOf([&] { rows.Update(); }),
-             u"-2147217887 The field 'Contents.DocumentId' cannot contain a Null value because the Required property "
-             u"for this field is set to True.  Enter a value in this field."_s);
-    rows.Fields(0).setValue(Value(qint32(1))); // what was pending is kept
-    rows.Update();
-    QCOMPARE(rows.RecordCount(), 1);
-}
+        const DataFolder folder(DataFolder::Content::Empty);
+        data::Connection connection;
+        folder.open(connection);
+        other.Open(u"select * from Attachments"_s, connection); // as any other that is closed
+        QVERIFY(other.Eof());
+    }
 
-void DataFactoryTest::refusesDefinitions()
-{
-    const QString wrong = u"3001 Arguments are of the wrong type, "_s;
-    QVERIFY(errorOf([] { made({}); }).startsWith(wrong));
-    QVERIFY(errorOf([] { made({hits.front(), hits.front()}); }).startsWith(wrong));
-    QVERIFY(errorOf([] { made({{u"a"_s, data::DataTypeEnum(9), 0, true}}); }).startsWith(wrong));
-    QCOMPARE(made({{u"a b"_s, data::adChar, 1, true}}).RecordCount(), 0);
-}
+    void refusesValues()
+    {
+        Recordset rows = made();
+        rows.AddNew();
+        QVERIFY(errorOf([&] { rows.Fields(0).setValue(u"x"_s); }).startsWith(u"-2147217887 "));
+        QCOMPARE(
+            errorOf([&] { rows.Update(); }),
+            u"-2147217887 The field 'Contents.DocumentId' cannot contain a Null value because the Required property "
+            u"for this field is set to True.  Enter a value in this field."_s);
+        rows.Fields(0).setValue(Value(qint32(1))); // what was pending is kept
+        rows.Update();
+        QCOMPARE(rows.RecordCount(), 1);
+    }
+
+    void refusesDefinitions()
+    {
+        const QString wrong = u"3001 Arguments are of the wrong type, "_s;
+        QVERIFY(errorOf([] { made({}); }).startsWith(wrong));
+        QVERIFY(errorOf([] { made({hits.front(), hits.front()}); }).startsWith(wrong));
+        QVERIFY(errorOf([] { made({{u"a"_s, data::DataTypeEnum(9), 0, true}}); }).startsWith(wrong));
+        QCOMPARE(made({{u"a b"_s, data::adChar, 1, true}}).RecordCount(), 0);
+    }
+};
 
 QTEST_GUILESS_MAIN(DataFactoryTest)
 #include "tst_datafactory.moc"

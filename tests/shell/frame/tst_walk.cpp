@@ -37,6 +37,11 @@ struct Station
     QWidget *(*open)();
 };
 
+template <class Window> QWidget *opened()
+{
+    return showNew<Window>();
+}
+
 QWidget *dossierAt(int page)
 {
     auto *dossier = showNew<DisplayMembers>([](DisplayMembers &window) {
@@ -81,10 +86,10 @@ QWidget *explorerWithRows(QWidget *explorer)
 }
 
 constexpr Station stations[] = {
-    {"login", [] { return static_cast<QWidget *>(&frmLogin::shared()); }},
-    {"member explorer", [] { return static_cast<QWidget *>(showNew<FrmDataBaseExplorer>()); }},
+    {"login", []() -> QWidget * { return &frmLogin::shared(); }},
+    {"member explorer", opened<FrmDataBaseExplorer>},
     {"member explorer with rows", [] { return explorerWithRows(showNew<FrmDataBaseExplorer>()); }},
-    {"event explorer", [] { return static_cast<QWidget *>(showNew<FrmEventExplorer>()); }},
+    {"event explorer", opened<FrmEventExplorer>},
     {"new member", [] { return newMemberAt(0); }},
     {"new member, employer", [] { return newMemberAt(1); }},
     {"new member, interests", [] { return newMemberAt(2); }},
@@ -98,27 +103,26 @@ constexpr Station stations[] = {
     {"dossier, interests", [] { return dossierAt(5); }},
     {"dossier, adding an interest", [] { return enteringAt(5, "butAddInterest"); }},
     {"dossier, notes", [] { return dossierAt(6); }},
-    {"interest", [] { return static_cast<QWidget *>(showNew<frmAddInterest>()); }},
-    {"event", [] { return static_cast<QWidget *>(showNew<FrmAddEvent>()); }},
-    {"calendar", [] { return static_cast<QWidget *>(showNew<FrmEventCalendar>()); }},
-    {"new note",
-     [] { return static_cast<QWidget *>(showNew<frmMeeting>([](frmMeeting &note) { note.AddView = true; })); }},
-    {"stored note", [] { return static_cast<QWidget *>(showNew<frmMeeting>()); }},
-    {"person picker", [] { return static_cast<QWidget *>(showNew<frmSelectClient>()); }},
+    {"interest", opened<frmAddInterest>},
+    {"event", opened<FrmAddEvent>},
+    {"calendar", opened<FrmEventCalendar>},
+    {"new note", []() -> QWidget * { return showNew<frmMeeting>([](frmMeeting &note) { note.AddView = true; }); }},
+    {"stored note", opened<frmMeeting>},
+    {"person picker", opened<frmSelectClient>},
     {"library, manager",
-     [] { return static_cast<QWidget *>(showNew<frmDocumentExp>([](frmDocumentExp &w) { w.adminFunction = true; })); }},
-    {"library, browser", [] { return static_cast<QWidget *>(showNew<frmDocumentExp>()); }},
-    {"find", [] { return static_cast<QWidget *>(showNew<frmFindInfo>()); }},
-    {"new user", [] { return static_cast<QWidget *>(showNew<frmNewUser>()); }},
-    {"user", [] { return static_cast<QWidget *>(showNew<frmNewUser>([](frmNewUser &w) { w.SecurityId = u"1"_s; })); }},
-    {"options", [] { return static_cast<QWidget *>(showNew<frmOptions>()); }},
-    {"tip", [] { return static_cast<QWidget *>(showNew<frmTip>()); }},
-    {"designer", [] { return static_cast<QWidget *>(showNew<DatabaseGenerator>()); }},
+     []() -> QWidget * { return showNew<frmDocumentExp>([](frmDocumentExp &w) { w.adminFunction = true; }); }},
+    {"library, browser", opened<frmDocumentExp>},
+    {"find", opened<frmFindInfo>},
+    {"new user", opened<frmNewUser>},
+    {"user", []() -> QWidget * { return showNew<frmNewUser>([](frmNewUser &w) { w.SecurityId = u"1"_s; }); }},
+    {"options", opened<frmOptions>},
+    {"tip", opened<frmTip>},
+    {"designer", opened<DatabaseGenerator>},
     {"record", [] { return recordAt(1); }},
     {"record, attachments", [] { return recordAt(-3); }},
     {"record, events", [] { return recordAt(-1); }},
     {"new record", [] { return recordAt(1, u"New"_s); }},
-    {"open record", [] { return static_cast<QWidget *>(showNew<frmOpenRecord>()); }},
+    {"open record", opened<frmOpenRecord>},
 };
 
 QString nameOf(QWidget *widget)
