@@ -53,12 +53,12 @@ constexpr std::array fieldTable{
     FieldName{"ContributionNotes", "contributionnote donationnotes"},
 };
 
-constexpr std::array<const char *, 11> memberColumns{"FirstName",  "MiddleName", "LastName",    "AddressOne",
-                                                     "AddressTwo", "City",       "State",       "Zip",
-                                                     "HomePhone",  "CellPhone",  "EMailAddress"};
-constexpr std::array<const char *, 10> employerColumns{"Name",         "AddressOne", "AddressTwo",  "City",
-                                                       "State",        "Zip",        "PhoneNumber", "Extension",
-                                                       "EMailAddress", "WebAddress"};
+constexpr std::array<const char *, memberTexts> memberColumns{"FirstName",  "MiddleName", "LastName",    "AddressOne",
+                                                              "AddressTwo", "City",       "State",       "Zip",
+                                                              "HomePhone",  "CellPhone",  "EMailAddress"};
+constexpr std::array<const char *, employerTexts> employerColumns{
+    "Name", "AddressOne",  "AddressTwo", "City",         "State",
+    "Zip",  "PhoneNumber", "Extension",  "EMailAddress", "WebAddress"};
 constexpr std::size_t lastName = 2; // in memberColumns
 constexpr std::size_t memberState = 6;
 constexpr std::size_t employerState = 4;
@@ -311,12 +311,12 @@ private:
 
 } // namespace
 
-const std::array<const char *, 11> &memberTextColumns()
+const std::array<const char *, memberTexts> &memberTextColumns()
 {
     return memberColumns;
 }
 
-const std::array<const char *, 10> &employerTextColumns()
+const std::array<const char *, employerTexts> &employerTextColumns()
 {
     return employerColumns;
 }

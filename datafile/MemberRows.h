@@ -15,15 +15,19 @@
 
 namespace datafile {
 
+// How many texts MemberInformation and EmployerInformation have.
+inline constexpr int memberTexts = 11;
+inline constexpr int employerTexts = 10;
+
 // The names by which --map and a list of faults know the columns. Columns of interests may occur more than once.
 enum class MemberField {
     MemberId,
     MemberTypeId,
     MemberType, // by name
     Active,
-    FirstMemberText,                          // the texts of MemberInformation, in the order of memberTextColumns()
-    FirstEmployerText = FirstMemberText + 11, // those of EmployerInformation
-    Interest = FirstEmployerText + 10,        // several are separated by ";"
+    FirstMemberText, // the texts of MemberInformation, in the order of memberTextColumns()
+    FirstEmployerText = FirstMemberText + memberTexts, // those of EmployerInformation
+    Interest = FirstEmployerText + employerTexts,      // several are separated by ";"
     InterestDescription,
     ContributionDate,
     ContributionAmount,
@@ -33,8 +37,8 @@ enum class MemberField {
 
 QStringList fieldNames();
 // The columns of MemberInformation and EmployerInformation that are texts.
-const std::array<const char *, 11> &memberTextColumns();
-const std::array<const char *, 10> &employerTextColumns();
+const std::array<const char *, memberTexts> &memberTextColumns();
+const std::array<const char *, employerTexts> &employerTextColumns();
 
 struct MemberInterestText
 {
@@ -48,8 +52,8 @@ struct MemberRow
     std::optional<qint32> id;
     std::optional<qint32> typeId;
     bool isActive = true;
-    std::array<std::optional<QString>, 11> member;
-    std::array<QString, 10> employer;
+    std::array<std::optional<QString>, memberTexts> member;
+    std::array<QString, employerTexts> employer;
     QList<MemberInterestText> interests;
     bool hasContribution = false;
     std::optional<runtime::Date> contributionDate;

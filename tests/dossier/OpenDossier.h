@@ -4,6 +4,7 @@
 #include "dossier/DisplayMembers.h"
 #include "support/DataStoreFolder.h"
 #include "support/Dialogs.h"
+#include "support/Lines.h"
 
 class OpenDossier
 {
@@ -33,23 +34,6 @@ public:
 private:
     DisplayMembers m_window;
 };
-
-// The texts of a line, as many as there are columns, joined by "|".
-inline QString line(const desktop::ListView &list, int index)
-{
-    QStringList texts;
-    for (int column = 0; column < list.ColumnHeaders.Count(); ++column)
-        texts << list.ListItems(index).SubItems(column);
-    return texts.join(QLatin1Char('|'));
-}
-
-inline QStringList lines(const desktop::ListView &list)
-{
-    QStringList all;
-    for (int index = 1; index <= list.ListItems.Count(); ++index)
-        all << line(list, index);
-    return all;
-}
 
 inline void select(desktop::ListView &list, int index)
 {

@@ -4,6 +4,7 @@
 #include "dynamicforms/DisplayInformation.h"
 #include "support/DataStoreFolder.h"
 #include "support/Dialogs.h"
+#include "support/Lines.h"
 
 #include <QPointer>
 
@@ -69,19 +70,7 @@ public:
         QTest::keyClicks(box(field), text);
     }
 
-    // Every line, its cells joined by "|".
-    QStringList lines() const
-    {
-        const desktop::ListView &list = *m_window->ListView1;
-        QStringList all;
-        for (int line = 1; line <= list.ListItems.Count(); ++line) {
-            QStringList cells;
-            for (int column = 0; column < list.ColumnHeaders.Count(); ++column)
-                cells << list.ListItems(line).SubItems(column);
-            all << cells.join(QLatin1Char('|'));
-        }
-        return all;
-    }
+    QStringList lines() const { return ::lines(*m_window->ListView1); }
 
 private:
     QPointer<DisplayInformation> m_window;

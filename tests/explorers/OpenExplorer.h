@@ -6,6 +6,7 @@
 #include "platform/desktop/Toolbar.h"
 #include "platform/desktop/TreeView.h"
 #include "support/Dialogs.h"
+#include "support/Lines.h"
 
 #include <QHeaderView>
 #include <QScrollBar>
@@ -48,11 +49,7 @@ public:
         auto *bar = child<desktop::Toolbar>(m_window, "Toolbar1");
         QTest::mouseClick(bar->widgetForAction(bar->actions().constFirst()), Qt::LeftButton);
     }
-    void doubleClickRow(int row)
-    {
-        const QPoint middle = list().visualItemRect(&list().ListItems(row)).center();
-        QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, middle);
-    }
+    void doubleClickRow(int row) { doubleClick(list(), row); }
     QStringList column(int index)
     {
         QStringList texts;

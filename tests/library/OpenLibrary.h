@@ -4,6 +4,7 @@
 #include "library/frmDocumentExp.h"
 #include "support/DataStoreFolder.h"
 #include "support/Dialogs.h"
+#include "support/Lines.h"
 
 #include <QLineEdit>
 
@@ -40,11 +41,7 @@ public:
     {
         QTest::mouseClick(tree().viewport(), button, {}, tree().visualItemRect(&tree().Nodes(index)).center());
     }
-    void doubleClickDocument(int row)
-    {
-        const QPoint place = list().visualItemRect(&list().ListItems(row)).center();
-        QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, place);
-    }
+    void doubleClickDocument(int row) { doubleClick(list(), row); }
     // The open editor of a label, null without one.
     QLineEdit *editor() { return tree().findChild<QLineEdit *>(QStringLiteral("TreClassView.LabelEdit")); }
     // Opens the editor on the selected node, types and confirms.
@@ -67,18 +64,7 @@ public:
         }
         return all;
     }
-    // Every line, its cells joined by "|".
-    QStringList documents()
-    {
-        QStringList lines;
-        for (int row = 1; row <= list().ListItems.Count(); ++row) {
-            QStringList cells;
-            for (int column = 0; column < list().ColumnHeaders.Count(); ++column)
-                cells << list().ListItems(row).SubItems(column);
-            lines << cells.join(QLatin1Char('|'));
-        }
-        return lines;
-    }
+    QStringList documents() { return lines(list()); }
 
 private:
     frmDocumentExp m_window;

@@ -2,6 +2,7 @@
 #include "support/DataStoreFolder.h"
 #include "support/Dialogs.h"
 #include "support/Launches.h"
+#include "support/Lines.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,23 +18,9 @@ constexpr const char *rows =
     " (13, 7, 'plan.doc', 1, 'doc', 'Plan', CAST('a \"\" b annual \"' AS BLOB)),"
     " (14, 7, 'photo', NULL, NULL, NULL, x'00');";
 
-QStringList lines(const desktop::ListView &list)
-{
-    QStringList all;
-    for (int index = 1; index <= list.ListItems.Count(); ++index)
-        all << list.ListItems(index).Text() + u'|' + list.ListItems(index).SubItems(1) + u'|' +
-                   list.ListItems(index).SubItems(2);
-    return all;
-}
-
 void click(QAbstractButton *button)
 {
     QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
-}
-
-void doubleClick(desktop::ListView &list, int index)
-{
-    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(&list.ListItems(index)).center());
 }
 
 } // namespace
@@ -72,7 +59,7 @@ private Q_SLOTS:
         m_window->Show();
         QVERIFY(m_window->optSearchClient(1)->Value());
         search(u"annual"_s);
-        QCOMPARE(lines(*m_window->lstViewResults), QStringList(u"13|plan.doc|1"_s));
+        QCOMPARE(lines(*m_window->lstViewResults, 3), QStringList(u"13|plan.doc|1"_s));
     }
 
     void choicesEnableWhatBelongsToThem()
@@ -121,7 +108,7 @@ private Q_SLOTS:
                                             {QString(), {first, second, plan, u"14|photo|"_s}},
                                             {u"quarterly"_s, {}}}) {
             search(phrase);
-            QCOMPARE(lines(*m_window->lstViewResults), found);
+            QCOMPARE(lines(*m_window->lstViewResults, 3), found);
             QCOMPARE(columns(), 3 * ++searches);
         }
         QCOMPARE(m_window->lstViewResults->ColumnHeaders(4).Text, u"File Id"_s);
@@ -147,7 +134,7 @@ private Q_SLOTS:
             m_window->txtSpecifyVersion->setText(version);
             search(u"annual"_s);
             QList<int> ids;
-            for (const QString &line : lines(*m_window->lstViewResults))
+            for (const QString &line : lines(*m_window->lstViewResults, 3))
                 ids << line.first(2).toInt();
             QCOMPARE(ids, found);
         }

@@ -412,20 +412,6 @@ private Q_SLOTS:
         QTRY_COMPARE(panels[4]->text(), u"3/5/2026"_s);
         runtime::setClock({});
     }
-
-    void aToolbarButtonIsAnAction()
-    {
-        desktop::Toolbar bar(nullptr, u"Toolbar1");
-        const QAction *phone = bar.addButton(u"Phone"_s, {}, u"Telephone Conference"_s, {});
-        const QAction *remove = bar.addButton({}, u"Delete Member"_s, u"Delete Member"_s, {});
-        QCOMPARE(phone->text(), u"Telephone Conference"_s);
-        QCOMPARE(phone->objectName(), u"Phone"_s);
-        QCOMPARE(remove->text(), u"Delete Member"_s);
-        QSignalSpy clicks(&bar, &desktop::Toolbar::ButtonClick);
-        bar.show();
-        QTest::keyClick(bar.widgetForAction(const_cast<QAction *>(remove)), Qt::Key_Space);
-        QCOMPARE(clicks.count(), 1);
-    }
 };
 
 QTEST_MAIN(tst_Controls)
