@@ -1,3 +1,4 @@
+#include "dossier/MemberFields.h"
 #include "dossier/OpenDossier.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -53,6 +54,8 @@ private Q_SLOTS:
         for (const Page &page : {member, employer}) {
             const QByteArrayList columns = page.columns.split(' ');
             const QByteArrayList boxes = page.boxes.split(' ');
+            for (const MemberField &field : page.state == "LstState" ? memberFields() : employerFields())
+                QVERIFY(field.boxInDossier.isEmpty() || field.isState || columns.contains(field.column.toUtf8()));
             for (const QByteArray &column : columns)
                 m_folder->execute("UPDATE " + page.table + " SET State = 'ohio', " + column + " = '<" + column + ">'");
             BoxAnswers answers({QMessageBox::Ok});
