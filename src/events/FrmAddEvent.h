@@ -64,6 +64,6 @@ private:
     void openCalendar(const QString &caption, const desktop::TextBox *box);
     QString insertStatement() const;
     QString updateStatement() const;
-    // No caller is left. The notes that it refreshed are gone from this window, so it raises error 424.
+    // Nothing calls it. It would call popNotes of an object that this window no longer has, and so raises error 424.
     static void refreshNotes();
 };
