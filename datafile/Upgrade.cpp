@@ -138,7 +138,7 @@ QString upgrade(const QString &path, Progress &progress)
     if (version > presentVersion())
         refuse(findingOfVersion(file, path));
     refuseFileInUse(path);
-    const QString old = datedName(QFileInfo(path).canonicalFilePath());
+    QString old = datedName(QFileInfo(path).canonicalFilePath());
     backUp(path, old, progress);
     try {
         runSteps(file, progress);
