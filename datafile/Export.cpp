@@ -5,7 +5,6 @@
 #include "datafile/Csv.h"
 #include "datafile/Tables.h"
 #include "datafile/WholeResult.h"
-#include "platform/runtime/Currency.h"
 #include "platform/runtime/Date.h"
 #include "platform/runtime/RuntimeError.h"
 
@@ -116,7 +115,7 @@ std::optional<QString> cellOf(const data::Statement &row, int column, data::Colu
     if (type == data::ColumnType::Boolean && content.storage == Storage::Integer)
         return content.integer ? u"Yes"_s : u"No"_s;
     if (type == data::ColumnType::Currency) {
-        if (const auto amount = runtime::Currency::fromPlainText(text))
+        if (const auto amount = data::storedAmount(row.text(column)))
             return amount->toPlainText();
     }
     if (content.storage == Storage::Real)

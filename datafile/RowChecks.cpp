@@ -3,7 +3,6 @@
 #include "datafile/Groups.h"
 #include "datafile/Tables.h"
 #include "platform/data/engine/ColumnType.h"
-#include "platform/runtime/Currency.h"
 #include "platform/runtime/Date.h"
 
 #include <limits>
@@ -63,7 +62,7 @@ QString requiredForm(const data::Statement &row, data::ColumnType type)
         return text.size() == 19 && runtime::Date::fromIsoText(text) ? QString() : u"a date as yyyy-mm-dd hh:mm:ss"_s;
     }
     case data::ColumnType::Currency:
-        return runtime::Currency::fromPlainText(QString::fromUtf8(row.text(0))) ? QString() : u"an amount as 1234.5"_s;
+        return data::storedAmount(row.text(0)) ? QString() : u"an amount as 1234.5"_s;
     case data::ColumnType::Boolean:
         return isWhole<qint16>(row) ? QString() : u"-1 or 0"_s;
     case data::ColumnType::Integer:

@@ -223,9 +223,11 @@ private Q_SLOTS:
         from.open(folder.path(u"from.mdb"_s));
         from.execute("UPDATE MemberInformation SET HomePhone = '+1 207 555', CellPhone = '''=x', LastName = 'a;\"b' || "
                      "char(13, 10) "
-                     "WHERE MemberId = 1; DELETE FROM MemberInformation WHERE MemberId = 2");
+                     "WHERE MemberId = 1; DELETE FROM MemberInformation WHERE MemberId = 2; "
+                     "UPDATE Contributions SET ContributionAmount = '922337203685477.5807 exact'");
         datafile::Progress progress({});
         datafile::exportFile(folder.path(u"from.mdb"_s), folder.path(u"out"_s), progress);
+        QVERIFY(bytesOf(folder.path(u"out/Contributions.csv"_s)).contains(",922337203685477.5807,"));
         const datafile::Imported imported = importInto(folder, bytesOf(folder.path(u"out/MemberInformation.csv"_s)));
         QCOMPARE(imported.members, 63);
         data::Database file;

@@ -43,6 +43,12 @@ ColumnType columnTypeOfDeclaration(QByteArrayView declaration)
     return ColumnType::Unknown;
 }
 
+std::optional<runtime::Currency> storedAmount(QByteArrayView text)
+{
+    const QByteArrayView digits = text.endsWith(exactAmountMark) ? text.chopped(exactAmountMark.size()) : text;
+    return runtime::Currency::fromPlainText(QString::fromUtf8(digits));
+}
+
 runtime::Value convertedTo(ColumnType type, const runtime::Value &value)
 {
     using runtime::Value;

@@ -5,6 +5,8 @@
 
 #include <QByteArrayView>
 
+#include <optional>
+
 namespace data {
 
 // The numbers are those by which the data objects know the types.
@@ -28,6 +30,8 @@ ColumnType columnTypeOfDeclaration(QByteArrayView declaration);
 // (it needs more than some 900 thousand million and a fraction) is kept as a text, which this word behind the digits
 // prevents from becoming a number.
 inline constexpr QByteArrayView exactAmountMark = " exact";
+// An amount from what an amount's column holds as text, with the word or without it; empty when it is none.
+std::optional<runtime::Currency> storedAmount(QByteArrayView text);
 
 inline bool isText(ColumnType type)
 {

@@ -85,8 +85,7 @@ Value RowStore::textValue(QByteArrayView text, ColumnType type) const
             return Value(*date);
     }
     if (type == ColumnType::Currency) {
-        const QByteArrayView digits = text.endsWith(exactAmountMark) ? text.chopped(exactAmountMark.size()) : text;
-        if (const auto amount = runtime::Currency::fromPlainText(QString::fromUtf8(digits)))
+        if (const auto amount = storedAmount(text))
             return Value(*amount);
     }
     // What another tool wrote into a column of another kind comes back as the text that it is.
