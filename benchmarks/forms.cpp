@@ -226,10 +226,10 @@ void generateAll(const QString &)
         for (int table = 1; table <= tables; ++table) {
             captions << tableName(table);
             for (int field = 1; field <= fieldsOfTable; ++field) {
-                FieldRow row;
+                FieldRow &row = rows.next();
                 row.RowTabNam = tableName(table);
                 row.RowFieldName = u"Field %1"_s.arg(field);
-                rows.store(row);
+                rows.countUp();
             }
         }
         return made;
