@@ -241,6 +241,7 @@ private Q_SLOTS:
     // date.
     void aCalendarIsSetByItsParts()
     {
+        const UnitedStates region;
         Calendar calendar(nullptr, u"calendar");
         for (const QDate day : {QDate(2026, 1, 31), QDate(2026, 2, 3), QDate(2026, 3, 31), QDate(2024, 2, 29)}) {
             calendar.setMonth(day.month());

@@ -1,5 +1,6 @@
 #include "platform/runtime/Conversion.h"
 #include "support/Outcome.h"
+#include "support/UnitedStates.h"
 
 #include <QTest>
 
@@ -119,6 +120,7 @@ private Q_SLOTS:
     }
     void converts()
     {
+        const UnitedStates region;
         QFETCH(Conversion, convert);
         QFETCH(Value, value);
         QTEST(outcomeOf([&] { return convert(value); }), "outcome");
@@ -126,6 +128,7 @@ private Q_SLOTS:
 
     void readsNumbers()
     {
+        const UnitedStates region;
         for (const auto &[written, number] :
              {std::pair(u"$1,200.50"_s, u"1200.5"_s), std::pair(u"1,2,3"_s, u"123"_s), std::pair(u"(5)"_s, u"-5"_s),
               std::pair(u" 5- "_s, u"-5"_s), std::pair(u"- 5"_s, u"-5"_s), std::pair(u".5"_s, u"0.5"_s),

@@ -2,6 +2,7 @@
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/DateDiff.h"
 #include "support/Outcome.h"
+#include "support/UnitedStates.h"
 
 #include <QTest>
 
@@ -27,6 +28,7 @@ private Q_SLOTS:
 
     void readsDates()
     {
+        const UnitedStates region;
         const auto read = [](const QString &text) {
             return text + u": "_s + outcomeOf([&] { return runtime::toDate(Value(text)).toIsoText(); });
         };
