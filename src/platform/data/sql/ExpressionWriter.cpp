@@ -336,6 +336,8 @@ void ExpressionWriter::range(Node column, const QString &lowest, const QString &
     operand(column);
     m_sql += " COLLATE NOCASE >= ";
     appendQuoted(m_sql, lowest, '\'');
+    if (beyond.isEmpty())
+        return;
     m_sql += " AND ";
     operand(column);
     m_sql += " COLLATE NOCASE < ";

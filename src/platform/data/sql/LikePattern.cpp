@@ -43,6 +43,9 @@ LikePattern analyzedPattern(const QString &pattern)
         parts.beyond = parts.lowest;
         parts.beyond.back() = QChar(char16_t(parts.lowest.back().unicode() + 1));
     }
+    // No letter of ASCII counts as equal to one outside, so that the texts lie behind all those that begin with ASCII.
+    if (plain > 0 && pattern[0].unicode() >= 0x80)
+        parts.lowest = QChar(0x80);
     parts.kind = endsInRun && usable == plain ? PatternKind::Prefix : PatternKind::Mixed;
     return parts;
 }

@@ -15,7 +15,7 @@ enum class PatternKind {
 struct LikePattern
 {
     PatternKind kind = PatternKind::Mixed;
-    // In lower case, ASCII; both empty when no index can help.
+    // In lower case; both empty when no index can help, and `beyond` alone for a pattern that begins outside ASCII.
     QString lowest;
     QString beyond;
 };
