@@ -167,9 +167,9 @@ void Database::check(int code) const
 void Database::openWith(const QString &path, int flags)
 {
     sqlite3 *handle = nullptr;
-    // Without locks round each call: a connection belongs to the one thread.
     // An absolute path: a relative one that begins with "file:" would be read as a URI.
     const QString file = flags & SQLITE_OPEN_MEMORY ? path : QFileInfo(path).absoluteFilePath();
+    // Without locks round each call: a connection belongs to the one thread.
     const int code = sqlite3_open_v2(file.toUtf8().constData(), &handle, flags | SQLITE_OPEN_NOMUTEX, nullptr);
     m_schemaReader.finalize();
     m_handle.reset(handle); // also of a failed open

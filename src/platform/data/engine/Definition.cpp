@@ -5,6 +5,7 @@
 #include "platform/data/sql/SqlText.h"
 #include "platform/runtime/ProviderError.h"
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -154,8 +155,10 @@ void addColumnWithComputedDefault(Database &file, const QByteArray &table, const
 
 bool isSameName(const QString &a, const QString &b)
 {
-    // As SQLite compares names: this overload takes upper and lower case of ASCII letters alone for equal.
-    return a.toUtf8().compare(b.toUtf8(), Qt::CaseInsensitive) == 0;
+    // As SQLite compares names: upper and lower case of ASCII letters alone are equal. Generating a table compares each
+    // of its columns with all the others, so nothing is copied here.
+    const auto folded = [](QChar c) { return c >= u'A' && c <= u'Z' ? QChar(c.unicode() | 0x20) : c; };
+    return std::ranges::equal(a, b, {}, folded, folded);
 }
 
 runtime::RuntimeError refusedProperty()
