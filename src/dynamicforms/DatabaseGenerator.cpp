@@ -85,7 +85,7 @@ void DatabaseGenerator::SaveLayout()
 {
     if (m_readFailure)
         std::rethrow_exception(m_readFailure);
-    LayoutWriter layout;
+    LayoutWriter layout(TabStrip1->Count());
     for (int tab = 1; tab <= TabStrip1->Count(); ++tab) {
         layout.addPage(TabStrip1->Caption(tab), TabStrip1->ToolTipText(tab));
         if (tab == TabStrip1->SelectedItem())

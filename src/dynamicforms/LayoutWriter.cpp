@@ -14,7 +14,7 @@ void deleteAll(data::Recordset &rows)
 
 } // namespace
 
-LayoutWriter::LayoutWriter()
+LayoutWriter::LayoutWriter(int pages) : m_work(u"Saving page"_s, pages)
 {
     openDataStore(m_connection);
     data::Recordset fields = openRows(m_connection, u"select * from FieldInfo Where FieldEdit = 1"_s);
@@ -26,6 +26,7 @@ LayoutWriter::LayoutWriter()
 
 void LayoutWriter::addPage(const QString &caption, const QString &description)
 {
+    m_work.at(++m_page);
     m_pages.AddNew();
     m_pages[u"TabNam"].setValue(caption);
     m_pages[u"TabDescription"].setValue(description);
@@ -37,6 +38,7 @@ void LayoutWriter::addPage(const QString &caption, const QString &description)
 
 void LayoutWriter::addField(const LayoutField &field)
 {
+    m_work.at(m_page);
     m_fields.AddNew();
     m_fields[u"FieldDescription"].setValue(field.description);
     m_fields[u"FieldName"].setValue(field.name);

@@ -7,6 +7,7 @@
 
 #include "platform/data/Connection.h"
 #include "platform/data/Recordset.h"
+#include "platform/desktop/LongWork.h"
 
 #include <QString>
 
@@ -28,13 +29,16 @@ struct LayoutField
 class LayoutWriter
 {
 public:
-    LayoutWriter();
+    // While it lives, so many pages are shown as being saved.
+    explicit LayoutWriter(int pages);
     // The fields that follow go on this page; when the caption stands twice, on the first page that bears it.
     void addPage(const QString &caption, const QString &description);
     void addField(const LayoutField &field);
     void close() { m_connection.Close(); }
 
 private:
+    desktop::LongWork m_work;
+    int m_page = 0; // the last one that was added, from 1
     data::Connection m_connection;
     data::Recordset m_pages;
     data::Recordset m_fields;

@@ -1,6 +1,7 @@
 #include "dynamicforms/TableGeneration.h"
 
 #include "platform/data/Catalog.h"
+#include "platform/desktop/LongWork.h"
 #include "platform/runtime/ErrorHandling.h"
 #include "shell/store/DataStore.h"
 
@@ -47,7 +48,9 @@ void generateTables(const QStringList &captions, const FieldRows &rows)
 {
     Catalog catalog;
     catalog.setActiveConnection(dataStoreConnectionString());
-    for (const QString &caption : captions) {
+    desktop::LongWork work(u"Generating table"_s, captions.size());
+    for (qsizetype generated = 0; const QString &caption : captions) {
+        work.at(++generated);
         for (const Table &table : catalog.Tables()) {
             if (table.Type() == u"VIEW" || table.Name() != caption)
                 continue;

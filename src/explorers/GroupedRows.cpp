@@ -3,6 +3,7 @@
 #include "explorers/SortClause.h"
 #include "explorers/UserTree.h"
 #include "platform/desktop/Form.h"
+#include "platform/desktop/LongWork.h"
 #include "platform/desktop/MsgBox.h"
 #include "platform/runtime/Conversion.h"
 #include "shell/store/CLsDataBaseConnection.h"
@@ -98,8 +99,12 @@ void GroupedRows::deleteSelected(const std::function<void()> &reload)
     CommandSequence sequence;
     sequence.open();
     if (answer == desktop::vbYes) {
-        m_panes.forEachSelected(
-            [&](const desktop::ListItem &item) { sequence.execute(m_table.deleteStart + item.Text()); });
+        desktop::LongWork work(u"Deleting"_s, m_panes.LstStudenInformation->selectedItems().size());
+        qsizetype row = 1;
+        m_panes.forEachSelected([&](const desktop::ListItem &item) {
+            work.at(row++);
+            sequence.execute(m_table.deleteStart + item.Text());
+        });
         reload();
     }
     sequence.close();

@@ -2,6 +2,7 @@
 
 #include "library/StoredFile.h"
 #include "platform/desktop/Launch.h"
+#include "platform/desktop/LongWork.h"
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/Files.h"
 #include "shell/store/DataStore.h"
@@ -51,14 +52,17 @@ data::Recordset selectedAttachment(data::Connection &connection, const desktop::
 void saveAttachment(data::Recordset &attachment, desktop::CommonDialog &dialog)
 {
     dialog.FileName = runtime::fileName(runtime::toText(attachment[u"AttachmentsName"].Value()));
-    if (dialog.ShowSave())
-        fetchInto(attachment, u"Attachments", dialog.FileName);
+    if (!dialog.ShowSave())
+        return;
+    const desktop::LongWork work;
+    fetchInto(attachment, u"Attachments", dialog.FileName);
 }
 
 // The copy is deleted when the main window closes. Two versions of a name share one path, and a shorter one keeps the
 // tail of a longer one.
 void viewAttachment(data::Connection &connection, data::Recordset &attachment, const QString &name)
 {
+    const desktop::LongWork work;
     const QString path = temporaryPath(name);
     fetchInto(attachment, u"Attachments", path);
     connection.Close();

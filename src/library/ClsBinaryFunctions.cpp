@@ -5,6 +5,7 @@
 #include "platform/data/Constants.h"
 #include "platform/data/DataFactory.h"
 #include "platform/desktop/ListView.h"
+#include "platform/desktop/LongWork.h"
 #include "platform/runtime/BinaryFile.h"
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/ErrorHandling.h"
@@ -134,7 +135,9 @@ data::Recordset ClsBinaryFunctions::cmdOpendb(const QString &SearchString, const
     Check1Value = 0;
     m_hitNames.clear();
     m_hitCount = 0;
-    for (; !attachments.Eof(); attachments.MoveNext()) {
+    desktop::LongWork work(u"Searching"_s, attachments.Eof() ? 0 : attachments.RecordCount());
+    for (qsizetype file = 1; !attachments.Eof(); attachments.MoveNext()) {
+        work.at(file++);
         const QString path = scanPath(runtime::joinedText(attachments[u"AttachmentsName"].Value()));
         fetchInto(attachments, u"Attachments", path);
         sFile = path;

@@ -1,5 +1,6 @@
 #include "library/LibraryTree.h"
 
+#include "platform/desktop/LongWork.h"
 #include "platform/desktop/MsgBox.h"
 #include "platform/runtime/Conversion.h"
 #include "shell/store/CLsDataBaseConnection.h"
@@ -60,7 +61,9 @@ void LibraryTree::save() const
 {
     CLsDataBaseConnection store;
     data::Recordset objects = store.CreateRecordset(u"select * from ObjectTbl"_s);
+    desktop::LongWork work(u"Saving"_s, m_tree.Nodes.Count());
     for (int index = 1; index <= m_tree.Nodes.Count(); ++index) {
+        work.at(index);
         const Node &node = m_tree.Nodes(index);
         const bool root = isRoot(node);
         objects.AddNew();

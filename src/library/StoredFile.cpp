@@ -5,11 +5,29 @@
 #include "platform/runtime/Files.h"
 #include "platform/runtime/RuntimeError.h"
 
-FileToStore::FileToStore(const QString &path) : m_handle(runtime::FreeFile())
+#include <QFileInfo>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Bytes. Below it the status bar would take a noticeable part of the time.
+constexpr qint64 largeFile = 8 * 1024 * 1024;
+
+} // namespace
+
+FileToStore::FileToStore(const QString &path)
+    : m_work(u"Uploading "_s + QFileInfo(path).fileName() + u": step"_s, 2), m_handle(runtime::FreeFile())
 {
     runtime::OpenBinary(path, m_handle, runtime::BinaryAccess::Read);
-    m_bytes = QByteArray(runtime::LOF(m_handle) + 1, '\0');
+    const qint64 size = runtime::LOF(m_handle);
+    const bool takesLong = size >= largeFile;
+    if (takesLong)
+        m_work.showAt(1);
+    m_bytes = QByteArray(size + 1, '\0');
     runtime::Get(m_handle, 1, m_bytes);
+    if (takesLong)
+        m_work.showAt(2);
 }
 
 void FileToStore::close() const

@@ -7,11 +7,13 @@
 #pragma once
 
 #include "platform/data/Recordset.h"
+#include "platform/desktop/LongWork.h"
 
 #include <QByteArray>
 #include <QString>
 
-// Reads a file to be stored: pass bytes() to AppendChunk in one piece, and close() after Update.
+// Reads a file to be stored: pass bytes() to AppendChunk in one piece, and close() after Update. While it lives the
+// upload is shown as long work.
 class FileToStore
 {
 public:
@@ -22,6 +24,7 @@ public:
     void close() const;
 
 private:
+    desktop::LongWork m_work;
     qint16 m_handle;
     QByteArray m_bytes;
 };

@@ -1,5 +1,6 @@
 // The designer: what it loads and saves, what the mouse does on its canvas, and the tables that it makes.
 #include "dynamicforms/OpenDesigner.h"
+#include "support/ShownWork.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -292,7 +293,9 @@ private Q_SLOTS:
         QCOMPARE(m_folder->rows(storedPages), QStringList());
         m_folder->execute("INSERT INTO \"Contact Details\" (PersonalInformationId, Phone) VALUES (1, '555')");
         designer.addField(u"Mail"_s);
+        ShownWork shown;
         designer.generate(QMessageBox::Yes);
+        QCOMPARE(shown.takeTexts(), (QStringList{u"Saving page 1 of 1"_s, u"Generating table 1 of 1"_s}));
         QCOMPARE(m_folder->rows(storedPages).size(), 1);
         QCOMPARE(
             m_folder->rows("SELECT * FROM (SELECT name, type, \"notnull\" FROM "

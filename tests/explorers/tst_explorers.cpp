@@ -9,6 +9,7 @@
 #include "shell/session/Session.h"
 #include "shell/users/frmNewUser.h"
 #include "support/DataStoreFolder.h"
+#include "support/ShownWork.h"
 #include "support/UnitedStates.h"
 
 #include <QPointer>
@@ -162,9 +163,11 @@ private Q_SLOTS:
         explorer.clickGroup(u"A"_s);
         explorer.select(u"1"_s);
         explorer.select(u"3"_s);
+        ShownWork shown;
         explorer.clickDelete();
         QCOMPARE(explorer.list().ListItems.Count(), 3);
         explorer.clickDelete();
+        QCOMPARE(shown.takeTexts(), (QStringList{u"Deleting 1 of 2"_s, u"Deleting 2 of 2"_s}));
         QCOMPARE(boxes.seen[2].text, u"You are about to delete the selected members\nDo you want to proceed?"_s);
         QCOMPARE(boxes.seen[2].title, u"Tolmark"_s);
         QCOMPARE(boxes.seen[2].buttons, QMessageBox::Yes | QMessageBox::No);

@@ -1,5 +1,6 @@
 // The documents of the library: their list, the upload with its versions, and the links to persons.
 #include "library/OpenLibrary.h"
+#include "support/ShownWork.h"
 #include "support/UnitedStates.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -66,6 +67,20 @@ private Q_SLOTS:
                               u"3|a.txt|1|integer|6F6E6500|0"_s}));
         library.press(2);
         QCOMPARE(library.documents().size(), 5);
+    }
+
+    void aLargeUploadIsToldByItsSteps()
+    {
+        OpenLibrary library;
+        library.press(2);
+        FileAnswers files({m_folder->write(u"large.bin"_s, QByteArray(8 << 20, 'x')), m_folder->write(u"a"_s, "x")});
+        ShownWork shown;
+        desktop::LongWork::interval = std::chrono::hours(1);
+        library.choose("mnuUpLoadDocument");
+        QCOMPARE(shown.takeTexts(),
+                 (QStringList{u"Uploading large.bin: step 1 of 2"_s, u"Uploading large.bin: step 2 of 2"_s}));
+        library.choose("mnuUpLoadDocument");
+        QCOMPARE(shown.takeTexts(), QStringList());
     }
 
     void whatCannotBeUploadedEndsTheProgram()

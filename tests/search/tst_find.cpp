@@ -3,6 +3,7 @@
 #include "support/Dialogs.h"
 #include "support/Launches.h"
 #include "support/Lines.h"
+#include "support/ShownWork.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -101,6 +102,7 @@ private Q_SLOTS:
         const QString second = u"12|minutes.txt|2"_s;
         const QString plan = u"13|plan.doc|1"_s;
         int searches = 0;
+        ShownWork shown;
         for (const auto &[phrase, found] : {std::pair(u"Annual M"_s, QStringList{first, second}),
                                             {u"\"the annual\""_s, {first, second}},
                                             {u"o'h"_s, {second}},
@@ -110,6 +112,8 @@ private Q_SLOTS:
             search(phrase);
             QCOMPARE(lines(*m_window->lstViewResults, 3), found);
             QCOMPARE(columns(), 3 * ++searches);
+            QCOMPARE(shown.takeTexts().join(u' '),
+                     u"Searching 1 of 4 Searching 2 of 4 Searching 3 of 4 Searching 4 of 4"_s);
         }
         QCOMPARE(m_window->lstViewResults->ColumnHeaders(4).Text, u"File Id"_s);
         QCOMPARE(m_window->lstViewResults->ColumnHeaders(5).Text, u"File Name"_s);

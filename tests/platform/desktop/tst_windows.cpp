@@ -6,6 +6,7 @@
 #include "platform/runtime/ErrorHandling.h"
 #include "support/Dialogs.h"
 #include "support/Outcome.h"
+#include "support/ShownWork.h"
 
 #include <QDesktopServices>
 #include <QMdiArea>
@@ -221,6 +222,52 @@ private Q_SLOTS:
                 QCOMPARE(desktop::MsgBox(u"?"_s, style), left);
             }
         }
+    }
+
+    // While it runs nothing but the bar is handled; short work is not told.
+    void longWorkIsToldWithoutLettingEventsIn()
+    {
+        class Bar : public QStatusBar
+        {
+        public:
+            int paintings = 0;
+
+        protected:
+            void paintEvent(QPaintEvent *event) override
+            {
+                ++paintings;
+                QStatusBar::paintEvent(event);
+            }
+        };
+        const QLocale region;
+        QLocale::setDefault(QLocale(u"en_US"_s));
+        ShownWork shown;
+        auto *bar = new Bar;
+        shown.frame.setStatusBar(bar);
+        QLabel panel;
+        bar->addWidget(&panel);
+        shown.frame.Show();
+        QVERIFY(QTest::qWaitForWindowExposed(&shown.frame));
+        bool handled = false;
+        QTimer::singleShot(0, &shown.frame, [&handled] { handled = true; });
+        bar->paintings = 0;
+        const auto fails = [bar] {
+            desktop::LongWork work(u"Searching"_s, 1000);
+            work.at(120);
+            QCOMPARE(bar->currentMessage(), u"Searching 120 of 1,000"_s);
+            throw runtime::RuntimeError(5);
+        };
+        QCOMPARE(errorNumberOf(fails), 5);
+        QVERIFY(bar->paintings > 0 && !handled);
+        QVERIFY(bar->currentMessage().isEmpty() && panel.isVisible() && !QApplication::overrideCursor());
+        desktop::LongWork::interval = std::chrono::hours(1);
+        desktop::LongWork work(u"Searching"_s, 1000);
+        work.at(1);
+        QCOMPARE(bar->currentMessage(), QString());
+        QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+        work.showAt(2); // one that takes long by itself
+        QCOMPARE(bar->currentMessage(), u"Searching 2 of 1,000"_s);
+        QLocale::setDefault(region);
     }
 
     // No exception passes the guard, whatever it is.

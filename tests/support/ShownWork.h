@@ -1,0 +1,42 @@
+// A frame whose status bar keeps what it says of long work. Each text comes, however short the work is.
+#pragma once
+
+#include "platform/desktop/LongWork.h"
+#include "platform/desktop/MdiForm.h"
+
+#include <QApplication>
+#include <QStatusBar>
+
+#include <utility>
+
+class ShownWork
+{
+public:
+    ShownWork()
+    {
+        QObject::connect(frame.statusBar(), &QStatusBar::messageChanged, &frame, [this](const QString &text) {
+            const QCursor *pointer = QApplication::overrideCursor();
+            if (pointer && pointer->shape() == Qt::WaitCursor)
+                m_texts << text;
+        });
+        desktop::LongWork::interval = {};
+    }
+    ~ShownWork() { desktop::LongWork::interval = m_interval; }
+    ShownWork(const ShownWork &) = delete;
+    ShownWork &operator=(const ShownWork &) = delete;
+
+    desktop::MdiForm frame{u"Frame"};
+
+    // What has been said since the last call while the wait pointer stood, and whether any of it stands still.
+    QStringList takeTexts()
+    {
+        QStringList texts = std::exchange(m_texts, {});
+        if (QApplication::overrideCursor() || !frame.statusBar()->currentMessage().isEmpty())
+            texts << QStringLiteral("still shown");
+        return texts;
+    }
+
+private:
+    QStringList m_texts;
+    std::chrono::milliseconds m_interval = desktop::LongWork::interval;
+};
