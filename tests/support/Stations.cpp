@@ -37,7 +37,7 @@ QWidget *dossierAt(int page)
 {
     auto *dossier = showNew<DisplayMembers>([](DisplayMembers &window) {
         window.MemberId = 1;
-        window.setCaption(u"Tolmark Member Information : Ann B Cole"_s);
+        window.setCaption(u"Tolmark Member Information : Abigail Rose Adams"_s);
     });
     dossier->SSTab1->setCurrentIndex(page);
     return dossier;
@@ -81,6 +81,7 @@ constexpr Station all[] = {
     {"member explorer", opened<FrmDataBaseExplorer>},
     {"member explorer with rows", [] { return explorerWithRows(showNew<FrmDataBaseExplorer>()); }},
     {"event explorer", opened<FrmEventExplorer>},
+    {"event explorer with rows", [] { return explorerWithRows(showNew<FrmEventExplorer>()); }},
     {"new member", [] { return newMemberAt(0); }},
     {"new member, employer", [] { return newMemberAt(1); }},
     {"new member, interests", [] { return newMemberAt(2); }},

@@ -2,6 +2,8 @@
 // window on the screen.
 #pragma once
 
+#include <QString>
+
 #include <span>
 
 class QWidget;
@@ -10,6 +12,12 @@ struct Station
 {
     const char *name;
     QWidget *(*open)();
+
+    // The picture of "dossier, member" in the manual is "dossier-member".
+    QString pictureName() const
+    {
+        return QString::fromLatin1(name).remove(QLatin1Char(',')).replace(QLatin1Char(' '), QLatin1Char('-'));
+    }
 };
 
 std::span<const Station> stations();

@@ -8,6 +8,8 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace desktop {
 
 namespace {
@@ -47,6 +49,7 @@ public:
         : QMessageBox(iconOf(style), {}, prompt, buttonsOf(style), QApplication::activeWindow()),
           m_mustAnswer((style & buttonMask) == vbYesNo)
     {
+        setObjectName(u"MsgBox"_s);
         setTitle(*this, title);
         setTextFormat(Qt::PlainText);
     }

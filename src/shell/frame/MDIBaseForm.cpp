@@ -8,12 +8,14 @@
 #include "explorers/FrmDataBaseExplorer.h"
 #include "explorers/FrmEventExplorer.h"
 #include "library/frmDocumentExp.h"
+#include "platform/desktop/HelpKey.h"
 #include "platform/desktop/MsgBox.h"
 #include "platform/runtime/Application.h"
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/ErrorHandling.h"
 #include "platform/runtime/Files.h"
 #include "search/frmFindInfo.h"
+#include "shell/frame/Manual.h"
 #include "shell/frame/ScaleControls.h"
 #include "shell/frame/frmLogin.h"
 #include "shell/users/frmNewUser.h"
@@ -52,6 +54,7 @@ MDIBaseForm::MDIBaseForm()
     setUpToolbar();
     setUpStatusBar();
     setUpMenus();
+    setUpHelpKey();
     const QSize available = screen()->availableGeometry().size();
     resize(roomForOneExplorer.boundedTo(available * 0.95));
 }
@@ -96,6 +99,16 @@ void MDIBaseForm::setUpStatusBar()
 {
     StatusBar1->addPanel(desktop::Panel::Style::Text);
     setStatusBar(StatusBar1);
+}
+
+void MDIBaseForm::setUpHelpKey()
+{
+    constexpr int messageTime = 10'000; // milliseconds
+    desktop::on(new desktop::HelpKey(this), &desktop::HelpKey::pressed, this,
+                [](MDIBaseForm *frame, const QStringList &windows) {
+                    if (!openManual(windows))
+                        frame->StatusBar1->showMessage(u"The manual is not installed"_s, messageTime);
+                });
 }
 
 void MDIBaseForm::Form_Load()

@@ -69,6 +69,7 @@ private:
     void setUpFileMenu();
     void setUpToolsMenu();
     void setUpHelpMenu();
+    void setUpHelpKey();
 
     using Handler = void (MDIBaseForm::*)();
     QMenu *addMenu(const char *name, const QString &caption, bool visible);
