@@ -3,6 +3,7 @@
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/Twips.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 
 namespace {
@@ -58,4 +59,12 @@ void CanvasTextBox::focusInEvent(QFocusEvent *event)
 {
     desktop::TextBox::focusInEvent(event);
     Q_EMIT GotFocus();
+}
+
+void CanvasTextBox::keyPressEvent(QKeyEvent *event)
+{
+    event->ignore();
+    Q_EMIT KeyDown(*event);
+    if (!event->isAccepted())
+        desktop::TextBox::keyPressEvent(event);
 }

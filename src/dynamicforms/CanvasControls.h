@@ -1,4 +1,4 @@
-// The label and the box that a user arranges on a canvas: they report the mouse and the focus.
+// The label and the box that a user arranges on a canvas: they report the mouse, the focus and the keys.
 //
 // Each fills its own background. So Qt repaints the canvas where one goes away, but not where one comes: a repaint
 // draws the grid, which sets the counter of the rows.
@@ -31,9 +31,12 @@ Q_SIGNALS:
     void MouseDown(int button, int shift);
     void MouseMove(int button, int shift, float x, float y);
     void GotFocus();
+    // Before the box itself uses the key, which it does unless a receiver accepts the event.
+    void KeyDown(QKeyEvent &event);
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 };

@@ -14,6 +14,7 @@ constexpr double windowWidth = 10935; // twips, as are all below
 constexpr double windowHeight = 14025;
 constexpr double canvasWidth = 10335;
 constexpr double canvasHeight = 7095;
+constexpr double unselectedStep = 200; // of the arrow keys, while no grid size is selected
 constexpr int listedLines = 6;
 constexpr int margin = 6; // pixels
 
@@ -121,6 +122,7 @@ void DatabaseGenerator::setUpCanvas()
         txtWidth->Tag = QString::number(index);
         txtWidth->setText(runtime::singleText(float(m_surface->Text1(index)->Width())));
     };
+    m_surface->keyStep = [this] { return txtGridSize->ListIndex() < 0 ? unselectedStep : gridStep(); };
     cmdGenerateDatebase = new CommandButton(this, u"cmdGenerateDatebase", u"Generate Database"_s);
     cmdSave = new CommandButton(this, u"cmdSave", u"Save Layout"_s);
     cmdExit = new CommandButton(this, u"cmdExit", u"Exit"_s);

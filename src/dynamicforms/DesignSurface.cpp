@@ -44,12 +44,6 @@ void placeUnderLast(Control &added, const Control &last)
     added.setTop(last.Top() + last.Height() + gapBetweenRows);
 }
 
-void moveBy(Control &control, float x, float y)
-{
-    control.setLeft(double(float(control.Left()) + x));
-    control.setTop(double(float(control.Top()) + y));
-}
-
 // The loaded controls by their tool tips. Of equal ones the last counts, as in a walk through all of them it would
 // overwrite what the others left.
 template <class ControlType> QHash<QString, ControlType *> byName(const ControlArray<ControlType> &controls)
@@ -68,6 +62,12 @@ float snappedToGrid(float x, qint16 step)
     const qint32 beyondLine = runtime::toLong(Value(double(x))) % step;
     const float line = std::floor(x / float(step));
     return (beyondLine < half ? line : line + 1) * float(step);
+}
+
+void moveBy(Control &control, float x, float y)
+{
+    control.setLeft(double(float(control.Left()) + x));
+    control.setTop(double(float(control.Top()) + y));
 }
 
 DesignSurface::DesignSurface(desktop::PictureBox &canvas, desktop::TabStrip &tabs, FieldRows &rows)
@@ -104,9 +104,11 @@ void DesignSurface::load(int index)
     on(box, &CanvasTextBox::MouseMove, box, [this, index](CanvasTextBox *, int button, int shift, float x, float y) {
         moveBox(index, button, shift, x, y);
     });
-    on(box, &CanvasTextBox::MouseDown, box, [this, index](CanvasTextBox *, int, int shift) { gather(index, shift); });
+    on(box, &CanvasTextBox::MouseDown, box, [this, index](CanvasTextBox *, int, int shift) { clickBox(index, shift); });
+    on(box, &CanvasTextBox::KeyDown, box, [this, index](CanvasTextBox *, QKeyEvent &event) { pressKey(index, event); });
     on(box, &CanvasTextBox::GotFocus, box, [this, index](CanvasTextBox *) { onBoxChosen(index); });
     on(holder, &TextBox::textChanged, holder, [this](TextBox *) { keepOrders(); });
+    describe(index);
 }
 
 void DesignSurface::showFields()
@@ -224,15 +226,20 @@ void DesignSurface::moveLabel(int index, int button, float x, float y)
         moveBy(*Label1(index), x, y);
 }
 
-void DesignSurface::gather(int index, int shift)
+void DesignSurface::clickBox(int index, int shift)
 {
-    if (shift != desktop::vbShiftMask)
-        return;
+    if (shift == desktop::vbShiftMask)
+        gather(index);
+}
+
+void DesignSurface::gather(int index)
+{
     if (!SelectedIndexes)
         SelectedIndexes.emplace();
     ++SelectedCount;
     SelectedIndexes->resize(size_t(SelectedCount) + 1);
     (*SelectedIndexes)[size_t(SelectedCount) - 1] = qint16(index);
+    describe(index);
 }
 
 void DesignSurface::align(Alignment alignment)
@@ -254,8 +261,7 @@ void DesignSurface::align(Alignment alignment)
             break;
         }
     }
-    SelectedCount = 0;
-    SelectedIndexes->assign(1, 0);
+    releaseGathered();
 }
 
 void DesignSurface::setWidth(int index, double width) const

@@ -1,4 +1,5 @@
-// The canvas of the designer: the labels and boxes of the selected page, which the mouse moves and a toolbar aligns.
+// The canvas of the designer: the labels and boxes of the selected page, which the mouse and the keys move and a
+// toolbar aligns.
 //
 // It shows the rows of the page and takes their places back before the page is left. A control knows its row only by
 // its tool tip, which is the field's name; so equal names share their places. All places are twips. Elements 0 of the
@@ -10,12 +11,18 @@
 #include "platform/desktop/ControlArray.h"
 #include "platform/desktop/TabStrip.h"
 
+#include <QPoint>
+
 #include <functional>
 #include <optional>
+#include <set>
 #include <vector>
 
 // The nearest grid line, upwards from the middle.
 float snappedToGrid(float x, qint16 step);
+
+// A control of the canvas, by so many twips. Its place is kept as a single.
+void moveBy(desktop::Control &control, float x, float y);
 
 class DesignSurface
 {
@@ -30,6 +37,8 @@ public:
     bool ObjectsLocked = false;
     // The box whose width the window edits.
     std::function<void(int index)> onBoxChosen;
+    // How far an arrow key moves a field, in twips.
+    std::function<double()> keyStep;
 
     // Sets a point at each crossing of the grid. The rows' counter counts the columns.
     void drawGrid(qint16 step);
@@ -42,8 +51,8 @@ public:
     // Puts a new field under the last one of the selected page. Error 9 for a counter that names no row.
     void addField(const QString &name, const QString &description);
 
-    // The boxes that Shift-clicks gathered take over what the first of them has. Error 9 before any was gathered, 340
-    // for one that is gone. None is gathered afterwards.
+    // The boxes that Shift-clicks or keys gathered take over what the first of them has. Error 9 before any was
+    // gathered, 340 for one that is gone. None is gathered afterwards.
     enum class Alignment { Top, Left, Width };
     void align(Alignment alignment);
     // Label and box together.
@@ -56,7 +65,21 @@ private:
     template <class Keep> void forEachRowOfPage(Keep keep);
     void moveBox(int index, int button, int shift, float x, float y);
     void moveLabel(int index, int button, float x, float y);
-    void gather(int index, int shift);
+    void clickBox(int index, int shift);
+    void gather(int index);
+
+    // What the keys do in a box of the canvas: DesignSurfaceKeys.cpp.
+    void pressKey(int index, QKeyEvent &event);
+    void moveByKey(int index, QPoint direction, Qt::KeyboardModifiers held);
+    void gatherByKey(int index);
+    void gatherWithNeighbour(int index, int neighbour);
+    void gatherAll(int index);
+    void releaseGathered();
+    std::set<int> gathered() const;
+    std::vector<desktop::Control *> movedByKey(int index, bool labelsAlone) const;
+    bool staysOnCanvas(const desktop::Control &control, double x, double y) const;
+    // Screen readers tell whether the box is gathered; nothing on the canvas does.
+    void describe(int index);
 
     desktop::PictureBox &m_canvas;
     desktop::TabStrip &m_tabs;

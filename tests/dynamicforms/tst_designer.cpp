@@ -152,6 +152,58 @@ private Q_SLOTS:
                                                  u"Desk 345,1245 3060,1260 1500"_s}));
     }
 
+    // A field whole, or its label alone; what a drag by as much would store.
+    void arrowKeysMoveFields()
+    {
+        OpenDesigner designer;
+        const auto press = [&designer](int box, Qt::Key key, Qt::KeyboardModifiers held = {}) {
+            QTest::keyClick(designer.box(box), key, held);
+        };
+        press(1, Qt::Key_Right);
+        press(1, Qt::Key_Up, Qt::ShiftModifier);
+        press(1, Qt::Key_Down, Qt::AltModifier | Qt::ShiftModifier | Qt::KeypadModifier);
+        QCOMPARE(designer.fields().value(0), u"Post 500,1800 3200,1780 1500"_s);
+        designer.window.txtGridSize->setSelected(9);
+        press(2, Qt::Key_Up);
+        press(2, Qt::Key_Up); // would leave the canvas
+        press(2, Qt::Key_Left, Qt::AltModifier);
+        designer.press(u"Lock Objects"_s);
+        press(2, Qt::Key_Down);
+        designer.press(u"Unlock Objects"_s);
+        QCOMPARE(designer.fields().value(1), u"Firm 300,100 3000,100 1500"_s);
+        for (int presses = 0; presses < 20; ++presses)
+            press(3, Qt::Key_Right);
+        QCOMPARE(designer.fields().value(2),
+                 u"Desk 6800,1200 9500,1200 1500"_s); // a further step would leave the canvas
+        press(3, Qt::Key_Left);
+        designer.window.cmdSave->click();
+        QCOMPARE(m_folder->rows(storedFields).value(2), u"Work|Desk|Desk|NULL|6300.0|1200.0|9000.0|1200.0|1500.0"_s);
+    }
+
+    // Those that the keys gathered move and align together; a field beside them moves alone.
+    void keysGatherFields()
+    {
+        OpenDesigner designer;
+        QTest::keyClick(designer.box(1), Qt::Key_Down, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(QApplication::focusWidget(), designer.box(2));
+        QTest::keyClick(designer.box(2), Qt::Key_Space, Qt::ControlModifier); // is gathered already
+        QTest::keyClick(designer.box(2), Qt::Key_Right, Qt::ShiftModifier);
+        QTest::keyClick(designer.box(3), Qt::Key_Left, Qt::ShiftModifier);
+        QCOMPARE(designer.fields(), (QStringList{u"Post 320,1800 3020,1800 1500"_s, u"Firm 320,600 3020,600 1500"_s,
+                                                 u"Desk 280,1200 2980,1200 1500"_s}));
+        QCOMPARE(designer.box(1)->accessibleDescription() + designer.box(3)->accessibleDescription(), u"Chosen"_s);
+        designer.press(u"Align Top"_s);
+        QCOMPARE(designer.fields().value(1), u"Firm 320,600 3020,1800 1500"_s);
+        QTest::keyClick(designer.box(3), Qt::Key_A, Qt::ControlModifier);
+        designer.press(u"Align Left"_s); // to the box in which the key was pressed
+        QCOMPARE(designer.fields().value(0), u"Post 320,1800 2980,1800 1500"_s);
+        QTest::keyClick(designer.box(2), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(designer.box(2), Qt::Key_Escape);
+        designer.press(u"Align Top"_s);
+        QCOMPARE(designer.fields().value(2), u"Desk 280,1200 2980,1200 1500"_s);
+        QCOMPARE(designer.box(1)->accessibleDescription(), QString());
+    }
+
     void gatheredBoxesFollowTheFirst()
     {
         OpenDesigner designer;
