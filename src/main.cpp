@@ -1,4 +1,5 @@
 #include "platform/desktop/ErrorReport.h"
+#include "platform/desktop/Style.h"
 #include "platform/runtime/Application.h"
 #include "shell/frame/frmLogin.h"
 
@@ -14,6 +15,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationVersion(runtime::App::Version.toString());
     QApplication::setDesktopFileName(u"org.tolmark.tolmark"_s); // by which a Wayland desktop finds the icon
     QApplication::setWindowIcon(QIcon(u":/icons/tolmark.svg"_s));
+    desktop::Style::install();
     desktop::guarded([] { frmLogin::shared().Show(); });
     return QApplication::exec();
 }

@@ -1,5 +1,6 @@
 #include "dossier/DisplayMembers.h"
 
+#include "platform/desktop/Twips.h"
 #include "platform/runtime/Conversion.h"
 
 #include <QVBoxLayout>
@@ -8,7 +9,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr QSize roomForAllTabs(820, 590); // logical pixels
+constexpr QSize roomForAllTabs(820, 590); // logical pixels, with letters of the usual size
 
 } // namespace
 
@@ -21,7 +22,7 @@ DisplayMembers::DisplayMembers()
     setUpCloseButtons();
     auto *whole = new QVBoxLayout(this);
     whole->addWidget(SSTab1);
-    resize(roomForAllTabs);
+    resize(roomForAllTabs * desktop::letterScale());
 }
 
 void DisplayMembers::setUpTabs()

@@ -10,7 +10,7 @@ namespace {
 
 float inTwips(double pixels)
 {
-    return float(pixels * desktop::twipsPerPixel);
+    return float(desktop::twips(pixels));
 }
 
 template <class ControlType> void reportMove(ControlType &control, const QMouseEvent &event)

@@ -1,5 +1,6 @@
 // The controls of the designer and where they lie.
 #include "dynamicforms/DatabaseGenerator.h"
+#include "platform/desktop/Twips.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -49,7 +50,7 @@ void DatabaseGenerator::setUpToolbar()
     add(u"align-left"_s, u"Align Left"_s);
     Toolbar1->addSeparator();
     add(u"same-width"_s, u"Same Width"_s);
-    Toolbar1->setIconSize({20, 20});
+    Toolbar1->setIconSize(QSize(20, 20) * desktop::letterScale());
 }
 
 void DatabaseGenerator::setUpTableInformation()

@@ -38,7 +38,7 @@ void RecordPage::showField(const FieldRow &row)
     Label &label = *Label1.Load(Label1.Count());
     TextBox &box = *Text1.Load(Text1.Count());
     label.setTextFormat(Qt::PlainText);
-    label.setShrinksToFit();
+    label.setElides();
     box.setAccessibleName(row.RowFieldName);
     QWidget::setTabOrder(Text1(Text1.Count() - 2), &box);
     placeField(label, box, row, [](const auto &step) { everyStep(step); });

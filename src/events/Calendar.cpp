@@ -1,9 +1,12 @@
 #include "events/Calendar.h"
 
+#include "platform/desktop/Style.h"
 #include "platform/runtime/Regional.h"
 #include "platform/runtime/RuntimeError.h"
 
+#include <QEvent>
 #include <QSignalBlocker>
+#include <QTextCharFormat>
 
 namespace {
 
@@ -20,10 +23,30 @@ Calendar::Calendar(QWidget *parent, QAnyStringView name) : ControlOf(parent, nam
 {
     setLocale(runtime::regional());
     setVerticalHeaderFormat(NoVerticalHeader);
+    setColours();
     takeOver();
     connect(this, &QCalendarWidget::selectionChanged, this, &Calendar::takeOver);
     connect(this, &QCalendarWidget::clicked, this, &Calendar::Click);
     connect(this, &QCalendarWidget::activated, this, &Calendar::Click);
+}
+
+void Calendar::changeEvent(QEvent *event)
+{
+    ControlOf::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        setColours();
+}
+
+void Calendar::setColours()
+{
+    const QColor text = palette().color(QPalette::Text);
+    QColor red = Qt::red;
+    for (const auto ground : {QPalette::Base, QPalette::AlternateBase})
+        red = desktop::readable(red, text, palette().color(ground));
+    QTextCharFormat weekend;
+    weekend.setForeground(red);
+    for (const auto day : {Qt::Saturday, Qt::Sunday})
+        setWeekdayTextFormat(day, weekend);
 }
 
 void Calendar::takeOver()

@@ -24,7 +24,12 @@ public:
 Q_SIGNALS:
     void Click();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    // Weekends are as red as can be read in the palette.
+    void setColours();
     void takeOver();
     void showDay();
 

@@ -19,7 +19,7 @@ ExplorerPanes::ExplorerPanes(desktop::Form &window, const ExplorerTexts &texts)
     LblMemberListing->setClickable();
     TreClassView->setAccessibleName(u"Groups"_s);
     LstStudenInformation->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    Toolbar1->setIconSize({20, 20});
+    Toolbar1->setIconSize(QSize(20, 20) * desktop::letterScale());
     Toolbar1->addButton({}, texts.deleteButton, texts.deleteButton, QIcon(texts.deleteImage));
     placeBars();
     // Tab reaches the button, but the focus begins at the headline below it.

@@ -27,6 +27,10 @@ constexpr double panesBottom = 8115;
 constexpr double panesRight = 13770;
 constexpr double margin = 60;
 
+// Room for the headlines, the tree and the beginning of some lines.
+constexpr double usefulWidth = 7500;
+constexpr double usefulHeight = 4500;
+
 // The margins that the panes leave of the window's height and width.
 constexpr double aboveAndBelowPanes = 1720;
 constexpr double splitterBesideHeadline = 425;
@@ -40,7 +44,7 @@ void asHeadline(Label &label)
     label.setBackgroundRole(QPalette::Button);
     label.setForegroundRole(QPalette::ButtonText);
     label.setIndent(6);
-    label.setShrinksToFit();
+    label.setElides();
 }
 
 } // namespace
@@ -75,6 +79,7 @@ void SplitPanes::setUpPlaces()
     Picture1->Move(2580, 480, 30, 7635);
     LstStudenInformation->Move(2595, 900, 11175, 7215);
     Picture1->raise(); // it lies over the edge of the list
+    m_window.setUsefulSize(usefulWidth, usefulHeight);
     m_window.resize(pixels(panesRight + margin), pixels(panesBottom + statusBarHeight + margin));
     placeStatusBar();
 }

@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QShortcut>
 #include <QStyleOptionFocusRect>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -31,24 +32,23 @@ void Label::setClickable()
     setCursor(Qt::PointingHandCursor);
 }
 
-void Label::setShrinksToFit()
+QRect Label::textPlace() const
 {
-    m_fullSize = font().pointSizeF();
+    const int beside = margin() + qMax(0, indent());
+    return contentsRect().adjusted(beside, 0, -beside, 0);
 }
 
-void Label::fitFont()
+bool Label::isElided() const
 {
-    constexpr double smallest = 5.0;
-    constexpr double step = 0.25;
-    const int place = contentsRect().width() - 2 * qMax(0, indent());
-    QFont fitting = font();
-    double size = m_fullSize;
-    do {
-        fitting.setPointSizeF(size);
-        size -= step;
-    } while (size >= smallest && QFontMetrics(fitting, this).horizontalAdvance(text()) > place);
-    if (fitting.pointSizeF() != font().pointSizeF())
-        setFont(fitting);
+    return m_elides && fontMetrics().horizontalAdvance(text()) > textPlace().width();
+}
+
+bool Label::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip || !toolTip().isEmpty() || !isElided())
+        return ControlOf::event(event);
+    showPlainToolTip(text(), *static_cast<QHelpEvent *>(event), this);
+    return true;
 }
 
 void Label::mouseReleaseEvent(QMouseEvent *event)
@@ -68,9 +68,10 @@ void Label::keyPressEvent(QKeyEvent *event)
 
 void Label::paintEvent(QPaintEvent *event)
 {
-    if (m_fullSize > 0)
-        fitFont();
-    QLabel::paintEvent(event);
+    if (isElided())
+        paintElided();
+    else
+        QLabel::paintEvent(event);
     if (!m_clickable || !hasFocus())
         return;
     QPainter painter(this);
@@ -80,9 +81,26 @@ void Label::paintEvent(QPaintEvent *event)
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
 }
 
+void Label::paintElided()
+{
+    QPainter painter(this);
+    drawFrame(&painter);
+    const QRect place = textPlace();
+    style()->drawItemText(&painter, place, int(QStyle::visualAlignment(layoutDirection(), alignment())), palette(),
+                          isEnabled(), fontMetrics().elidedText(text(), Qt::ElideRight, place.width()),
+                          foregroundRole());
+}
+
 TextBox::TextBox(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
 {
     setMaxLength(std::numeric_limits<int>::max()); // Qt's own limit cuts what is loaded
+}
+
+void TextBox::setText(const QString &text)
+{
+    QLineEdit::setText(text);
+    if (!hasFocus())
+        setCursorPosition(0);
 }
 
 void TextBox::setMasked()
@@ -264,8 +282,46 @@ void ListBox::setLines(int lines)
     setFixedHeight(lines * qMax(sizeHintForRow(0), fontMetrics().height()) + 2 * frameWidth());
 }
 
+namespace {
+
+class OneLineDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::paint(painter, option, index);
+        const QModelIndexList chosen = qobject_cast<const QListView *>(option.widget)->selectionModel()->selectedRows();
+        if (chosen.isEmpty() || chosen.contains(index))
+            return;
+        const QModelIndex &choice = chosen.constFirst();
+        const QString arrow = choice.row() < index.row() ? QStringLiteral("\u25b2 ") : QStringLiteral("\u25bc ");
+        painter->setPen(option.palette.color(QPalette::Text));
+        painter->drawText(option.rect.adjusted(0, 0, -gap, 0), Qt::AlignRight | Qt::AlignVCenter,
+                          arrow + choice.data().toString());
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (option->state & QStyle::State_Selected)
+            return;
+        option->font.setItalic(true);
+        option->palette.setColor(QPalette::Text, option->palette.color(QPalette::Disabled, QPalette::Text));
+    }
+
+private:
+    static constexpr int gap = 6; // logical pixels
+};
+
+} // namespace
+
 void ListBox::setOneLine()
 {
+    setItemDelegate(new OneLineDelegate(this));
+    connect(this, &QListWidget::itemSelectionChanged, this, [this] { viewport()->update(); });
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
@@ -307,14 +363,13 @@ PictureBox::PictureBox(QWidget *parent, QAnyStringView name) : ControlOf(parent,
 
 void PictureBox::mouseMoveEvent(QMouseEvent *event)
 {
-    Q_EMIT MouseMove(heldButtons(*event), float(event->position().x() * twipsPerPixel),
-                     float(event->position().y() * twipsPerPixel));
+    Q_EMIT MouseMove(heldButtons(*event), float(twips(event->position().x())), float(twips(event->position().y())));
 }
 
 void PictureBox::PSet(double x, double y)
 {
     if (m_painting)
-        m_points << QPointF(x / twipsPerPixel, y / twipsPerPixel);
+        m_points << QPointF(x, y);
 }
 
 // All points by one call: there are tens of thousands.
@@ -328,6 +383,9 @@ void PictureBox::paintEvent(QPaintEvent *event)
         return;
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::WindowText));
+    const double toTwips = twips(1);
+    for (QPointF &point : m_points)
+        point /= toTwips;
     painter.drawPoints(m_points.constData(), int(m_points.size()));
     m_points.clear();
 }

@@ -25,22 +25,25 @@ class Label : public ControlOf<QLabel>
 public:
     Label(QWidget *parent, QAnyStringView name, const QString &caption = {});
     void setClickable();
-    // Draws a text that is too wide for its place in a smaller font, so that nothing of it is cut off.
-    void setShrinksToFit();
+    // A text that is too wide for its place ends with an ellipsis; it is the tool tip where none is set.
+    void setElides() { m_elides = true; }
 
 Q_SIGNALS:
     void Click();
 
 protected:
+    bool event(QEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void fitFont();
+    QRect textPlace() const;
+    bool isElided() const;
+    void paintElided();
 
     bool m_clickable = false;
-    double m_fullSize = 0; // points; 0 while the font stays as it is
+    bool m_elides = false;
 };
 
 // One line of text of any length: what is loaded and left alone is given back as it was, with its line breaks too.
@@ -48,6 +51,8 @@ class TextBox : public ControlOf<QLineEdit>
 {
 public:
     TextBox(QWidget *parent, QAnyStringView name);
+    // A long text shows its beginning, unless somebody is typing.
+    void setText(const QString &text);
     // Shows a * for each character.
     void setMasked();
 };
@@ -139,7 +144,8 @@ public:
     void setSelected(int index, bool selected = true);
     // Draws the list so many items high, at a height that a layout leaves alone.
     void setLines(int lines);
-    // Draws the list one line high; the arrow keys and the bar beside it move through the items.
+    // Draws the list one line high; the arrow keys and the bar beside it move through the items. A line that is not the
+    // choice is muted; the choice, if there is one, is told beside it.
     void setOneLine();
 
 protected:
@@ -184,7 +190,7 @@ protected:
 
 private:
     bool m_painting = false;
-    QList<QPointF> m_points; // pixels
+    QList<QPointF> m_points; // twips
 };
 
 } // namespace desktop

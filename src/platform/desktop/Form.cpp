@@ -103,9 +103,16 @@ void Form::setSize(double width, double height)
     outer()->resize(size);
 }
 
+QSize Form::minimumSizeHint() const
+{
+    if (!m_usefulSize)
+        return QWidget::minimumSizeHint();
+    return {pixels(m_usefulSize->width()), pixels(m_usefulSize->height())};
+}
+
 void Form::centreOnScreen()
 {
-    adjustSize();
+    resize(sizeHint()); // adjustSize() stops at two thirds of the screen
     const QWidget *shownOn = MdiForm::frame() ? static_cast<QWidget *>(MdiForm::frame()) : this;
     move(shownOn->screen()->availableGeometry().center() - rect().center());
 }

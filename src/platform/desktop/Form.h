@@ -46,7 +46,10 @@ public:
     void setSize(double width, double height);
     // The size that was set before the window came into the frame, in pixels.
     std::optional<QSize> presetSize() const { return m_presetSize; }
+    // Twips, without border and title bar: the mouse makes a child in the frame no smaller.
+    void setUsefulSize(double width, double height) { m_usefulSize = QSizeF(width, height); }
     bool keepsSize() const { return m_keptSize.has_value(); }
+    QSize minimumSizeHint() const override;
 
 protected:
     virtual void Form_Load() {}
@@ -73,7 +76,8 @@ private:
     State m_state = State::Unloaded;
     bool m_shared = false;
     std::optional<QSize> m_presetSize;
-    std::optional<QSizeF> m_keptSize; // twips
+    std::optional<QSizeF> m_keptSize;   // twips
+    std::optional<QSizeF> m_usefulSize; // twips
 };
 
 // Makes a window, hands it what its opener sets, and shows it. A window whose load fails is gone again.

@@ -100,6 +100,7 @@ void ColumnHeaders::Add(const QString &text, const QString &tag)
         labels << header.Text;
     m_list->setColumnCount(Count());
     m_list->setHeaderLabels(labels);
+    m_list->headerItem()->setToolTip(Count() - 1, text); // a section may be narrower than its text
 }
 
 void ColumnHeaders::setWidth(int index, double width)
@@ -148,6 +149,7 @@ ListView::ListView(QWidget *parent, QAnyStringView name) : ControlOf(parent, nam
     setAlternatingRowColors(true);
     header()->setSectionsClickable(true);
     header()->setSectionsMovable(false);
+    header()->setTextElideMode(Qt::ElideRight);
     header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     connect(header(), &QHeaderView::sectionClicked, this, [this](int section) { Q_EMIT ColumnClick(section + 1); });
 }
@@ -159,6 +161,19 @@ ObjectRef<ListItem> ListView::SelectedItem() const
     const QModelIndexList lines = selectionModel()->selectedRows(); // in no order
     const auto topmost = std::ranges::min_element(lines, {}, &QModelIndex::row);
     return topmost == lines.end() ? nullptr : static_cast<ListItem *>(itemFromIndex(*topmost));
+}
+
+bool ListView::viewportEvent(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto &help = *static_cast<QHelpEvent *>(event);
+        const QModelIndex cell = indexAt(help.pos());
+        if (cell.isValid() && sizeHintForIndex(cell).width() > visualRect(cell).width()) {
+            showPlainToolTip(cell.data().toString(), help, viewport());
+            return true;
+        }
+    }
+    return ControlOf::viewportEvent(event);
 }
 
 void ListView::keyPressEvent(QKeyEvent *event)

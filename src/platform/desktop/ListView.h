@@ -94,6 +94,7 @@ private:
     std::optional<QStringList> m_files;
 };
 
+// A cell that is too narrow for its text has it as its tool tip.
 class ListView : public ControlOf<QTreeWidget>
 {
     Q_OBJECT
@@ -122,6 +123,7 @@ Q_SIGNALS:
     void OLEDragDrop(const DataObject &data);
 
 protected:
+    bool viewportEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;

@@ -5,12 +5,14 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyle>
 #include <QSvgRenderer>
 
@@ -34,6 +36,14 @@ QMargins borders(const QMdiSubWindow &host)
     return {frame, title, frame, frame};
 }
 
+// How far the stretch has to move to lie within the other, its beginning first.
+int wayInto(int from, int to, int seenFrom, int seenTo)
+{
+    if (from < seenFrom)
+        return from - seenFrom;
+    return to > seenTo ? qMin(to - seenTo, from - seenFrom) : 0;
+}
+
 } // namespace
 
 // Draws the picture in the middle of what the child windows leave free.
@@ -55,7 +65,6 @@ protected:
         QRectF place({}, size);
         place.moveCenter(QRectF(viewport()->rect()).center());
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setOpacity(0.85);
         picture.render(&painter, place);
     }
 };
@@ -71,6 +80,7 @@ MdiForm::MdiForm(QAnyStringView className) : m_area(new Area(this))
         if (auto *form = host ? qobject_cast<Form *>(host->widget()) : nullptr)
             form->becomeActive();
     });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { showFocus(now); });
     theFrame() = this;
 }
 
@@ -136,6 +146,17 @@ void MdiForm::Move(double left, double top, double width, double height)
     resize(QSize(pixels(width), pixels(height)) - borders);
 }
 
+void MdiForm::showFocus(QWidget *now)
+{
+    if (!now || !m_area->viewport()->isAncestorOf(now))
+        return;
+    const QRect place(now->mapTo(m_area->viewport(), QPoint()), now->size());
+    const QRect seen = m_area->viewport()->rect();
+    const auto scroll = [](QScrollBar &bar, int way) { bar.setValue(bar.value() + way); };
+    scroll(*m_area->horizontalScrollBar(), wayInto(place.left(), place.right(), seen.left(), seen.right()));
+    scroll(*m_area->verticalScrollBar(), wayInto(place.top(), place.bottom(), seen.top(), seen.bottom()));
+}
+
 void MdiForm::bringIn(QMdiSubWindow &host)
 {
     const QSize room = m_area->viewport()->size() - host.size();
@@ -154,7 +175,8 @@ void MdiForm::showChild(Form &form)
     if (QMdiSubWindow *active = m_area->activeSubWindow(); active && active->isMaximized() && form.keepsSize())
         active->showNormal();
     auto *host = qobject_cast<QMdiSubWindow *>(form.parentWidget());
-    const QSize content = form.testAttribute(Qt::WA_Resized) ? form.size() : form.sizeHint();
+    const QSize wanted = form.testAttribute(Qt::WA_Resized) ? form.size() : form.sizeHint();
+    const QSize content = wanted.expandedTo(form.minimumSizeHint());
     if (!host) {
         const bool placed = form.testAttribute(Qt::WA_Moved);
         const QPoint middle = form.geometry().center(); // on the screen

@@ -67,6 +67,8 @@ private:
     // A shared window that is closed stays in the area, hidden.
     QList<QMdiSubWindow *> openChildren(QMdiArea::WindowOrder order) const;
     void listWindows(QMenu *menu, QActionGroup *listed);
+    // Scrolls what has got the focus into view, where its window is larger than its place.
+    void showFocus(QWidget *now);
     // What hangs over an edge of the area comes in.
     void bringIn(QMdiSubWindow &host);
 

@@ -40,4 +40,10 @@ bool showMarkedUpToolTip(const QString &toolTip, const QHelpEvent &event, QWidge
     return true;
 }
 
+void showPlainToolTip(const QString &text, const QHelpEvent &event, QWidget *widget)
+{
+    if (!showMarkedUpToolTip(text, event, widget))
+        QToolTip::showText(event.globalPos(), text, widget);
+}
+
 } // namespace desktop

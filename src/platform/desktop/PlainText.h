@@ -18,5 +18,7 @@ QString withoutMnemonic(QString text);
 
 // Shows a tool tip that Qt would take for HTML. False, with nothing shown, for any other, which Qt shows as it is.
 bool showMarkedUpToolTip(const QString &toolTip, const QHelpEvent &event, QWidget *widget);
+// Shows any text as a tool tip.
+void showPlainToolTip(const QString &text, const QHelpEvent &event, QWidget *widget);
 
 } // namespace desktop

@@ -65,6 +65,7 @@ void Panel::update()
 StatusBar::StatusBar(QWidget *parent, QAnyStringView name) : DockedBar(parent, name)
 {
     setSizeGripEnabled(false);
+    setAutoFillBackground(true); // a window that is made smaller lets it come over its rows
 }
 
 void StatusBar::addPanel(Panel::Style style)

@@ -1,10 +1,13 @@
 #include "platform/desktop/Toolbar.h"
 
+#include <QLayout>
+
 namespace desktop {
 
 Toolbar::Toolbar(QWidget *parent, QAnyStringView name) : DockedBar(parent, name)
 {
     setMovable(false);
+    layout()->setContentsMargins(4, 2, 4, 2); // a bar of a given height has no more to spare beside its buttons
     setContextMenuPolicy(Qt::PreventContextMenu);
     connect(this, &QToolBar::actionTriggered, this, &Toolbar::ButtonClick);
 }

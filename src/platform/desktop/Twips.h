@@ -1,20 +1,16 @@
 // The unit of positions and sizes: 1440 to the inch, 15 to a logical pixel.
+//
+// That holds for letters of the usual size. With larger ones whatever is measured in twips grows as they do, so that a
+// box that is 375 twips high holds its line of text in any font.
 #pragma once
-
-#include <cmath>
 
 namespace desktop {
 
-inline constexpr double twipsPerPixel = 15.0;
+// How many times as large as usual the letters are; at least 1.
+double letterScale();
 
-inline int pixels(double twips)
-{
-    return int(std::lround(twips / twipsPerPixel));
-}
-
-inline double twips(int pixels)
-{
-    return pixels * twipsPerPixel;
-}
+// Logical pixels.
+int pixels(double twips);
+double twips(double pixels);
 
 } // namespace desktop

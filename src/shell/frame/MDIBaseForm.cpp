@@ -10,6 +10,7 @@
 #include "library/frmDocumentExp.h"
 #include "platform/desktop/HelpKey.h"
 #include "platform/desktop/MsgBox.h"
+#include "platform/desktop/Twips.h"
 #include "platform/runtime/Application.h"
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/ErrorHandling.h"
@@ -21,8 +22,10 @@
 #include "shell/users/frmNewUser.h"
 #include "shell/users/frmOptions.h"
 
+#include <QMenuBar>
 #include <QPointer>
 #include <QScreen>
+#include <QStyle>
 
 #include <cmath>
 
@@ -32,7 +35,9 @@ using runtime::RuntimeError;
 
 namespace {
 
-constexpr QSize roomForOneExplorer(1000, 760); // logical pixels
+// Twips: as wide as the record window and as high as the form editor, which are the largest children.
+constexpr double largestChildWidth = 14430;
+constexpr double largestChildHeight = 14025;
 
 // A division as the run-time does it, in 32-bit floats.
 float ratio(double current, qint32 last)
@@ -55,8 +60,22 @@ MDIBaseForm::MDIBaseForm()
     setUpStatusBar();
     setUpMenus();
     setUpHelpKey();
-    const QSize available = screen()->availableGeometry().size();
-    resize(roomForOneExplorer.boundedTo(available * 0.95));
+    openOnScreen();
+}
+
+void MDIBaseForm::openOnScreen()
+{
+    const int border = style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+    const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const QRect available = screen()->availableGeometry().adjusted(border, title, -border, -border);
+    setGeometry(
+        QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, sizeHint().boundedTo(available.size()), available));
+}
+
+QSize MDIBaseForm::sizeHint() const
+{
+    const int bars = menuBar()->sizeHint().height() + Toolbar1->sizeHint().height() + StatusBar1->sizeHint().height();
+    return {desktop::pixels(largestChildWidth), desktop::pixels(largestChildHeight) + bars};
 }
 
 MDIBaseForm &MDIBaseForm::frame()
@@ -88,7 +107,7 @@ void MDIBaseForm::setUpToolbar()
     ImageList1->add(u"Phone"_s, u":/icons/phone.svg"_s);
     ImageList1->add(u"Find"_s, u":/icons/find.svg"_s);
     Toolbar1->setWindowTitle(u"Toolbar"_s);
-    Toolbar1->setIconSize({24, 24});
+    Toolbar1->setIconSize(QSize(24, 24) * desktop::letterScale());
     Toolbar1->addButton(u"Phone"_s, {}, u"Telephone Conference"_s, ImageList1->icon(u"Phone"_s));
     Toolbar1->addButton(u"Find"_s, {}, u"Find"_s, ImageList1->icon(u"Find"_s));
     addToolBar(Toolbar1);

@@ -57,6 +57,9 @@ public:
     void mnuWhoAmI_Click();
     void Toolbar1_ButtonClick(QAction *button);
 
+    // With room for the largest child window.
+    QSize sizeHint() const override;
+
 protected:
     void Form_Load() override;
     void Form_Resize() override;
@@ -70,6 +73,8 @@ private:
     void setUpToolsMenu();
     void setUpHelpMenu();
     void setUpHelpKey();
+    // As large as its hint, as far as the screen allows, and in its middle.
+    void openOnScreen();
 
     using Handler = void (MDIBaseForm::*)();
     QMenu *addMenu(const char *name, const QString &caption, bool visible);

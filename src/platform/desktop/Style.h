@@ -1,0 +1,37 @@
+// The toolkit's own style, put right where it fails the eye.
+//
+// In every palette, the desktop's dark one too, texts stand out from their ground; the control that has the focus says
+// so; and the title bar of a child window that is not the active one can be read.
+#pragma once
+
+#include <QProxyStyle>
+
+namespace desktop {
+
+// The contrast ratio of two colours as the guidelines for accessible content count it: 1 to 21.
+double contrast(const QColor &one, const QColor &other);
+// What a text needs to be read.
+inline constexpr double readableContrast = 4.5;
+// The colour itself, or mixed with as much of the stronger one as it takes to be read on the ground.
+QColor readable(const QColor &colour, const QColor &stronger, const QColor &ground);
+
+class Style : public QProxyStyle
+{
+    Q_OBJECT
+public:
+    // Gives it to the application.
+    static void install();
+
+    void polish(QPalette &palette) override;
+    using QProxyStyle::polish;
+    // Pictures, title bars, boxes for ticks and scroll bars grow with the letters.
+    int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                            const QWidget *widget) const override;
+};
+
+} // namespace desktop

@@ -1,0 +1,174 @@
+// Looks at every window in each of its states, with letters of three sizes and in a light and a dark palette: is each
+// text whole and apart from its neighbours, and does it stand out from its ground? With TOLMARK_PICTURES set to a
+// folder it leaves a picture of each there.
+#include "events/Calendar.h"
+#include "platform/desktop/Style.h"
+#include "shell/frame/MDIBaseForm.h"
+#include "shell/frame/frmLogin.h"
+#include "support/DataStoreFolder.h"
+#include "support/Dialogs.h"
+#include "support/Stations.h"
+
+#include <QMdiSubWindow>
+#include <QRegularExpression>
+#include <QTextCharFormat>
+#include <QToolTip>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QColor lightWindow(0xef, 0xef, 0xef);
+const QColor darkWindow(0x31, 0x31, 0x31);
+
+void setLook(int points, bool dark)
+{
+    QPalette palette = QApplication::style()->standardPalette();
+    if (dark) {
+        palette = QPalette(Qt::white, darkWindow, Qt::gray, Qt::black, Qt::darkGray, Qt::white, Qt::white,
+                           darkWindow.darker(), darkWindow);
+        palette.setColor(QPalette::AlternateBase, darkWindow.darker(115));
+        palette.setColor(QPalette::Highlight, QColor(0x30, 0x8c, 0xc6));
+    }
+    QApplication::style()->polish(palette);
+    QApplication::setPalette(palette);
+    QFont font;
+    font.setPointSize(points);
+    QApplication::setFont(font);
+}
+
+QString described(const QWidget &widget)
+{
+    return QLatin1String(widget.metaObject()->className()) + u' ' + widget.objectName();
+}
+
+bool isCutOff(QWidget &widget)
+{
+    QSize needed = widget.minimumSizeHint();
+    if (auto *label = qobject_cast<QLabel *>(&widget)) {
+        QHelpEvent hover(QEvent::ToolTip, {}, label->mapToGlobal(QPoint()));
+        QApplication::sendEvent(label, &hover);
+        const bool maybeNarrow = label->wordWrap() || !QToolTip::text().isEmpty();
+        needed = QSize(maybeNarrow ? 0 : label->sizeHint().width(), label->fontMetrics().height());
+    } else if (auto *button = qobject_cast<QPushButton *>(&widget)) { // its hint has more room than the text needs
+        needed = button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).grownBy({3, 0, 3, 0});
+    } else if (!qobject_cast<QAbstractButton *>(&widget) && !qobject_cast<QGroupBox *>(&widget) &&
+               !qobject_cast<QLineEdit *>(&widget) && !qobject_cast<QComboBox *>(&widget)) {
+        return false;
+    }
+    return needed.width() > widget.width() || needed.height() > widget.height();
+}
+
+QStringList faultsOfPlaces(const QWidget &window)
+{
+    const QStringList lyingOver{u"Picture1"_s, u"lstEventSelectId"_s}; // the splitter, and a list that is never shown
+    QStringList faults;
+    QList<QWidget *> controls;
+    for (QWidget *each : window.findChildren<QWidget *>()) {
+        if (!each->isVisible() || each->visibleRegion().isEmpty())
+            continue;
+        if (isCutOff(*each))
+            faults << described(*each) + u" is cut off"_s;
+        const QWidget *parent = each->parentWidget();
+        if (!dynamic_cast<desktop::Control *>(each) || lyingOver.contains(each->objectName()))
+            continue;
+        if (!parent->rect().contains(each->geometry()))
+            faults << described(*each) + u" hangs over the edge"_s;
+        for (const QWidget *other : controls) {
+            if (other->parentWidget() == parent && other->geometry().intersects(each->geometry()))
+                faults << described(*each) + u" overlaps "_s + described(*other);
+        }
+        controls << each;
+    }
+    return faults;
+}
+
+QStringList faultsOfContrast(const QWidget &widget)
+{
+    QSet<QString> faults;
+    const auto compare = [&](const QColor &text, const QColor &ground) {
+        if (desktop::contrast(text, ground) < desktop::readableContrast)
+            faults << described(widget) + u": "_s + text.name() + u" on "_s + ground.name();
+    };
+    const QPalette colours = widget.palette();
+    const std::pair<QPalette::ColorRole, QPalette::ColorRole> pairs[] = {
+        {widget.foregroundRole(), widget.backgroundRole()}, {QPalette::Text, QPalette::Base},
+        {QPalette::Text, QPalette::AlternateBase},          {QPalette::HighlightedText, QPalette::Highlight},
+        {QPalette::PlaceholderText, QPalette::Base},        {QPalette::ToolTipText, QPalette::ToolTipBase},
+    };
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        for (const auto &[text, ground] : pairs)
+            compare(colours.color(group, text), colours.color(group, ground));
+    }
+    if (const auto *calendar = qobject_cast<const Calendar *>(&widget))
+        compare(calendar->weekdayTextFormat(Qt::Sunday).foreground().color(), colours.color(QPalette::Base));
+    return faults.values();
+}
+
+} // namespace
+
+class tst_Looks : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase() { desktop::Style::install(); }
+    void cleanup()
+    {
+        delete &MDIBaseForm::frame();
+        delete &frmLogin::shared();
+    }
+
+    void everyTextIsWholeAndReadable_data()
+    {
+        QTest::addColumn<const Station *>("station");
+        QTest::addColumn<int>("points");
+        for (const int points : {9, 14, 18}) {
+            for (const Station &station : stations())
+                QTest::addRow("%s, %d points", station.name, points) << &station << points;
+        }
+    }
+    void everyTextIsWholeAndReadable()
+    {
+        QFETCH(const Station *, station);
+        QFETCH(int, points);
+        DataStoreFolder folder;
+        CaughtErrors errors;
+        setLook(points, points == 14);
+        MDIBaseForm &frame = MDIBaseForm::frame();
+        frame.resize(frame.sizeHint());
+        frame.show();
+        QWidget *window = station->open();
+        window->show();
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window->window()));
+        QStringList faults = faultsOfPlaces(*window);
+        QWidget *host = qobject_cast<QMdiSubWindow *>(window->parentWidget());
+        if (host && !host->parentWidget()->rect().contains(host->geometry()))
+            faults << u"the window is larger than the frame's room"_s;
+        for (const QWidget *each : window->findChildren<QWidget *>()) {
+            if (each->isVisible() && dynamic_cast<const desktop::Control *>(each))
+                faults << faultsOfContrast(*each);
+        }
+        if (const QString pictures = qEnvironmentVariable("TOLMARK_PICTURES"); !pictures.isEmpty())
+            (host ? host : window)->grab().save(pictures + u'/' + QLatin1String(QTest::currentDataTag()) + u".png"_s);
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    }
+
+    void picturesStandOut()
+    {
+        static const QRegularExpression line(u"stroke=\"(#(?!ffffff)\\w{6})\""_s);
+        const QDir icons(u":/icons"_s);
+        for (const QString &name : icons.entryList()) {
+            const QString drawing = QString::fromLatin1(contentOf(icons.filePath(name)));
+            for (const QRegularExpressionMatch &match : line.globalMatch(drawing)) {
+                for (const QColor &window : {lightWindow, darkWindow}) {
+                    const QColor ground = name == u"logo.svg" ? window.darker(112) : window; // as the frame's area is
+                    QVERIFY2(desktop::contrast(QColor(match.captured(1)), ground) >= 3, qPrintable(name));
+                }
+            }
+        }
+    }
+};
+
+QTEST_MAIN(tst_Looks)
+#include "tst_looks.moc"
