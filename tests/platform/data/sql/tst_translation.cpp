@@ -42,6 +42,8 @@ private Q_SLOTS:
              {u"SELECT a FROM"_s, u"SELECT a FROM Order"_s, u"SELECT a FROM A JOIN B ON A.x = B.x"_s,
               u"SELECT a FROM A INNER B"_s, u"SELECT a FROM T LIMIT 1, x y"_s}},
             {u"Invalid bracketing of name '[T'."_s, {u"SELECT a FROM [T"_s}},
+            {u"Invalid bracketing of name '[T\0]'."_s, {u"SELECT a FROM [T\0]"_s}},
+            {u"Syntax error in string in query expression 'a = 'x\0y''."_s, {u"SELECT a FROM T WHERE a = 'x\0y'"_s}},
             {u"Syntax error in JOIN operation."_s, {u"SELECT a FROM A INNER JOIN B WHERE 1"_s}},
             {u"Syntax error (missing operator) in query expression 'A.x = B.x INNER JOIN C ON B.y = C.y'."_s,
              {u"SELECT a FROM A INNER JOIN B ON A.x = B.x INNER JOIN C ON B.y = C.y WHERE 1 = 1"_s}},
