@@ -35,7 +35,8 @@ private Q_SLOTS:
              {u""_s, u" ;"_s, u"selec * from T"_s}},
             {u"The SELECT statement includes a reserved word or an argument name that is misspelled or "
              u"missing, or the punctuation is incorrect."_s,
-             {u"SELECT FROM T"_s, u"SELECT a, FROM T"_s, u"SELECT * a FROM T"_s, u"SELECT a AS FROM T"_s}},
+             {u"SELECT FROM T"_s, u"SELECT a, FROM T"_s, u"SELECT * a FROM T"_s, u"SELECT a AS FROM T"_s,
+              u"SELECT *, 1"_s}},
             {u"Syntax error (missing operator) in query expression 'a b'."_s,
              {u"SELECT a b FROM T"_s, u"SELECT a FROM T ORDER BY a b"_s}},
             {u"Syntax error in FROM clause."_s,
