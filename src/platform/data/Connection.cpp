@@ -1,6 +1,6 @@
 #include "platform/data/Connection.h"
 
-#include "platform/data/engine/Database.h"
+#include "platform/data/engine/WarmFile.h"
 #include "platform/runtime/ProviderError.h"
 
 #include <QStringView>
@@ -56,9 +56,7 @@ void Connection::Open(const QString &connectionString, const QString &, const QS
         throw provider::objectError(provider::ObjectOpen, "ADODB.Connection");
     if (connectionValue(connectionString, u"Provider").isEmpty())
         throw provider::objectError(provider::NoProvider, "ADODB.Connection");
-    auto database = std::make_shared<Database>();
-    database->open(connectionValue(connectionString, u"Data Source"));
-    m_database = std::move(database);
+    m_database = WarmFile::open(connectionValue(connectionString, u"Data Source"));
 }
 
 void Connection::Close()

@@ -146,36 +146,27 @@ bool StoreError::isUnreadable() const
     return (m_extendedCode & 0xff) == SQLITE_NOTADB || (m_extendedCode & 0xff) == SQLITE_CORRUPT;
 }
 
-void Database::Close::operator()(sqlite3 *handle) const noexcept
+bool StoreError::isInUse() const
 {
-    sqlite3_close_v2(handle);
+    return (m_extendedCode & 0xff) == SQLITE_BUSY;
 }
 
-void Database::fail(int code) const
+QByteArray Database::systemName(const QString &path)
 {
-    sqlite3 *handle = m_handle.get();
-    const int extended = handle && sqlite3_errcode(handle) != SQLITE_OK ? sqlite3_extended_errcode(handle) : code;
-    throw StoreError(extended, QString::fromUtf8(handle ? sqlite3_errmsg(handle) : sqlite3_errstr(code)), m_path);
-}
-
-void Database::check(int code) const
-{
-    if (code != SQLITE_OK)
-        fail(code);
+    // A relative path that begins with "file:" would be read as a URI.
+    return QFileInfo(path).absoluteFilePath().toUtf8();
 }
 
 void Database::openWith(const QString &path, int flags)
 {
     sqlite3 *handle = nullptr;
-    // An absolute path: a relative one that begins with "file:" would be read as a URI.
-    const QString file = flags & SQLITE_OPEN_MEMORY ? path : QFileInfo(path).absoluteFilePath();
+    const QByteArray name = flags & SQLITE_OPEN_MEMORY ? path.toUtf8() : systemName(path);
     // Without locks round each call: a connection belongs to the one thread.
-    const int code = sqlite3_open_v2(file.toUtf8().constData(), &handle, flags | SQLITE_OPEN_NOMUTEX, nullptr);
-    m_schemaReader.finalize();
-    m_handle.reset(handle); // also of a failed open
+    const int code = sqlite3_open_v2(name.constData(), &handle, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    m_handle = std::make_shared<Handle>(handle, path); // also of a failed open
     m_path = path;
     m_hasLike = false;
-    check(code);
+    m_handle->check(code);
     sqlite3_extended_result_codes(handle, 1);
     sqlite3_busy_timeout(handle, busyTimeout);
     sqlite3_collation_needed(handle, nullptr, provideCollation);
@@ -204,9 +195,8 @@ void Database::open(const QString &path)
     try {
         openWith(path, SQLITE_OPEN_READWRITE);
         // Asking for any column reads the schema, which the first statement needs in any case.
-        const int code = sqlite3_table_column_metadata(m_handle.get(), "main", "sqlite_master", "name", nullptr,
-                                                       nullptr, nullptr, nullptr, nullptr);
-        check(code);
+        m_handle->check(sqlite3_table_column_metadata(m_handle->get(), "main", "sqlite_master", "name", nullptr,
+                                                      nullptr, nullptr, nullptr, nullptr));
     } catch (const StoreError &) {
         m_handle.reset();
         throw;
@@ -215,8 +205,12 @@ void Database::open(const QString &path)
 
 void Database::close()
 {
-    m_schemaReader.finalize();
     m_handle.reset();
+}
+
+bool Database::rest()
+{
+    return m_handle.use_count() == 1 && m_handle->rest();
 }
 
 void Database::create(const QString &path)
@@ -234,12 +228,12 @@ void Database::createInMemory()
 
 void Database::execute(const QByteArray &sql)
 {
-    check(sqlite3_exec(m_handle.get(), sql.constData(), nullptr, nullptr, nullptr));
+    m_handle->check(sqlite3_exec(m_handle->get(), sql.constData(), nullptr, nullptr, nullptr));
 }
 
 Database::WritableSchema::~WritableSchema()
 {
-    sqlite3_exec(m_file.m_handle.get(), "PRAGMA writable_schema = RESET", nullptr, nullptr, nullptr);
+    sqlite3_exec(m_file.m_handle->get(), "PRAGMA writable_schema = RESET", nullptr, nullptr, nullptr);
 }
 
 void Database::executeWhole(const QByteArray &sql)
@@ -254,65 +248,68 @@ void Database::change(const std::function<void()> &steps)
         steps();
         execute("COMMIT");
     } catch (...) {
-        sqlite3_exec(m_handle.get(), "ROLLBACK", nullptr, nullptr, nullptr); // SQLite may have done it already
+        sqlite3_exec(m_handle->get(), "ROLLBACK", nullptr, nullptr, nullptr); // SQLite may have done it already
         throw;
     }
 }
 
 Statement Database::prepare(QByteArrayView sql) const
 {
-    sqlite3_stmt *statement = nullptr;
-    check(sqlite3_prepare_v2(m_handle.get(), sql.data(), int(sql.size()), &statement, nullptr));
-    return Statement(statement, m_path);
+    return Statement(m_handle, sql);
 }
 
 qint64 Database::lastInsertRowId() const
 {
-    return sqlite3_last_insert_rowid(m_handle.get());
+    return sqlite3_last_insert_rowid(m_handle->get());
 }
 
 int Database::changedRows() const
 {
-    return sqlite3_changes(m_handle.get());
+    return sqlite3_changes(m_handle->get());
 }
 
 void Database::refreshSchema()
 {
-    if (!m_schemaReader.isPrepared())
-        m_schemaReader = prepare("SELECT 1 FROM sqlite_master LIMIT 0");
-    m_schemaReader.step(); // a step, unlike a preparation, looks whether the file's schema is still the one in memory
-    m_schemaReader.reset();
+    // A step, unlike a preparation, looks whether the file's schema is still the one in memory.
+    prepare("SELECT 1 FROM sqlite_master LIMIT 0").step();
+}
+
+std::optional<Database::ColumnFacts> Database::factsOf(const char *table, const char *column) const
+{
+    ColumnFacts facts;
+    int isKey = 0;
+    const int code = sqlite3_table_column_metadata(m_handle->get(), "main", table, column, &facts.declaredType, nullptr,
+                                                   nullptr, &isKey, nullptr);
+    if (code != SQLITE_OK && code != SQLITE_ERROR) // which says that there is none
+        m_handle->setFailed();
+    facts.isKey = isKey != 0;
+    return code == SQLITE_OK ? std::optional(facts) : std::nullopt;
 }
 
 std::optional<QByteArray> Database::declaredType(const QByteArray &table, const QByteArray &column) const
 {
-    const char *declared = nullptr;
-    const int code = sqlite3_table_column_metadata(m_handle.get(), "main", table.constData(), column.constData(),
-                                                   &declared, nullptr, nullptr, nullptr, nullptr);
-    return code == SQLITE_OK ? std::optional(QByteArray(declared)) : std::nullopt;
+    const auto facts = factsOf(table.constData(), column.constData());
+    return facts ? std::optional(QByteArray(facts->declaredType)) : std::nullopt;
 }
 
 bool Database::hasTable(const QByteArray &table) const
 {
-    return sqlite3_table_column_metadata(m_handle.get(), "main", table.constData(), nullptr, nullptr, nullptr, nullptr,
-                                         nullptr, nullptr) == SQLITE_OK;
+    return factsOf(table.constData(), nullptr).has_value();
 }
 
 bool Database::isKey(const QByteArray &table, const QByteArray &column) const
 {
-    int key = 0;
-    const int code = sqlite3_table_column_metadata(m_handle.get(), "main", table.constData(), column.constData(),
-                                                   nullptr, nullptr, nullptr, &key, nullptr);
-    return code == SQLITE_OK && key != 0;
+    const auto facts = factsOf(table.constData(), column.constData());
+    return facts && facts->isKey;
 }
 
 Database::Blob Database::openBlob(const QByteArray &table, const QByteArray &column, qint64 rowId) const
 {
     sqlite3_blob *handle = nullptr;
     const int code =
-        sqlite3_blob_open(m_handle.get(), "main", table.constData(), column.constData(), rowId, 0, &handle);
+        sqlite3_blob_open(m_handle->get(), "main", table.constData(), column.constData(), rowId, 0, &handle);
     if (code != SQLITE_ERROR) // what has no bytes to open
-        check(code);
+        m_handle->check(code);
     return Blob(handle);
 }
 
@@ -322,7 +319,7 @@ std::optional<QByteArray> Database::readBlob(const QByteArray &table, const QByt
     if (!blob.handle)
         return std::nullopt;
     QByteArray bytes(sqlite3_blob_bytes(blob.handle), Qt::Uninitialized);
-    check(sqlite3_blob_read(blob.handle, bytes.data(), int(bytes.size()), 0));
+    m_handle->check(sqlite3_blob_read(blob.handle, bytes.data(), int(bytes.size()), 0));
     return bytes;
 }
 
@@ -336,8 +333,8 @@ void Database::provideLike()
 {
     if (m_hasLike)
         return;
-    check(sqlite3_create_function_v2(m_handle.get(), "store_like", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
-                                     likeForSqlite, nullptr, nullptr, nullptr));
+    m_handle->check(sqlite3_create_function_v2(m_handle->get(), "store_like", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
+                                               nullptr, likeForSqlite, nullptr, nullptr, nullptr));
     m_hasLike = true;
 }
 
@@ -345,7 +342,7 @@ void Database::stopWhen(bool (*isAsked)())
 {
     constexpr int instructions = 100'000; // between two questions: some milliseconds
     sqlite3_progress_handler(
-        m_handle.get(), instructions, [](void *asked) -> int { return reinterpret_cast<bool (*)()>(asked)() ? 1 : 0; },
+        m_handle->get(), instructions, [](void *asked) -> int { return reinterpret_cast<bool (*)()>(asked)() ? 1 : 0; },
         reinterpret_cast<void *>(isAsked));
 }
 
@@ -356,9 +353,9 @@ void Database::copyTo(Database &target, const std::function<void(int done, int a
     constexpr int waitMilliseconds = 50;
     const auto finish = [](sqlite3_backup *backup) { sqlite3_backup_finish(backup); };
     const std::unique_ptr<sqlite3_backup, decltype(finish)> backup(
-        sqlite3_backup_init(target.m_handle.get(), "main", m_handle.get(), "main"));
+        sqlite3_backup_init(target.m_handle->get(), "main", m_handle->get(), "main"));
     if (!backup)
-        target.fail(sqlite3_errcode(target.m_handle.get()));
+        target.m_handle->fail(sqlite3_errcode(target.m_handle->get()));
     int waits = 0;
     for (int code = SQLITE_OK; code != SQLITE_DONE;) {
         code = sqlite3_backup_step(backup.get(), pages);

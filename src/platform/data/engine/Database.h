@@ -3,6 +3,7 @@
 // Every failing call raises StoreError. A failed open closes what it had opened.
 #pragma once
 
+#include "platform/data/engine/Handle.h"
 #include "platform/data/engine/Statement.h"
 #include "platform/runtime/RuntimeError.h"
 
@@ -12,8 +13,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-
-struct sqlite3;
 
 namespace data {
 
@@ -27,6 +26,8 @@ public:
     bool isReadOnly() const;
     // The file is damaged or of another kind.
     bool isUnreadable() const;
+    // Another program holds the file.
+    bool isInUse() const;
 
 private:
     int m_extendedCode;
@@ -49,7 +50,12 @@ public:
     void createInMemory();
     void close();
     bool isOpen() const { return m_handle != nullptr; }
+    // Readies the open file to wait for another connection, as Handle::rest() says; false also while a statement
+    // stands.
+    bool rest();
     const QString &path() const { return m_path; }
+    // The name by which the file of a path is opened: absolute, in UTF-8.
+    static QByteArray systemName(const QString &path);
 
     // Runs one statement or several, separated by semicolons.
     void execute(const QByteArray &sql);
@@ -95,18 +101,18 @@ public:
     void copyTo(Database &target, const std::function<void(int done, int all)> &told) const;
 
 private:
-    struct Close
-    {
-        void operator()(sqlite3 *handle) const noexcept;
-    };
     void openWith(const QString &path, int flags);
-    [[noreturn]] void fail(int code) const;
-    void check(int code) const;
+    struct ColumnFacts
+    {
+        const char *declaredType = nullptr;
+        bool isKey = false;
+    };
+    // Without a column: of the table as such. Nothing when the table or the column does not exist.
+    std::optional<ColumnFacts> factsOf(const char *table, const char *column) const;
     class Blob;
     Blob openBlob(const QByteArray &table, const QByteArray &column, qint64 rowId) const;
 
-    std::unique_ptr<sqlite3, Close> m_handle;
-    Statement m_schemaReader; // declared behind the handle, so that it is finalized before the handle is closed
+    std::shared_ptr<Handle> m_handle; // shared with its statements
     QString m_path;
     bool m_hasLike = false;
 };

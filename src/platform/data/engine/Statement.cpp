@@ -20,22 +20,22 @@ QByteArrayView viewOf(const char *text)
 
 } // namespace
 
-void Statement::Finalize::operator()(sqlite3_stmt *statement) const noexcept
+void Statement::GiveBack::operator()(sqlite3_stmt *) const noexcept
 {
-    sqlite3_finalize(statement);
+    handle->giveBack(prepared);
 }
 
-Statement::Statement(sqlite3_stmt *statement, QString path)
-    : m_statement(statement), m_columnCount(sqlite3_column_count(statement)), m_path(std::move(path))
+Statement::Statement(std::shared_ptr<Handle> handle, QByteArrayView sql)
 {
+    const Handle::Prepared prepared = handle->prepare(sql);
+    m_statement = {prepared.statement, GiveBack{std::move(handle), prepared}};
+    m_columnCount = sqlite3_column_count(prepared.statement);
 }
 
 void Statement::check(int code) const
 {
-    if (code != SQLITE_OK && code != SQLITE_ROW && code != SQLITE_DONE) {
-        sqlite3 *handle = sqlite3_db_handle(m_statement.get());
-        throw StoreError(sqlite3_extended_errcode(handle), QString::fromUtf8(sqlite3_errmsg(handle)), m_path);
-    }
+    if (code != SQLITE_OK && code != SQLITE_ROW && code != SQLITE_DONE)
+        handle().fail(code);
 }
 
 void Statement::bind(int parameter, qint64 number)
@@ -102,8 +102,10 @@ void Statement::bindAmount(int parameter, runtime::Currency amount)
 bool Statement::step()
 {
     const int code = sqlite3_step(m_statement.get());
-    if (std::exchange(comparisonFailed, false))
-        throw StoreError(SQLITE_NOMEM, {}, m_path);
+    if (std::exchange(comparisonFailed, false)) {
+        handle().setFailed();
+        throw StoreError(SQLITE_NOMEM, {}, handle().path());
+    }
     check(code);
     m_columnCount = sqlite3_column_count(m_statement.get());
     return code == SQLITE_ROW;
@@ -162,8 +164,10 @@ Statement::Content Statement::content(int column) const
     case Storage::Text:
         content.bytes = reinterpret_cast<const char *>(sqlite3_value_text(value));
         content.size = quint32(sqlite3_value_bytes(value));
-        if (!content.bytes)
+        if (!content.bytes) {
+            handle().setFailed();
             throw std::bad_alloc();
+        }
         break;
     case Storage::Blob: // a null pointer when it is empty
         content.bytes = static_cast<const char *>(sqlite3_value_blob(value));

@@ -1,8 +1,10 @@
 // One prepared statement of SQLite: binds parameters (numbered from 1), steps through rows, reads columns (from 0).
 //
-// Move-only. The bytes that text() and content() return stay valid until the next step; texts are UTF-8.
+// Move-only. It is given back to the handle when it goes, where the next one of the same text may take it up. The bytes
+// that text() and content() return stay valid until the next step; texts are UTF-8.
 #pragma once
 
+#include "platform/data/engine/Handle.h"
 #include "platform/runtime/Value.h"
 
 #include <QByteArrayView>
@@ -10,21 +12,19 @@
 
 #include <memory>
 
-struct sqlite3_stmt;
-
 namespace data {
 
 class Statement
 {
 public:
     Statement() = default;
-    explicit Statement(sqlite3_stmt *statement, QString path);
+    Statement(std::shared_ptr<Handle> handle, QByteArrayView sql);
     Statement(Statement &&) noexcept = default;
     Statement &operator=(Statement &&) noexcept = default;
     ~Statement() = default;
 
     bool isPrepared() const { return m_statement != nullptr; }
-    void finalize() { m_statement.reset(); }
+    void finalize() { m_statement = {}; }
 
     // Binds the value in the form in which the file stores it. Bytes are not copied: the value must outlive the step.
     void bind(int parameter, const runtime::Value &value);
@@ -63,16 +63,18 @@ public:
     Content content(int column) const;
 
 private:
-    struct Finalize
+    struct GiveBack
     {
         void operator()(sqlite3_stmt *statement) const noexcept;
+        std::shared_ptr<Handle> handle;
+        Handle::Prepared prepared;
     };
+    Handle &handle() const { return *m_statement.get_deleter().handle; }
     void check(int code) const;
     void bindAmount(int parameter, runtime::Currency amount);
 
-    std::unique_ptr<sqlite3_stmt, Finalize> m_statement;
+    std::unique_ptr<sqlite3_stmt, GiveBack> m_statement;
     int m_columnCount = 0;
-    QString m_path;
 };
 
 } // namespace data
