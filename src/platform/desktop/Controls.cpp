@@ -168,7 +168,7 @@ void MultilineTextBox::wrapLines()
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
-CommandButton::CommandButton(QWidget *parent, QAnyStringView name, const QString &caption) : ControlOf(parent, name)
+CommandButton::CommandButton(QWidget *parent, QAnyStringView name, const QString &caption) : ButtonOf(parent, name)
 {
     setText(caption);
     setAutoDefault(false);
@@ -183,12 +183,12 @@ void CommandButton::keyPressEvent(QKeyEvent *event)
         click();
 }
 
-CheckBox::CheckBox(QWidget *parent, QAnyStringView name, const QString &caption) : ControlOf(parent, name)
+CheckBox::CheckBox(QWidget *parent, QAnyStringView name, const QString &caption) : ButtonOf(parent, name)
 {
     setText(caption);
 }
 
-OptionButton::OptionButton(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
+OptionButton::OptionButton(QWidget *parent, QAnyStringView name) : ButtonOf(parent, name)
 {
     auto *choices = parent->findChild<QButtonGroup *>({}, Qt::FindDirectChildrenOnly);
     if (!choices)

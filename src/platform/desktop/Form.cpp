@@ -1,6 +1,7 @@
 #include "platform/desktop/Form.h"
 
 #include "platform/desktop/MdiForm.h"
+#include "platform/desktop/Mnemonics.h"
 #include "platform/desktop/Twips.h"
 
 #include <QCloseEvent>
@@ -69,10 +70,13 @@ void Form::becomeActive()
         guarded([this] { Form_Activate(); });
 }
 
-// A child in the frame hears of every activation of the frame, whichever child is the active one.
+// A child in the frame hears of every activation of the frame, whichever child is the active one. A window is laid out
+// anew whenever one of its captions changes and whenever something in it comes or goes.
 bool Form::event(QEvent *event)
 {
     const bool isHandled = QWidget::event(event);
+    if (event->type() == QEvent::Show || event->type() == QEvent::LayoutRequest)
+        dealMnemonics(*this);
     if (event->type() == QEvent::WindowActivate && isWindow())
         becomeActive();
     return isHandled;

@@ -2,12 +2,14 @@
 
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/Keys.h"
+#include "platform/desktop/Mnemonics.h"
 
 namespace desktop {
 
 PopupMenu::PopupMenu(QWidget *parent, QAnyStringView name, const QString &caption) : QMenu(caption, parent)
 {
     setObjectName(name.toString());
+    connect(this, &QMenu::aboutToShow, this, [this] { dealMnemonics(*this); });
 }
 
 QAction *PopupMenu::addItem(QAnyStringView name, const QString &caption)
