@@ -41,6 +41,8 @@ protected:
 
 private:
     QRect textPlace() const;
+    // The text without the mark of its letter, which only the label of a box has.
+    QString caption() const;
     bool isElided() const;
     void paintElided();
 
@@ -165,6 +167,7 @@ public:
     void setOneLine();
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
 };
 

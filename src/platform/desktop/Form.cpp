@@ -4,7 +4,10 @@
 #include "platform/desktop/Mnemonics.h"
 #include "platform/desktop/Twips.h"
 
+#include <QAbstractScrollArea>
 #include <QCloseEvent>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QScreen>
 
@@ -46,12 +49,23 @@ void Form::Show()
             deleteLater();
         return;
     }
+    focusFirstBox();
     if (m_place == Place::InFrame && !m_shared)
         setAttribute(Qt::WA_DeleteOnClose);
     if (m_place == Place::InFrame && MdiForm::frame())
         MdiForm::frame()->showChild(*this);
     else
         show();
+}
+
+void Form::focusFirstBox()
+{
+    for (QWidget *at = nextInFocusChain(); at != this && !focusWidget(); at = at->nextInFocusChain()) {
+        const bool isBox =
+            qobject_cast<QLineEdit *>(at) || qobject_cast<QAbstractScrollArea *>(at) || qobject_cast<QComboBox *>(at);
+        if (isBox && isAncestorOf(at) && (at->focusPolicy() & Qt::TabFocus) && at->isEnabled() && at->isVisibleTo(this))
+            at->setFocus();
+    }
 }
 
 void Form::Unload()

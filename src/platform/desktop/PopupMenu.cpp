@@ -9,6 +9,7 @@ namespace desktop {
 PopupMenu::PopupMenu(QWidget *parent, QAnyStringView name, const QString &caption) : QMenu(caption, parent)
 {
     setObjectName(name.toString());
+    setAccessibleName(caption); // Qt tells nobody the title of a menu
     connect(this, &QMenu::aboutToShow, this, [this] { dealMnemonics(*this); });
 }
 

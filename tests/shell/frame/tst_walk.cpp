@@ -175,9 +175,6 @@ QStringList faultsOfLetters(const QWidget &window)
                 faults << text + u" has no letter, though free is "_s + letter;
         }
     }
-    if (qEnvironmentVariableIsSet("LETTERS"))
-        for (auto &[text, key] : keyed)
-            qInfo() << text << key.toString();
     return faults;
 }
 
@@ -214,6 +211,45 @@ private Q_SLOTS:
         QStringList faults = faultsOfWalk(*window);
         faults << faultsOfLetters(*window);
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    }
+
+    // Menus, bars, panes and windows, without a mouse; an open menu keeps the keys of its window to itself.
+    void keysLeadThroughTheFrame()
+    {
+        DataStoreFolder folder;
+        CaughtErrors errors;
+        MDIBaseForm &frame = MDIBaseForm::frame();
+        frame.Show();
+        QVERIFY(QTest::qWaitForWindowActive(&frame));
+        const auto focused = [] {
+            QWidget *menu = QApplication::activePopupWidget();
+            return menu ? menu : QApplication::focusWidget();
+        };
+        const auto round = [&focused](Qt::KeyboardModifiers held) {
+            QStringList stops;
+            for (int press = 0; press < 5; ++press) {
+                QTest::keyClick(focused(), Qt::Key_F6, held);
+                stops << nameOf(focused());
+            }
+            return stops.join(u", "_s);
+        };
+        QCOMPARE(round({}), u"Member Information, File, Telephone Conference, Delete Member, Groups"_s);
+        QCOMPARE(round(Qt::ShiftModifier), u"Delete Member, Telephone Conference, File, Member Information, Groups"_s);
+        for (int press = 0; press < 3; ++press)
+            QTest::keyClick(focused(), Qt::Key_F6);
+        QTest::keyClick(focused(), Qt::Key_Right);
+        QTest::keyClick(focused(), Qt::Key_Return); // Find
+        QTest::keyClick(focused(), Qt::Key_T, Qt::ControlModifier);
+        const auto active = [&frame] { return frame.area().activeSubWindow()->widget()->objectName(); };
+        QStringList walked{active()};
+        for (const char *keys : {"Ctrl+F6", "Ctrl+F6", "Ctrl+Shift+F6", "Ctrl+W", "Ctrl+F4"}) {
+            const QKeyCombination pressed = QKeySequence(QLatin1StringView(keys))[0];
+            QTest::keyClick(focused(), pressed.key(), pressed.keyboardModifiers());
+            walked << active();
+        }
+        QCOMPARE(walked.join(u' '),
+                 u"frmMeeting FrmDataBaseExplorer frmFindInfo FrmDataBaseExplorer frmFindInfo frmMeeting"_s);
+        QCOMPARE(frame.area().subWindowList().size(), 1);
     }
 };
 
