@@ -213,6 +213,7 @@ OptionButton::OptionButton(QWidget *parent, QAnyStringView name) : ButtonOf(pare
 Frame::Frame(QWidget *parent, QAnyStringView name, const QString &caption) : ControlOf(parent, name)
 {
     setTitle(caption);
+    setAccessibleName(caption); // within another frame Qt tells that one's title
 }
 
 TabbedDialog::TabbedDialog(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)

@@ -201,15 +201,15 @@ void dealMnemonics(QWidget &window)
     for (const QMenuBar *bar : window.findChildren<QMenuBar *>())
         std::ranges::move(bearersOf(bar->actions()), std::back_inserter(bearers));
     for (QAbstractButton *button : window.findChildren<QAbstractButton *>()) {
-        if (button->isVisible() && !button->text().isEmpty() && !qobject_cast<QToolButton *>(button))
+        if (button->isVisibleTo(&window) && !button->text().isEmpty() && !qobject_cast<QToolButton *>(button))
             bearers.push_back(bearerOf(*button));
     }
     for (QTabBar *bar : window.findChildren<QTabBar *>()) {
-        for (int tab = 0; bar->isVisible() && tab < bar->count(); ++tab)
+        for (int tab = 0; bar->isVisibleTo(&window) && tab < bar->count(); ++tab)
             bearers.push_back(bearerOf(*bar, tab));
     }
     for (QLabel *label : window.findChildren<QLabel *>()) {
-        if (label->isVisible() && label->buddy())
+        if (label->isVisibleTo(&window) && label->buddy())
             bearers.push_back(bearerOf(*label, label->text(), &QLabel::setText));
     }
     const MdiForm *frame = MdiForm::frame();
