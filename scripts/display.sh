@@ -1,6 +1,6 @@
 # shellcheck shell=bash
 # Runs the program where there is no display: on a virtual screen, with a window manager and a picture of its main
-# window. Sourced by run, after lib.sh. Every process started here is ended by its id, whichever way run ends.
+# window. Sourced by run and by scripts/on-screen, after lib.sh. Every process started here is ended by its id, whichever way run ends.
 
 program_pid='' manager_pid='' screen_pid=''
 
@@ -33,6 +33,12 @@ start_screen() {
     rm -f "$answer"
     [ -n "$number" ] || die "Xvfb did not start"
     export DISPLAY=:$number QT_QPA_PLATFORM=xcb
+}
+
+start_window_manager() {
+    openbox --sm-disable >/dev/null 2>&1 &
+    manager_pid=$!
+    until_true 10 window_manager_answers || say "No window manager answers; going on without"
 }
 
 window_manager_answers() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
@@ -71,9 +77,7 @@ run_on_virtual_screen() {
     trap 'exit 130' INT
     trap 'exit 143' TERM
     start_screen
-    openbox --sm-disable >/dev/null 2>&1 &
-    manager_pid=$!
-    until_true 10 window_manager_answers || say "No window manager answers; going on without"
+    start_window_manager
     say "There is no display: Tolmark runs on the virtual screen $DISPLAY. Ctrl-C ends it."
     rm -f "$picture"
     "$program" &

@@ -55,6 +55,7 @@ void AssignedEventsTab::setUpEntry()
     std::tie(lblEventSelect, lstEventSelect) =
         m_area.addRow<ListBox>(u"lblEventSelect", u"Event"_s, u"lstEventSelect", EntryArea::Lines::Several);
     lstEventSelectId = new ListBox(this, u"lstEventSelectId");
+    lstEventSelectId->setAccessibleName(u"Event Id"_s);
     m_area.addUnderLastBox(*lstEventSelectId);
     std::tie(lblEventActualTimeStarted, txtEventActualTimeStarted) =
         m_area.addRow<TextBox>(u"lblEventActualTimeStarted", u"Actual Time Started"_s, u"txtEventActualTimeStarted");

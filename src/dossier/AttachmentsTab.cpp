@@ -3,6 +3,7 @@
 #include "dossier/RowDeletion.h"
 #include "parts/ListedColumns.h"
 #include "platform/desktop/ErrorReport.h"
+#include "platform/desktop/Keys.h"
 #include "platform/desktop/MsgBox.h"
 #include "platform/runtime/Application.h"
 #include "platform/runtime/Conversion.h"
@@ -58,6 +59,7 @@ AttachmentsTab::AttachmentsTab(QWidget *parent, Dossier &dossier, desktop::Commo
     using desktop::on;
     on(Check1, &QCheckBox::clicked, this, &AttachmentsTab::Check1_Click);
     on(butAddAttachement, &QPushButton::clicked, this, &AttachmentsTab::butAddAttachement_Click);
+    on(lstAttachement, &desktop::ListView::KeyUp, this, &AttachmentsTab::lstAttachement_KeyUp);
     on(lstAttachement, &desktop::ListView::OLEDragDrop, this, &AttachmentsTab::lstAttachement_OLEDragDrop);
 }
 
@@ -154,6 +156,13 @@ void AttachmentsTab::lstAttachement_OLEDragDrop(const desktop::DataObject &dropp
     desktop::MsgBox(u"Currently you can't drag and drop straight from that application\r\n"
                     "Try dragging and dropping from the desktop then to Brenlow Premium."_s,
                     desktop::vbInformation);
+}
+
+// Enter views the selected attachment, as the first thing that is done with one.
+void AttachmentsTab::lstAttachement_KeyUp(int keyCode)
+{
+    if (keyCode == desktop::vbKeyReturn && lstAttachement->SelectedItem())
+        MnuView_Click();
 }
 
 void AttachmentsTab::MnuView_Click()

@@ -29,6 +29,7 @@ public:
     void butAddAttachement_Click();
     void lstAttachement_OLEDragDrop(const desktop::DataObject &dropped);
     void MnuSaveAs_Click();
+    void lstAttachement_KeyUp(int keyCode);
     void MnuView_Click();
     void MnuDeleteAttachment_Click();
 

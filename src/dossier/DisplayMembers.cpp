@@ -18,6 +18,7 @@ DisplayMembers::DisplayMembers()
       CommonDialog1(new desktop::CommonDialog(this, u"CommonDialog1"))
 {
     setDesignCaption(u"Tolmark Member Information"_s);
+    SSTab1->setAccessibleName(u"Pages"_s);
     setUpTabs();
     setUpCloseButtons();
     auto *whole = new QVBoxLayout(this);

@@ -48,6 +48,7 @@ FrmAddEditMember::FrmAddEditMember()
       m_employer(Frame2, employerFields(), MemberBoxes::Window::Entry)
 {
     setDesignCaption(u"Tolmark Add/Edit Member Infromation"_s);
+    SSTab1->setAccessibleName(u"Pages"_s);
     SSTab1->addPage(Frame1, u"Member Information"_s);
     SSTab1->addPage(Frame2, u"Employer Information"_s);
     SSTab1->addPage(Frame3, u"Interest"_s);

@@ -46,7 +46,8 @@ void RecordPage::showField(const FieldRow &row)
     box.setToolTip(row.RowFieldName);
     label.setVisible(true);
     box.setVisible(true);
-    label.setText(row.RowFieldName);
+    label.setText(desktop::withoutMnemonic(row.RowFieldName));
+    label.setBuddy(&box);
 }
 
 void RecordPage::showFields(const QString &caption)

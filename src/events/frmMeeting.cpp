@@ -2,6 +2,7 @@
 
 #include "events/frmSelectClient.h"
 #include "parts/FieldGrid.h"
+#include "platform/desktop/Keys.h"
 #include "platform/desktop/MsgBox.h"
 #include "platform/desktop/Printer.h"
 #include "platform/runtime/Clock.h"
@@ -155,6 +156,15 @@ void frmMeeting::cmdSave_Click()
     else
         storeNote(u"MemberId", runtime::Value(MemberId), noteInBoxes());
     Unload();
+}
+
+// A stored note is only read, so that Esc loses nothing.
+void frmMeeting::keyPressEvent(QKeyEvent *event)
+{
+    if (!AddView && desktop::keyCode(*event) == desktop::vbKeyEscape)
+        cmdCancel->click();
+    else
+        Form::keyPressEvent(event);
 }
 
 Note frmMeeting::noteInBoxes() const

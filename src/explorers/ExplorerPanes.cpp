@@ -22,11 +22,9 @@ ExplorerPanes::ExplorerPanes(desktop::Form &window, const ExplorerTexts &texts)
     Toolbar1->setIconSize(QSize(20, 20) * desktop::letterScale());
     Toolbar1->addButton({}, texts.deleteButton, texts.deleteButton, QIcon(texts.deleteImage));
     placeBars();
-    // Tab reaches the button, but the focus begins at the headline below it.
     QWidget *button = Toolbar1->widgetForAction(Toolbar1->actions().constFirst());
-    button->setFocusPolicy(Qt::TabFocus);
     desktop::setTabOrder({button, LblMemberListing, TreClassView, LstStudenInformation});
-    LblMemberListing->setFocus();
+    TreClassView->setFocus();
 }
 
 void ExplorerPanes::placeBars()

@@ -4,11 +4,10 @@
 #pragma once
 
 #include "platform/desktop/Control.h"
+#include "platform/desktop/MenuBar.h"
 #include "platform/desktop/PopupMenu.h"
 
-#include <QMenuBar>
-
-class MenuBar : public desktop::ControlOf<QMenuBar>
+class MenuBar : public desktop::ControlOf<desktop::MenuBar>
 {
 public:
     MenuBar(QWidget *window, QAnyStringView name);

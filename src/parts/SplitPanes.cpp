@@ -5,7 +5,10 @@
 #include "platform/desktop/Twips.h"
 #include "platform/runtime/ErrorHandling.h"
 
+#include <QShortcut>
+
 #include <cmath>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -26,6 +29,7 @@ constexpr double statusBarHeight = 345;
 constexpr double panesBottom = 8115;
 constexpr double panesRight = 13770;
 constexpr double margin = 60;
+constexpr float stepOfSplitter = 300;
 
 // Room for the headlines, the tree and the beginning of some lines.
 constexpr double usefulWidth = 7500;
@@ -64,11 +68,23 @@ SplitPanes::SplitPanes(Form &window, const Headline &overTree, const Headline &o
     treeHeadline->setToolTip(u"Click to Refresh"_s);
     LstStudenInformation->setAccessibleName(overList.text);
     Picture1->setFrameStyle(QFrame::VLine | QFrame::Raised);
+    setUpSplitter();
+    StatusBar1->addKeyboardAndClockPanels();
+    setUpPlaces();
+}
+
+void SplitPanes::setUpSplitter()
+{
     desktop::on(Picture1, &PictureBox::MouseMove, Picture1, [this](PictureBox *, int button, float x, float) {
         runtime::endSilently([this, button, x] { dragSplitter(button, x); });
     });
-    StatusBar1->addKeyboardAndClockPanels();
-    setUpPlaces();
+    for (const auto &[key, step] : {std::pair(Qt::Key_Left, -stepOfSplitter), {Qt::Key_Right, stepOfSplitter}}) {
+        auto *shortcut = new QShortcut(Qt::CTRL | key, &m_window);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        desktop::on(shortcut, &QShortcut::activated, Picture1, [this, x = step](PictureBox *) {
+            runtime::endSilently([this, x] { dragSplitter(desktop::vbLeftButton, x); });
+        });
+    }
 }
 
 void SplitPanes::setUpPlaces()

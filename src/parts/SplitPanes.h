@@ -1,5 +1,5 @@
-// A tree on the left and a list on the right, a headline over each, between them a bar that the mouse drags, and a
-// status bar below.
+// A tree on the left and a list on the right, a headline over each, between them a bar that the mouse drags and Ctrl
+// with Left and Right moves, and a status bar below.
 //
 // The window owns the controls. They have the same names in every window, but for the headlines, whose names the window
 // gives. Moves of the splitter are handled here. All positions and sizes are in twips.
@@ -44,6 +44,7 @@ protected:
 
 private:
     void setUpPlaces();
+    void setUpSplitter();
     // Answers a move of the pointer over the splitter. While the left button alone is held down, the panes share the
     // width anew at the pointer.
     void dragSplitter(int button, float x);

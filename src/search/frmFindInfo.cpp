@@ -165,6 +165,7 @@ void frmFindInfo::setUpHandlers()
     onClick(optSearchVersion, &frmFindInfo::optSearchVersion_Click);
     on(cmdSearch, &QPushButton::clicked, this, &frmFindInfo::cmdSearch_Click);
     on(cmdCancel, &QPushButton::clicked, this, &frmFindInfo::cmdCancel_Click);
+    on(txtSearchString, &QLineEdit::returnPressed, this, &frmFindInfo::cmdSearch_Click);
     on(lstViewResults, &desktop::ListView::DblClick, this, &frmFindInfo::lstViewResults_DblClick);
     on(lstViewResults, &desktop::ListView::KeyUp, this, &frmFindInfo::lstViewResults_KeyUp);
 }
@@ -319,6 +320,14 @@ void frmFindInfo::lstViewResults_DblClick()
     data::Recordset attachment =
         openRows(connection, u"select * from Attachments where AttachmentsId = "_s + hit.Text());
     viewAttachment(connection, attachment, hit.SubItems(1));
+}
+
+void frmFindInfo::keyPressEvent(QKeyEvent *event)
+{
+    if (desktop::keyCode(*event) == desktop::vbKeyEscape)
+        cmdCancel->click();
+    else
+        Form::keyPressEvent(event);
 }
 
 // Enter does for the keyboard what a double click does for the mouse; without a selected hit it does nothing.

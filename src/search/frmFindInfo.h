@@ -53,6 +53,7 @@ public:
 
 protected:
     void Form_Load() override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     using IndexHandler = void (frmFindInfo::*)(int);

@@ -235,7 +235,7 @@ private Q_SLOTS:
             QStringList shown;
             for (const QAction *action : popup.actions()) {
                 if (action->isVisible())
-                    shown << action->text();
+                    shown << desktop::captionOf(action->text());
             }
             QCOMPARE(shown.join(u", "_s), items);
             popup.close();

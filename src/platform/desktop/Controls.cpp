@@ -1,5 +1,6 @@
 #include "platform/desktop/Controls.h"
 
+#include "platform/desktop/CopyLines.h"
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/Twips.h"
 #include "platform/runtime/RuntimeError.h"
@@ -37,16 +38,21 @@ QRect Label::textPlace() const
     return contentsRect().adjusted(beside, 0, -beside, 0);
 }
 
+QString Label::caption() const
+{
+    return buddy() ? captionOf(text()) : text();
+}
+
 bool Label::isElided() const
 {
-    return m_elides && fontMetrics().horizontalAdvance(text()) > textPlace().width();
+    return m_elides && fontMetrics().horizontalAdvance(caption()) > textPlace().width();
 }
 
 bool Label::event(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip || !toolTip().isEmpty() || !isElided())
         return ControlOf::event(event);
-    showPlainToolTip(text(), *static_cast<QHelpEvent *>(event), this);
+    showPlainToolTip(caption(), *static_cast<QHelpEvent *>(event), this);
     return true;
 }
 
@@ -85,9 +91,10 @@ void Label::paintElided()
     QPainter painter(this);
     drawFrame(&painter);
     const QRect place = textPlace();
-    style()->drawItemText(&painter, place, int(QStyle::visualAlignment(layoutDirection(), alignment())), palette(),
-                          isEnabled(), fontMetrics().elidedText(text(), Qt::ElideRight, place.width()),
-                          foregroundRole());
+    const int mnemonic = buddy() ? Qt::TextShowMnemonic : 0;
+    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, place.width(), mnemonic);
+    style()->drawItemText(&painter, place, int(QStyle::visualAlignment(layoutDirection(), alignment())) | mnemonic,
+                          palette(), isEnabled(), shown, foregroundRole());
 }
 
 TextBox::TextBox(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
@@ -168,7 +175,7 @@ void MultilineTextBox::wrapLines()
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
-CommandButton::CommandButton(QWidget *parent, QAnyStringView name, const QString &caption) : ControlOf(parent, name)
+CommandButton::CommandButton(QWidget *parent, QAnyStringView name, const QString &caption) : ButtonOf(parent, name)
 {
     setText(caption);
     setAutoDefault(false);
@@ -183,12 +190,12 @@ void CommandButton::keyPressEvent(QKeyEvent *event)
         click();
 }
 
-CheckBox::CheckBox(QWidget *parent, QAnyStringView name, const QString &caption) : ControlOf(parent, name)
+CheckBox::CheckBox(QWidget *parent, QAnyStringView name, const QString &caption) : ButtonOf(parent, name)
 {
     setText(caption);
 }
 
-OptionButton::OptionButton(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
+OptionButton::OptionButton(QWidget *parent, QAnyStringView name) : ButtonOf(parent, name)
 {
     auto *choices = parent->findChild<QButtonGroup *>({}, Qt::FindDirectChildrenOnly);
     if (!choices)
@@ -206,6 +213,7 @@ OptionButton::OptionButton(QWidget *parent, QAnyStringView name) : ControlOf(par
 Frame::Frame(QWidget *parent, QAnyStringView name, const QString &caption) : ControlOf(parent, name)
 {
     setTitle(caption);
+    setAccessibleName(caption); // within another frame Qt tells that one's title
 }
 
 TabbedDialog::TabbedDialog(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
@@ -321,6 +329,14 @@ void ListBox::setOneLine()
     for (int row = 0; row < count(); ++row)
         item(row)->setSizeHint(QSize(0, line)); // each item fills the line
     setLines(1);
+}
+
+void ListBox::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Copy))
+        copyLines(*this);
+    else
+        ControlOf::keyPressEvent(event);
 }
 
 // Qt lets Ctrl with a click take the selection away; here what has been picked can only be exchanged.

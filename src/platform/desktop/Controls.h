@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/desktop/Control.h"
+#include "platform/desktop/Mnemonics.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -13,6 +14,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStyleOptionButton>
 #include <QTabWidget>
 
 namespace desktop {
@@ -39,6 +41,8 @@ protected:
 
 private:
     QRect textPlace() const;
+    // The text without the mark of its letter, which only the label of a box has.
+    QString caption() const;
     bool isElided() const;
     void paintElided();
 
@@ -78,8 +82,22 @@ private:
     QString m_shown;  // what the document made of it: one character for each line break
 };
 
+// A button with a text, which stays as it was set: the letter that Alt is pressed with is marked where it is drawn.
+template <class Button> class ButtonOf : public ControlOf<Button>
+{
+public:
+    using ControlOf<Button>::ControlOf;
+
+protected:
+    void initStyleOption(QStyleOptionButton *option) const override
+    {
+        Button::initStyleOption(option);
+        option->text = withMnemonic(option->text, this->shortcut());
+    }
+};
+
 // Space and Enter press it.
-class CommandButton : public ControlOf<QPushButton>
+class CommandButton : public ButtonOf<QPushButton>
 {
 public:
     CommandButton(QWidget *parent, QAnyStringView name, const QString &caption);
@@ -88,7 +106,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 };
 
-class CheckBox : public ControlOf<QCheckBox>
+class CheckBox : public ButtonOf<QCheckBox>
 {
 public:
     CheckBox(QWidget *parent, QAnyStringView name, const QString &caption);
@@ -98,7 +116,7 @@ public:
 
 // One of several choices: of those in the same frame one is on, and there Tab stops; the arrow keys choose another.
 // Click tells that this one has come on, whether the user or the program has chosen it.
-class OptionButton : public ControlOf<QRadioButton>
+class OptionButton : public ButtonOf<QRadioButton>
 {
     Q_OBJECT
 public:
@@ -149,6 +167,7 @@ public:
     void setOneLine();
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
 };
 

@@ -1,9 +1,13 @@
 #include "platform/desktop/Form.h"
 
 #include "platform/desktop/MdiForm.h"
+#include "platform/desktop/Mnemonics.h"
 #include "platform/desktop/Twips.h"
 
+#include <QAbstractScrollArea>
 #include <QCloseEvent>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QScreen>
 
@@ -45,12 +49,23 @@ void Form::Show()
             deleteLater();
         return;
     }
+    focusFirstBox();
     if (m_place == Place::InFrame && !m_shared)
         setAttribute(Qt::WA_DeleteOnClose);
     if (m_place == Place::InFrame && MdiForm::frame())
         MdiForm::frame()->showChild(*this);
     else
         show();
+}
+
+void Form::focusFirstBox()
+{
+    for (QWidget *at = nextInFocusChain(); at != this && !focusWidget(); at = at->nextInFocusChain()) {
+        const bool isBox =
+            qobject_cast<QLineEdit *>(at) || qobject_cast<QAbstractScrollArea *>(at) || qobject_cast<QComboBox *>(at);
+        if (isBox && isAncestorOf(at) && (at->focusPolicy() & Qt::TabFocus) && at->isEnabled() && at->isVisibleTo(this))
+            at->setFocus();
+    }
 }
 
 void Form::Unload()
@@ -69,10 +84,13 @@ void Form::becomeActive()
         guarded([this] { Form_Activate(); });
 }
 
-// A child in the frame hears of every activation of the frame, whichever child is the active one.
+// A child in the frame hears of every activation of the frame, whichever child is the active one. A window is laid out
+// anew whenever one of its captions changes and whenever something in it comes or goes.
 bool Form::event(QEvent *event)
 {
     const bool isHandled = QWidget::event(event);
+    if (event->type() == QEvent::Show || event->type() == QEvent::LayoutRequest)
+        dealMnemonics(*this);
     if (event->type() == QEvent::WindowActivate && isWindow())
         becomeActive();
     return isHandled;

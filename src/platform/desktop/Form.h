@@ -71,6 +71,8 @@ private:
     enum class State { Unloaded, Loading, Loaded };
     QWidget *outer() const;
     void takeKeptSize();
+    // Puts the focus where work begins: into the first box, list or tree, unless the window has a place of its own.
+    void focusFirstBox();
 
     Place m_place;
     State m_state = State::Unloaded;

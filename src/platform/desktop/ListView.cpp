@@ -1,5 +1,7 @@
 #include "platform/desktop/ListView.h"
 
+#include "platform/desktop/ColumnHeads.h"
+#include "platform/desktop/CopyLines.h"
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/MenuKey.h"
 #include "platform/desktop/Twips.h"
@@ -9,6 +11,7 @@
 #include <QDropEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMetaMethod>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QUrl>
@@ -140,8 +143,10 @@ const QStringList &DataObject::Files() const
     return *m_files;
 }
 
-ListView::ListView(QWidget *parent, QAnyStringView name) : ControlOf(parent, name), ListItems(this), ColumnHeaders(this)
+ListView::ListView(QWidget *parent, QAnyStringView name)
+    : ControlOf(parent, name), ListItems(this), ColumnHeaders(this), m_heads(new ColumnHeads(*this))
 {
+    setHeader(m_heads);
     setColumnCount(0);
     setRootIsDecorated(false);
     setUniformRowHeights(true);
@@ -179,8 +184,14 @@ bool ListView::viewportEvent(QEvent *event)
 void ListView::keyPressEvent(QKeyEvent *event)
 {
     m_pressedKey = event->key();
+    const bool toTheHeads = event->key() == Qt::Key_Up && event->modifiers() == Qt::AltModifier &&
+                            isSignalConnected(QMetaMethod::fromSignal(&ListView::ColumnClick));
     if (isShiftF10(*event))
         openMenuByKey();
+    else if (event->matches(QKeySequence::Copy))
+        copyLines(*this);
+    else if (toTheHeads)
+        m_heads->enter();
     else
         QTreeWidget::keyPressEvent(event);
 }

@@ -1,4 +1,5 @@
-// A list in report view: a header for each column, items with sub-items, one or several selected.
+// A list in report view: a header for each column, items with sub-items, one or several selected. Where somebody hears
+// of clicks on the headers, Alt with Up goes to them.
 #pragma once
 
 #include "platform/desktop/Control.h"
@@ -16,6 +17,7 @@ class QMimeData;
 
 namespace desktop {
 
+class ColumnHeads;
 class ListView;
 
 // One line; owned by its list. Sub-items count from 1, as the columns behind the first do.
@@ -139,6 +141,7 @@ private:
     // Accepts the drag as a copy. False where the list takes no drops.
     bool takes(QDropEvent &drag) const;
 
+    ColumnHeads *m_heads;
     bool m_takesDrops = false;
     int m_pressedKey = 0;
 };

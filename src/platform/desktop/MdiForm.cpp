@@ -1,6 +1,8 @@
 #include "platform/desktop/MdiForm.h"
 
 #include "platform/desktop/Form.h"
+#include "platform/desktop/FrameKeys.h"
+#include "platform/desktop/MenuBar.h"
 #include "platform/desktop/Twips.h"
 
 #include <QAction>
@@ -76,11 +78,13 @@ MdiForm::MdiForm(QAnyStringView className) : m_area(new Area(this))
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setActivationOrder(QMdiArea::ActivationHistoryOrder); // who opened a window comes back when it closes
     setCentralWidget(m_area);
+    setMenuBar(new MenuBar(this));
     on(m_area, &QMdiArea::subWindowActivated, m_area, [](Area *, const QMdiSubWindow *host) {
         if (auto *form = host ? qobject_cast<Form *>(host->widget()) : nullptr)
             form->becomeActive();
     });
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { showFocus(now); });
+    new FrameKeys(*this);
     theFrame() = this;
 }
 
@@ -182,6 +186,8 @@ void MdiForm::showChild(Form &form)
         const QPoint middle = form.geometry().center(); // on the screen
         host = m_area->addSubWindow(&form);
         host->setAttribute(Qt::WA_DeleteOnClose, form.testAttribute(Qt::WA_DeleteOnClose));
+        for (QAction *action : host->systemMenu()->actions())
+            action->setShortcuts({}); // the frame has these keys, whether the window is maximised or not
         host->resize(form.presetSize().value_or(content.grownBy(borders(*host))));
         form.show();
         host->show();

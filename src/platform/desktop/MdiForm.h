@@ -48,6 +48,11 @@ public:
     // Undoes the maximising of a child.
     void restoreChild(QMdiSubWindow &host);
     QMdiArea &area();
+    // A shared window that is closed stays in the area, hidden.
+    QList<QMdiSubWindow *> openChildren(QMdiArea::WindowOrder order) const;
+
+    // No menu that hides and shows the bars: they always show.
+    QMenu *createPopupMenu() override { return nullptr; }
 
 protected:
     virtual void Form_Load() {}
@@ -64,8 +69,6 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    // A shared window that is closed stays in the area, hidden.
-    QList<QMdiSubWindow *> openChildren(QMdiArea::WindowOrder order) const;
     void listWindows(QMenu *menu, QActionGroup *listed);
     // Scrolls what has got the focus into view, where its window is larger than its place.
     void showFocus(QWidget *now);

@@ -2,12 +2,15 @@
 
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/Keys.h"
+#include "platform/desktop/Mnemonics.h"
 
 namespace desktop {
 
 PopupMenu::PopupMenu(QWidget *parent, QAnyStringView name, const QString &caption) : QMenu(caption, parent)
 {
     setObjectName(name.toString());
+    setAccessibleName(caption); // Qt tells nobody the title of a menu
+    connect(this, &QMenu::aboutToShow, this, [this] { dealMnemonics(*this); });
 }
 
 QAction *PopupMenu::addItem(QAnyStringView name, const QString &caption)

@@ -1,5 +1,5 @@
-// A menu whose parts bear their given names. One that is nowhere on a bar is shown only as a pop-up: its objectName is
-// its given name, its caption is for assistive tools.
+// A menu whose parts bear their given names; its items get their letters as it opens. One that is nowhere on a bar is
+// shown only as a pop-up: its objectName is its given name, its caption is for assistive tools.
 #pragma once
 
 #include "platform/desktop/ListView.h"

@@ -1,4 +1,5 @@
-// A bar of buttons with pictures.
+// A bar of buttons with pictures. The focus comes to it by the keyboard alone: Left and Right choose a button, Enter
+// and Space press it.
 #pragma once
 
 #include "platform/desktop/Control.h"
@@ -18,6 +19,12 @@ public:
 
 Q_SIGNALS:
     void ButtonClick(QAction *button);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void goToNeighbour(QWidget *button, int step);
 };
 
 } // namespace desktop

@@ -1,5 +1,6 @@
 #include "platform/desktop/TreeView.h"
 
+#include "platform/desktop/CopyLines.h"
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/MenuKey.h"
 
@@ -213,8 +214,13 @@ void TreeView::keyPressEvent(QKeyEvent *event)
     m_pressedKey = event->key();
     if (isShiftF10(*event))
         return openMenuByKey();
+    if (event->matches(QKeySequence::Copy))
+        return copyLines(*this);
     const QTreeWidgetItem *before = SelectedItem().get();
-    QTreeWidget::keyPressEvent(event);
+    if (!before && event->key() == Qt::Key_Down)
+        setCurrentItem(topLevelItem(0)); // Qt would begin at the second one
+    else
+        QTreeWidget::keyPressEvent(event);
     const QTreeWidgetItem *after = SelectedItem().get();
     const bool confirmed = keyCode(*event) == vbKeyReturn || event->key() == Qt::Key_Space;
     if (after && (after != before || confirmed))

@@ -108,8 +108,9 @@ void MDIBaseForm::setUpToolbar()
     ImageList1->add(u"Find"_s, u":/icons/find.svg"_s);
     Toolbar1->setWindowTitle(u"Toolbar"_s);
     Toolbar1->setIconSize(QSize(24, 24) * desktop::letterScale());
-    Toolbar1->addButton(u"Phone"_s, {}, u"Telephone Conference"_s, ImageList1->icon(u"Phone"_s));
-    Toolbar1->addButton(u"Find"_s, {}, u"Find"_s, ImageList1->icon(u"Find"_s));
+    Toolbar1->addButton(u"Phone"_s, {}, u"Telephone Conference"_s, ImageList1->icon(u"Phone"_s))
+        ->setShortcut(Qt::CTRL | Qt::Key_T);
+    Toolbar1->addButton(u"Find"_s, {}, u"Find"_s, ImageList1->icon(u"Find"_s))->setShortcut(Qt::CTRL | Qt::Key_F);
     addToolBar(Toolbar1);
     desktop::on(Toolbar1, &desktop::Toolbar::ButtonClick, this, &MDIBaseForm::Toolbar1_ButtonClick);
 }

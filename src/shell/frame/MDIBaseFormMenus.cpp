@@ -1,4 +1,6 @@
 // The menus of the main window, in the order of the bar.
+#include "platform/desktop/Mnemonics.h"
+#include "platform/desktop/PopupMenu.h"
 #include "shell/frame/DesignTime.h"
 #include "shell/frame/MDIBaseForm.h"
 
@@ -8,10 +10,10 @@ using namespace Qt::Literals::StringLiterals;
 
 QMenu *MDIBaseForm::addMenu(const char *name, const QString &caption, bool visible)
 {
-    QMenu *menu = menuBar()->addMenu(caption);
-    menu->setObjectName(QString::fromLatin1(name) + u".menu"_s);
+    auto *menu = new desktop::PopupMenu(this, QString::fromLatin1(name) + u".menu"_s, caption);
     menu->menuAction()->setObjectName(QString::fromLatin1(name));
     menu->menuAction()->setVisible(visible);
+    menuBar()->addMenu(menu);
     return menu;
 }
 
@@ -34,6 +36,7 @@ void MDIBaseForm::setUpMenus()
     setUpToolsMenu();
     setWindowsMenu(addMenu("mnuWindows", u"Windows"_s, true));
     setUpHelpMenu();
+    desktop::dealMnemonics(*menuBar());
 }
 
 void MDIBaseForm::setUpFileMenu()
@@ -59,9 +62,9 @@ void MDIBaseForm::setUpToolsMenu()
     addItem(tools, "mnuDatabaseEditor", u"Database/Form Editor"_s, &MDIBaseForm::mnuDatabaseEditor_Click);
     addSeparator(tools, "mnusep1");
     addItem(tools, "MnuOptions", u"Options"_s, &MDIBaseForm::MnuOptions_Click);
-    QMenu *administrative = tools->addMenu(u"Administrative"_s);
-    administrative->setObjectName(u"mnuAdmin.menu"_s);
+    auto *administrative = new desktop::PopupMenu(tools, u"mnuAdmin.menu", u"Administrative"_s);
     administrative->menuAction()->setObjectName(u"mnuAdmin"_s);
+    tools->addMenu(administrative);
     addItem(administrative, "mnuAddNewUser", u"Add New User"_s, &MDIBaseForm::mnuAddNewUser_Click);
     addItem(tools, "mnuNewRecord", u"New Record"_s, &MDIBaseForm::mnuNewRecord_Click, DesignTime::mnuNewRecordVisible);
     addItem(tools, "mnuOpenRecord", u"Open Record"_s, &MDIBaseForm::mnuOpenRecord_Click,

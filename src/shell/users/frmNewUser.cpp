@@ -101,6 +101,10 @@ void frmNewUser::setUpBoxes()
     lblPasswordRedtyped = grid.lastLabel();
     lblGeneratedPassword = new desktop::Label(Frame1, u"lblGeneratedPassword");
     lblGeneratedPassword->setAlignment(Qt::AlignCenter);
+    QSizePolicy keepingItsPlace = lblGeneratedPassword->sizePolicy();
+    keepingItsPlace.setRetainSizeWhenHidden(true);
+    lblGeneratedPassword->setSizePolicy(keepingItsPlace);
+    showGenerated({});
     grid.addBehind(lblGeneratedPassword);
     const int widest = qMax(CmdUserName->sizeHint().width(), CmdPassword->sizeHint().width());
     for (QWidget *behind : std::initializer_list<QWidget *>{CmdUserName, CmdPassword, lblGeneratedPassword})
@@ -152,7 +156,14 @@ void frmNewUser::CmdPassword_Click()
     const QString password = randomPassword(txtLastName->text());
     txtPassword->setText(password);
     txtPasswordRetypes->setText(password);
+    showGenerated(password);
+}
+
+// A label without a text is nothing to be read aloud.
+void frmNewUser::showGenerated(const QString &password)
+{
     lblGeneratedPassword->setText(password);
+    lblGeneratedPassword->setVisible(!password.isEmpty());
 }
 
 bool frmNewUser::isComplete() const
@@ -210,7 +221,7 @@ void frmNewUser::cmdClear_Click()
 {
     for (TextBox *box : {txtFirstName, txtLastName, txtMiddleName, txtPassword, txtPasswordRetypes, txtUserName})
         box->clear();
-    lblGeneratedPassword->setText({});
+    showGenerated({});
 }
 
 void frmNewUser::cmdCancel_Click()

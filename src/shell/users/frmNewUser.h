@@ -46,6 +46,7 @@ private:
     void setUpContent();
     void setUpBoxes();
     void showStoredUser();
+    void showGenerated(const QString &password);
     void addUser();
     void changeUser();
     // Tells what is missing. True when nothing is.

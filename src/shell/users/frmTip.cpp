@@ -1,5 +1,6 @@
 #include "shell/users/frmTip.h"
 
+#include "platform/desktop/Keys.h"
 #include "platform/desktop/Settings.h"
 #include "platform/runtime/Application.h"
 #include "platform/runtime/Conversion.h"
@@ -114,4 +115,12 @@ void frmTip::cmdNextTip_Click()
 void frmTip::cmdOK_Click()
 {
     Unload();
+}
+
+void frmTip::keyPressEvent(QKeyEvent *event)
+{
+    if (desktop::keyCode(*event) == desktop::vbKeyEscape)
+        cmdOK->click();
+    else
+        Form::keyPressEvent(event);
 }

@@ -32,6 +32,7 @@ public:
 
 protected:
     void Form_Load() override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void setUpContent();

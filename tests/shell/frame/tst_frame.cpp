@@ -99,7 +99,7 @@ private Q_SLOTS:
         constexpr bool administration = DesignTime::administration;
         QStringList bar;
         for (const QAction *menu : MDIBaseForm::frame().menuBar()->actions())
-            bar << menu->text() + (menu->isVisible() ? u""_s : u" (hidden)"_s);
+            bar << desktop::captionOf(menu->text()) + (menu->isVisible() ? u""_s : u" (hidden)"_s);
         QCOMPARE(bar, administration ? (QStringList{u"File"_s, u"Tools"_s, u"Windows"_s, u"Help"_s})
                                      : (QStringList{u"File"_s, u"Tools (hidden)"_s, u"Windows"_s, u"Help (hidden)"_s}));
         for (const char *name : {"mnuNewUser", "mnuDifferentUser", "mnuDoc", "mnuNewRecord", "mnuOpenRecord"})

@@ -122,33 +122,58 @@ QStringList faultsOfWalk(const QWidget &window)
     return faults + turnsBack(forth);
 }
 
-void addMnemonic(QHash<QString, QStringList> &users, const QString &text, const QObject *user)
+// Who can be reached by Alt and a letter: the caption, and the key that it has.
+using Keyed = std::pair<QString, QKeySequence>;
+
+void addMenus(QList<Keyed> &keyed, const QMenuBar &bar)
 {
-    const QString key = QKeySequence::mnemonic(text).toString();
-    if (!key.isEmpty())
-        users[key] << user->objectName();
+    for (const QAction *menu : bar.actions()) {
+        if (menu->isVisible())
+            keyed << Keyed(menu->text(), QKeySequence::mnemonic(menu->text()));
+    }
 }
 
-// Alt with one letter must mean one thing in a window.
-QStringList repeatedMnemonics(const QWidget &window)
+QList<Keyed> keyedParts(const QWidget &window)
 {
-    QHash<QString, QStringList> users;
+    QList<Keyed> keyed;
     for (const auto *button : window.findChildren<QAbstractButton *>()) {
-        if (button->isVisible())
-            addMnemonic(users, button->text(), button);
+        if (button->isVisible() && !button->text().isEmpty() && !button->inherits("QToolButton"))
+            keyed << Keyed(button->text(), button->shortcut());
     }
     for (const auto *label : window.findChildren<QLabel *>()) {
         if (label->isVisible() && label->buddy())
-            addMnemonic(users, label->text(), label);
+            keyed << Keyed(label->text(), QKeySequence::mnemonic(label->text()));
     }
-    for (const auto *bar : window.findChildren<QMenuBar *>()) {
-        for (const QAction *menu : bar->actions())
-            addMnemonic(users, menu->isVisible() ? menu->text() : QString(), menu);
+    for (const auto *bar : window.findChildren<QTabBar *>()) {
+        for (int tab = 0; bar->isVisible() && tab < bar->count(); ++tab)
+            keyed << Keyed(bar->tabText(tab), QKeySequence::mnemonic(bar->tabText(tab)));
     }
+    for (const auto *bar : window.findChildren<QMenuBar *>())
+        addMenus(keyed, *bar);
+    return keyed;
+}
+
+// Alt with one letter means one thing in a window and the menus above it, and who has no letter found all of its own
+// taken.
+QStringList faultsOfLetters(const QWidget &window)
+{
+    QList<Keyed> keyed = keyedParts(window);
+    if (!window.isWindow())
+        addMenus(keyed, *MDIBaseForm::frame().menuBar());
+    QHash<QString, QStringList> users;
+    for (const auto &[text, key] : keyed)
+        users[key.toString()] << text;
     QStringList faults;
+    const QStringList without = users.take(QString());
     for (auto user = users.cbegin(); user != users.cend(); ++user) {
         if (user->size() > 1)
             faults << user.key() + u" stands for "_s + user->join(u" and "_s);
+    }
+    for (const QString &text : without) {
+        for (const QChar letter : text) {
+            if (letter.isLetterOrNumber() && !users.contains(u"Alt+"_s + letter.toUpper()))
+                faults << text + u" has no letter, though free is "_s + letter;
+        }
     }
     return faults;
 }
@@ -184,8 +209,47 @@ private Q_SLOTS:
         window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(window->window()));
         QStringList faults = faultsOfWalk(*window);
-        faults << repeatedMnemonics(*window);
+        faults << faultsOfLetters(*window);
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    }
+
+    // Menus, bars, panes and windows, without a mouse; an open menu keeps the keys of its window to itself.
+    void keysLeadThroughTheFrame()
+    {
+        DataStoreFolder folder;
+        CaughtErrors errors;
+        MDIBaseForm &frame = MDIBaseForm::frame();
+        frame.Show();
+        QVERIFY(QTest::qWaitForWindowActive(&frame));
+        const auto focused = [] {
+            QWidget *menu = QApplication::activePopupWidget();
+            return menu ? menu : QApplication::focusWidget();
+        };
+        const auto round = [&focused](Qt::KeyboardModifiers held) {
+            QStringList stops;
+            for (int press = 0; press < 5; ++press) {
+                QTest::keyClick(focused(), Qt::Key_F6, held);
+                stops << nameOf(focused());
+            }
+            return stops.join(u", "_s);
+        };
+        QCOMPARE(round({}), u"Member Information, File, Telephone Conference, Delete Member, Groups"_s);
+        QCOMPARE(round(Qt::ShiftModifier), u"Delete Member, Telephone Conference, File, Member Information, Groups"_s);
+        for (int press = 0; press < 3; ++press)
+            QTest::keyClick(focused(), Qt::Key_F6);
+        QTest::keyClick(focused(), Qt::Key_Right);
+        QTest::keyClick(focused(), Qt::Key_Return); // Find
+        QTest::keyClick(focused(), Qt::Key_T, Qt::ControlModifier);
+        const auto active = [&frame] { return frame.area().activeSubWindow()->widget()->objectName(); };
+        QStringList walked{active()};
+        for (const char *keys : {"Ctrl+F6", "Ctrl+F6", "Ctrl+Shift+F6", "Ctrl+W", "Ctrl+F4"}) {
+            const QKeyCombination pressed = QKeySequence(QLatin1StringView(keys))[0];
+            QTest::keyClick(focused(), pressed.key(), pressed.keyboardModifiers());
+            walked << active();
+        }
+        QCOMPARE(walked.join(u' '),
+                 u"frmMeeting FrmDataBaseExplorer frmFindInfo FrmDataBaseExplorer frmFindInfo frmMeeting"_s);
+        QCOMPARE(frame.area().subWindowList().size(), 1);
     }
 };
 
