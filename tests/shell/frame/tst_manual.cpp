@@ -1,5 +1,4 @@
-// The manual keeps up with the windows: each has its place there, every link and picture leads somewhere, and F1 opens
-// the place of the window at hand.
+// The manual has a place for each window, its links and pictures lead somewhere, and F1 opens the place at hand.
 #include "shell/frame/MDIBaseForm.h"
 #include "support/DataStoreFolder.h"
 #include "support/Dialogs.h"
@@ -53,8 +52,7 @@ private Q_SLOTS:
         places.sort();
         QCOMPARE(places, windowClasses());
         for (int number = 0; number <= runtime::KeyNotUnique; ++number)
-            QVERIFY2(pages[u"messages.md"_s].contains(runtime::errorText(number)),
-                     qPrintable(runtime::errorText(number)));
+            QVERIFY2(pages[u"messages.md"_s].contains(runtime::errorText(number)), qPrintable(QString::number(number)));
     }
 
     void everyLinkLeadsSomewhere()
@@ -89,7 +87,6 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(&frame));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_F1);
         QCOMPARE(frame.StatusBar1->currentMessage(), u"The manual is not installed"_s);
-
         QVERIFY(QDir(folder.folder()).mkdir(u"manual"_s));
         for (const QString &window : windowClasses())
             folder.write(u"manual/%1.html"_s.arg(window), {});
