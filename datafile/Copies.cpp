@@ -226,7 +226,9 @@ QString restore(const QString &copy, const QString &file, Progress &progress)
     QFile::setPermissions(result.unfinished(), place.permissions());
     progress.at(1, 1); // the last moment at which Ctrl-C leaves everything as it was
     renameCompanions(path, old);
+    putOnDisk(result.unfinished());
     exchange(path, result.unfinished(), old);
+    putOnDisk(path);
     return old;
 }
 

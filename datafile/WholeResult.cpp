@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -52,7 +53,26 @@ void claimAndReplace(const QString &from, const QString &to)
     }
 }
 
+void syncWith(int (*sync)(int), const QString &path)
+{
+    const int handle = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    const bool isDone = handle >= 0 && sync(handle) == 0;
+    const int reason = errno;
+    if (handle >= 0)
+        close(handle);
+    if (!isDone && reason != EINVAL) // a file system without anything to wait for
+        throw runtime::RuntimeError(runtime::DeviceError,
+                                    u"'%1' cannot be put on the disk: %2."_s.arg(path, qt_error_string(reason)));
+}
+
 } // namespace
+
+void putOnDisk(const QString &path)
+{
+    const bool isFolder = QFileInfo(path).isDir();
+    syncWith(isFolder ? syncfs : fsync, path); // at once, for a folder may hold thousands of files
+    syncWith(fsync, QFileInfo(path).absolutePath());
+}
 
 void refuseTakenPath(const QString &path)
 {
@@ -85,7 +105,9 @@ WholeResult::WholeResult(const QString &path)
 
 void WholeResult::finish()
 {
+    putOnDisk(unfinished());
     renameWithoutReplacing(unfinished(), m_path);
+    putOnDisk(m_path);
 }
 
 } // namespace datafile

@@ -2,6 +2,7 @@
 //
 // It is made under a temporary name in the folder where it will stand, so that the last step is a rename, and taken
 // away again when it is not finished. What stands at the path already (a file, a folder, a link) is never replaced.
+// A result that has its name outlasts a loss of power.
 #pragma once
 
 #include <QString>
@@ -28,6 +29,10 @@ private:
 
 // Raises 58 where anything stands at the path, a link that leads nowhere too.
 void refuseTakenPath(const QString &path);
+
+// Waits until the file, or the folder with all that is in it, and its name are on the disk. Raises 57 when they cannot
+// be.
+void putOnDisk(const QString &path);
 
 // Gives a file or a folder another name on the same file system. Raises 58 for a name that is taken, 75 for other
 // failures.

@@ -6,8 +6,6 @@
 #include "platform/runtime/ErrorHandling.h"
 #include "shell/store/DataStore.h"
 
-#include <QScopeGuard>
-
 #include <tuple>
 
 using namespace Qt::Literals::StringLiterals;
@@ -59,9 +57,14 @@ void DatabaseGenerator::readForm()
     for (; !rows.Eof(); rows.MoveNext()) {
         QString caption;
         QString toolTip;
-        const auto addTab = qScopeGuard([&] { TabStrip1->add({}, caption, toolTip); }); // with what there is by then
-        caption = runtime::toText(rows[u"TabNam"].Value());
-        toolTip = runtime::toText(rows[u"TabDescription"].Value());
+        try {
+            caption = runtime::toText(rows[u"TabNam"].Value());
+            toolTip = runtime::toText(rows[u"TabDescription"].Value());
+        } catch (...) {
+            TabStrip1->add({}, caption, toolTip); // with what there is by then
+            throw;
+        }
+        TabStrip1->add({}, caption, toolTip);
     }
     rows.Close();
     rows = openRows(connection, u"SELECT FieldInfo.*, TabInfo.TabNam, TabInfo.TabDescription FROM FieldInfo INNER JOIN "

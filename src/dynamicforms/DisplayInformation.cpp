@@ -299,6 +299,7 @@ void DisplayInformation::deletePerson()
 // The boxes stay unlocked, and the list of events comes back only with the window's next opening.
 void DisplayInformation::saveEdited()
 {
+    m_page.requireWhole();
     savePerson(pages(), RecordId);
     endEditing();
     addTabs({u"Attachments"_s, u"Resources"_s});

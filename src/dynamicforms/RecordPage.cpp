@@ -1,7 +1,9 @@
 #include "dynamicforms/RecordPage.h"
 
 #include "parts/RowTexts.h"
+#include "platform/desktop/ErrorReport.h"
 #include "platform/runtime/ErrorHandling.h"
+#include "platform/runtime/ProviderError.h"
 #include "shell/store/DataStore.h"
 
 #include <QHash>
@@ -70,15 +72,31 @@ template <class Visit> void RecordPage::forEachBox(Visit visit) const
 
 void RecordPage::fillFromStore(const QString &caption, qint16 recordId)
 {
+    m_readFailure.reset();
+    const auto step = [this](const auto &read) {
+        try {
+            read();
+        } catch (const std::exception &) { // the box stays as it is
+            const runtime::RuntimeError error = desktop::currentError();
+            if (error.number() == runtime::OutOfMemory || error.number() == provider::Unspecified)
+                m_readFailure = m_readFailure.value_or(error);
+        }
+    };
     data::Connection connection;
     data::Recordset record;
-    everyStep([&] { openDataStore(connection); },
-              [&] {
-                  record = openRows(connection, u"select * from ["_s + caption + u"] where PersonalInformationId="_s +
-                                                    QString::number(recordId));
-              });
-    forEachBox([&record](TextBox &box, const QString &name) { everyStep([&] { putText(box, record[name]); }); });
-    everyStep([&] { connection.Close(); });
+    step([&] { openDataStore(connection); });
+    step([&] {
+        record = openRows(connection, u"select * from ["_s + caption + u"] where PersonalInformationId="_s +
+                                          QString::number(recordId));
+    });
+    forEachBox([&](TextBox &box, const QString &name) { step([&] { putText(box, record[name]); }); });
+    step([&] { connection.Close(); });
+}
+
+void RecordPage::requireWhole() const
+{
+    if (m_readFailure && !values().isEmpty())
+        throw *m_readFailure;
 }
 
 // Of equal names on a page the last one counts, here and below.

@@ -8,6 +8,9 @@
 #include "dynamicforms/FieldRows.h"
 #include "platform/desktop/ControlArray.h"
 #include "platform/desktop/Controls.h"
+#include "platform/runtime/RuntimeError.h"
+
+#include <optional>
 
 // What the user sees in a box.
 struct BoxValue
@@ -31,6 +34,9 @@ public:
     void showFields(const QString &caption);
     // A Null, a missing column, row or table leaves a box as it is.
     void fillFromStore(const QString &caption, qint16 recordId);
+    // Raises the failure of the store or of memory for which boxes were left as they were when they were last filled
+    // from the store. Empty boxes must not be saved over values that could not be read.
+    void requireWhole() const;
     void fillFromRows(const QString &caption);
     // Takes the texts into the rows of the page. The first row of all is left out.
     void keepTexts(const QString &caption);
@@ -44,4 +50,5 @@ private:
     template <class Visit> void forEachBox(Visit visit) const;
 
     FieldRows &m_rows;
+    std::optional<runtime::RuntimeError> m_readFailure;
 };

@@ -134,6 +134,22 @@ private Q_SLOTS:
         }
     }
 
+    // The boxes of a page stay empty in silence where the file cannot be read.
+    void aPageThatWasNotReadIsNotSavedOver()
+    {
+        OpenRecord record;
+        QVERIFY(QFile::rename(m_folder->file(), m_folder->path(u"away"_s)));
+        record.turnTo(volunteer);
+        QCOMPARE(record.texts(), u"|||"_s);
+        QVERIFY(QFile::rename(m_folder->path(u"away"_s), m_folder->file()));
+        OpenRecord::press(record->cmdEdit);
+        record.turnTo(personal);
+        OpenRecord::press(record->cmdDelete);
+        QCOMPARE(m_errors->takeNumber(), -2147467259);
+        QCOMPARE(m_folder->row("SELECT Skills, Since FROM [Volunteer Profile] WHERE PersonalInformationId = 2"),
+                 u"Organising; first aid|1994"_s);
+    }
+
     // The user is locked out of the boxes; what else gets into them is written as in editing.
     void aNewPersonGetsARowOnEveryPage()
     {

@@ -173,6 +173,8 @@ void Database::openWith(const QString &path, int flags)
     // A name in double quotes is a name: a misspelt column must not turn into a text.
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+    // What a message calls saved outlasts a loss of power right after it: the deletion of the journal is synced too.
+    execute("PRAGMA synchronous = EXTRA");
 }
 
 void Database::open(const QString &path)
