@@ -149,6 +149,9 @@ private Q_SLOTS:
         QCOMPARE(list.count(), 5); // the sixth has been deleted
         QCOMPARE(list.Text(), u"Office  General"_s);
         const QPoint place = list.visualItemRect(list.item(1)).center();
+        QTest::keyClick(&list, Qt::Key_Space, Qt::ControlModifier); // takes the selection away
+        picker->cmdOpen->click();
+        QVERIFY(picker);
         QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
         QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
         const auto record = openedWindow<DisplayInformation>();

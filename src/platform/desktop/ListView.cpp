@@ -28,6 +28,9 @@ bool isText(int role)
     return role == Qt::DisplayRole || role == Qt::EditRole;
 }
 
+// More than any screen shows. To lay out a text of megabytes takes Qt seconds at each painting.
+constexpr qsizetype mostShown = 4000;
+
 // A line of the list is one line high whatever its texts hold.
 QString onOneLine(QString text)
 {
@@ -55,9 +58,11 @@ QVariant ListItem::data(int column, int role) const
 {
     if (!isText(role))
         return QTreeWidgetItem::data(column, role);
-    const QString text = SubItems(column);
+    QString text = SubItems(column);
     if (text.isNull())
         return {};
+    if (role == Qt::DisplayRole)
+        text.truncate(mostShown);
     return role == Qt::DisplayRole && text.contains(u'\n') ? onOneLine(text) : text;
 }
 

@@ -117,6 +117,9 @@ private Q_SLOTS:
         QCOMPARE(list.ListItems.Count(), 2);
         QCOMPARE(list.ListItems(2).SubItems(1), u"b2"_s);
         QCOMPARE(list.ListItems(2).SubItems(9), QString());
+        list.ListItems(2).setSubItem(1, QString(10'000'000, u'x')); // is kept whole and takes no seconds to paint
+        QCOMPARE(list.ListItems(2).SubItems(1).size(), 10'000'000);
+        QVERIFY(list.ListItems(2).text(1).size() < 10'000);
         QCOMPARE(errorNumberOf([&list] { list.ListItems(2).setSubItem(0, Value()); }), 94);
         QCOMPARE(errorNumberOf([&list] { list.ListItems(2).setSubItem(0, Value(QByteArray())); }), 13);
         QCOMPARE(errorNumberOf([&list] { list.ListItems(0); }), 35600);
