@@ -3,6 +3,7 @@
 #include "platform/desktop/ColumnHeads.h"
 #include "platform/desktop/CopyLines.h"
 #include "platform/desktop/Keys.h"
+#include "platform/desktop/MdiForm.h"
 #include "platform/desktop/MenuKey.h"
 #include "platform/desktop/Twips.h"
 #include "platform/runtime/Conversion.h"
@@ -212,6 +213,13 @@ void ListView::keyReleaseEvent(QKeyEvent *event)
 }
 
 // Whoever comes by the keyboard finds a line selected, so that a list of one line can be used too.
+void ListView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    ControlOf::currentChanged(current, previous);
+    if (hasFocus())
+        MdiForm::bringIntoView(*viewport(), visualRect(current));
+}
+
 void ListView::focusInEvent(QFocusEvent *event)
 {
     QTreeWidget::focusInEvent(event);

@@ -2,6 +2,7 @@
 
 #include "platform/desktop/CopyLines.h"
 #include "platform/desktop/Keys.h"
+#include "platform/desktop/MdiForm.h"
 #include "platform/desktop/MenuKey.h"
 
 #include <QApplication>
@@ -274,6 +275,13 @@ void TreeView::scrollContentsBy(int dx, int dy)
 }
 
 // Whoever comes by the keyboard finds a node selected to start from.
+void TreeView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    ControlOf::currentChanged(current, previous);
+    if (hasFocus())
+        MdiForm::bringIntoView(*viewport(), visualRect(current));
+}
+
 void TreeView::focusInEvent(QFocusEvent *event)
 {
     QTreeWidget::focusInEvent(event);
