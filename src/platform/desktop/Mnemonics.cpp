@@ -27,7 +27,7 @@ struct Bearer
     std::function<void(QChar letter)> take;
 };
 
-constexpr QChar mark = u'&';
+constexpr QChar ampersand = u'&';
 
 QChar letterOf(const QKeySequence &key)
 {
@@ -60,16 +60,16 @@ qsizetype placeOf(const QString &text, QChar letter)
 QString marked(QString text, QChar letter)
 {
     const qsizetype place = letter.isNull() ? -1 : placeOf(text, letter);
-    return place < 0 ? text : text.insert(place, mark);
+    return place < 0 ? text : text.insert(place, ampersand);
 }
 
 // The text without the mark of its letter; doubled marks stay, for they stand for one that is shown.
 QString unmarked(QString text)
 {
     for (qsizetype place = 0; place + 1 < text.size(); ++place) {
-        if (text[place] != mark)
+        if (text[place] != ampersand)
             continue;
-        if (text[place + 1] != mark)
+        if (text[place + 1] != ampersand)
             return text.remove(place, 1);
         ++place;
     }
