@@ -226,7 +226,8 @@ private:
         head.name = QString::fromUtf8(column.name);
         head.kind = ColumnKind(column.col_type);
         head.isCounter = column.is_long_auto != 0;
-        head.scale = quint8(column.col_prec); // libmdb calls the scale the precision, and the other way round
+        // Of the two, versions of libmdb call one or the other the scale; it is never above the precision.
+        head.scale = quint8(qMin(column.col_scale, column.col_prec));
         m_head.columns << head;
         m_places << ColumnPlace{.number = quint16(column.col_num),
                                 .isBoolean = column.col_type == MDB_BOOL,

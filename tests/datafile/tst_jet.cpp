@@ -135,7 +135,7 @@ private Q_SLOTS:
     {
         const QString damaged = u"its bytes are damaged"_s;
         for (const auto &[hex, expected] : {
-                 std::pair{"0300 07000000 4142 0800 0600 0100 07", u"07000000||4142|-"_s},
+                 std::pair{"0300 07000000 4142 0800 0600 0100 0f", u"07000000||4142|-"_s},
                  std::pair{"0300 07000000 4142 0800 0600 0100 00", u"-|-|-|-"_s},
                  std::pair{"0300 07000000 0600 0000 07", u"07000000||-|-"_s}, // the text was added later too
                  std::pair{"0300 07000000 4142 0500 0600 0100 07", damaged},  // ends before it begins
@@ -147,7 +147,7 @@ private Q_SLOTS:
             const QByteArray row = QByteArray::fromHex(hex);
             const auto cells = [&row] {
                 QStringList texts;
-                for (const auto &place : {jet::ColumnPlace{0, false, true, 0, 4}, {1, true}, {2}, {3}}) {
+                for (const auto &place : {jet::ColumnPlace{0, false, true, 0, 4}, {1, true}, {2}, {3, false, true}}) {
                     const auto value = jet::RowBytes(row, true).value(place);
                     texts << (value ? QString::fromLatin1(value->toByteArray().toHex()) : u"-"_s);
                 }
