@@ -1,12 +1,12 @@
 // The data file, open, between two connections: what a connection closes waits here for the next one to the same file.
 //
-// Opening a file costs SQLite the reading of its definitions; the handlers of the windows open it anew each time. While
-// it waits nothing of it can be felt: no statement runs, no transaction or lock is held, and no page of the file is
-// remembered. A waiting handle is taken up only for a file that has not been touched since, by its device, inode, size
-// and times and by what this user may do with it; else the file is opened as if nothing had waited, with the errors
-// that this gives. Then SQLite itself looks whether another program has changed rows or definitions. A handle on which
-// any call has failed does not wait. So many wait as were open at once, four at most, each with the memory that
-// Handle::rest() allows; opening another file closes them, and the end of the process does.
+// Opening a file costs SQLite the reading of its definitions; the handlers of the windows open it anew each time. A
+// waiting handle runs no statement, holds no transaction and no lock, and remembers no page of the file. A waiting
+// handle is taken up only for a file that has not been touched since, by its device, inode, size and times and by what
+// this user may do with it; else the file is opened as if nothing had waited, with the errors that this gives. Then
+// SQLite itself looks whether another program has changed rows or definitions. A handle on which any call has failed
+// does not wait. So many wait as were open at once, four at most, each with the memory that Handle::rest() allows;
+// opening another file closes them, and the end of the process does.
 #pragma once
 
 #include "platform/data/engine/Database.h"
