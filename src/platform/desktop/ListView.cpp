@@ -239,8 +239,11 @@ void ListView::contextMenuEvent(QContextMenuEvent *event)
         openMenuByKey();
 }
 
+// A right click selects the line that it meets; the key meets the one that the focus is on.
 void ListView::openMenuByKey()
 {
+    if (!SelectedItem() && currentItem())
+        setCurrentItem(currentItem());
     Q_EMIT MouseUp(vbRightButton, menuPlace(*this, SelectedItem().get()));
 }
 

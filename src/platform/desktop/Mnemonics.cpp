@@ -25,6 +25,7 @@ struct Bearer
     QString caption;
     QChar letter; // null while it has none
     std::function<void(QChar letter)> take;
+    bool givesWay = true; // to one that would go without; a button keeps the letter that people guess
 };
 
 constexpr QChar mark = u'&';
@@ -142,7 +143,7 @@ private:
                 continue;
             asked.insert(letter);
             Bearer *owner = m_owners.value(letter);
-            if (m_owners.contains(letter) && (!owner || !makeRoom(*owner, asked)))
+            if (m_owners.contains(letter) && (!owner || !owner->givesWay || !makeRoom(*owner, asked)))
                 continue;
             m_owners.insert(letter, &bearer);
             return true;
@@ -161,10 +162,12 @@ template <class Owner> Bearer bearerOf(Owner &owner, const QString &text, void (
 
 Bearer bearerOf(QAbstractButton &button)
 {
-    return {button.text(), letterOf(button.shortcut()), [&button](QChar letter) {
+    return {button.text(), letterOf(button.shortcut()),
+            [&button](QChar letter) {
                 button.setShortcut(keyOf(letter));
                 button.update();
-            }};
+            },
+            false};
 }
 
 Bearer bearerOf(QTabBar &bar, int tab)
