@@ -28,7 +28,7 @@ struct Bearer
     bool givesWay = true; // to one that would go without; a button keeps the letter that people guess
 };
 
-constexpr QChar mark = u'&';
+constexpr QChar letterMark = u'&';
 
 QChar letterOf(const QKeySequence &key)
 {
@@ -61,16 +61,16 @@ qsizetype placeOf(const QString &text, QChar letter)
 QString marked(QString text, QChar letter)
 {
     const qsizetype place = letter.isNull() ? -1 : placeOf(text, letter);
-    return place < 0 ? text : text.insert(place, mark);
+    return place < 0 ? text : text.insert(place, letterMark);
 }
 
 // The text without the mark of its letter; doubled marks stay, for they stand for one that is shown.
 QString unmarked(QString text)
 {
     for (qsizetype place = 0; place + 1 < text.size(); ++place) {
-        if (text[place] != mark)
+        if (text[place] != letterMark)
             continue;
-        if (text[place + 1] != mark)
+        if (text[place + 1] != letterMark)
             return text.remove(place, 1);
         ++place;
     }
