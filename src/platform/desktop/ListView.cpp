@@ -210,7 +210,13 @@ void ListView::keyReleaseEvent(QKeyEvent *event)
 void ListView::focusInEvent(QFocusEvent *event)
 {
     QTreeWidget::focusInEvent(event);
-    if (isByKeyboard(*event) && !SelectedItem())
+    if (isByKeyboard(*event))
+        selectALine();
+}
+
+void ListView::selectALine()
+{
+    if (!SelectedItem())
         setCurrentItem(currentItem() ? currentItem() : topLevelItem(0));
 }
 
@@ -239,11 +245,10 @@ void ListView::contextMenuEvent(QContextMenuEvent *event)
         openMenuByKey();
 }
 
-// A right click selects the line that it meets; the key meets the one that the focus is on.
+// A right click selects the line that it meets, and so does the key.
 void ListView::openMenuByKey()
 {
-    if (!SelectedItem() && currentItem())
-        setCurrentItem(currentItem());
+    selectALine();
     Q_EMIT MouseUp(vbRightButton, menuPlace(*this, SelectedItem().get()));
 }
 
