@@ -227,8 +227,10 @@ void TabbedDialog::turnTo(int page)
     for (QWidget *next = currentWidget()->nextInFocusChain(); next != currentWidget();
          next = next->nextInFocusChain()) {
         const bool takesFocus = (next->focusPolicy() & Qt::TabFocus) && next->isEnabled() && next->isVisible();
-        if (takesFocus && currentWidget()->isAncestorOf(next))
-            return next->setFocus(Qt::TabFocusReason);
+        if (!takesFocus || !currentWidget()->isAncestorOf(next))
+            continue;
+        next->clearFocus(); // which Qt may have given it as the page turned, and not as the keyboard does
+        return next->setFocus(Qt::TabFocusReason);
     }
 }
 
