@@ -1,6 +1,7 @@
 #include "platform/desktop/ListView.h"
 
 #include "platform/desktop/Keys.h"
+#include "platform/desktop/MdiForm.h"
 #include "platform/desktop/MenuKey.h"
 #include "platform/desktop/Twips.h"
 #include "platform/runtime/Conversion.h"
@@ -196,6 +197,13 @@ void ListView::keyReleaseEvent(QKeyEvent *event)
 }
 
 // Whoever comes by the keyboard finds a line selected, so that a list of one line can be used too.
+void ListView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    ControlOf::currentChanged(current, previous);
+    if (hasFocus())
+        MdiForm::bringIntoView(*viewport(), visualRect(current));
+}
+
 void ListView::focusInEvent(QFocusEvent *event)
 {
     QTreeWidget::focusInEvent(event);

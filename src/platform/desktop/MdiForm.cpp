@@ -3,6 +3,7 @@
 #include "platform/desktop/Form.h"
 #include "platform/desktop/Twips.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
@@ -29,10 +30,10 @@ MdiForm *&theFrame()
 }
 
 // What a child window's border and title bar take; Qt's own layout of the window knows it only once it has been shown.
-QMargins borders(const QMdiSubWindow &host)
+QMargins borders(const QWidget &child)
 {
-    const int frame = host.style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth, nullptr, &host);
-    const int title = host.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &host);
+    const int frame = child.style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth, nullptr, &child);
+    const int title = child.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &child);
     return {frame, title, frame, frame};
 }
 
@@ -80,7 +81,7 @@ MdiForm::MdiForm(QAnyStringView className) : m_area(new Area(this))
         if (auto *form = host ? qobject_cast<Form *>(host->widget()) : nullptr)
             form->becomeActive();
     });
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { showFocus(now); });
+    connect(qApp, &QApplication::focusChanged, this, &MdiForm::showFocus, Qt::QueuedConnection);
     theFrame() = this;
 }
 
@@ -146,15 +147,25 @@ void MdiForm::Move(double left, double top, double width, double height)
     resize(QSize(pixels(width), pixels(height)) - borders);
 }
 
-void MdiForm::showFocus(QWidget *now)
+void MdiForm::bringIntoView(const QWidget &control, const QRect &part)
 {
-    if (!now || !m_area->viewport()->isAncestorOf(now))
+    QMdiArea *area = frame() ? &frame()->area() : nullptr;
+    if (!area || !area->viewport()->isAncestorOf(&control))
         return;
-    const QRect place(now->mapTo(m_area->viewport(), QPoint()), now->size());
-    const QRect seen = m_area->viewport()->rect();
+    const QRect place(control.mapTo(area->viewport(), part.topLeft()), part.size());
+    const QRect seen = area->viewport()->rect();
     const auto scroll = [](QScrollBar &bar, int way) { bar.setValue(bar.value() + way); };
-    scroll(*m_area->horizontalScrollBar(), wayInto(place.left(), place.right(), seen.left(), seen.right()));
-    scroll(*m_area->verticalScrollBar(), wayInto(place.top(), place.bottom(), seen.top(), seen.bottom()));
+    scroll(*area->horizontalScrollBar(), wayInto(place.left(), place.right(), seen.left(), seen.right()));
+    scroll(*area->verticalScrollBar(), wayInto(place.top(), place.bottom(), seen.top(), seen.bottom()));
+}
+
+void MdiForm::showFocus()
+{
+    const QWidget *now = QApplication::focusWidget();
+    if (auto *list = qobject_cast<const QAbstractItemView *>(now); list && list->currentIndex().isValid())
+        bringIntoView(*list->viewport(), list->visualRect(list->currentIndex()));
+    else if (now)
+        bringIntoView(*now, now->rect());
 }
 
 void MdiForm::bringIn(QMdiSubWindow &host)
@@ -176,7 +187,10 @@ void MdiForm::showChild(Form &form)
         active->showNormal();
     auto *host = qobject_cast<QMdiSubWindow *>(form.parentWidget());
     const QSize wanted = form.testAttribute(Qt::WA_Resized) ? form.size() : form.sizeHint();
-    const QSize content = wanted.expandedTo(form.minimumSizeHint());
+    QSize content = wanted;
+    if (form.layout()) // it fits itself to a smaller place
+        content = content.boundedTo(m_area->viewport()->size().shrunkBy(borders(form)));
+    content = content.expandedTo(form.minimumSizeHint());
     if (!host) {
         const bool placed = form.testAttribute(Qt::WA_Moved);
         const QPoint middle = form.geometry().center(); // on the screen

@@ -48,6 +48,9 @@ public:
     // Undoes the maximising of a child.
     void restoreChild(QMdiSubWindow &host);
     QMdiArea &area();
+    // Scrolls that part of a child's control into view, where the child is larger than the frame. Without a frame, and
+    // for other windows, it does nothing.
+    static void bringIntoView(const QWidget &control, const QRect &part);
 
 protected:
     virtual void Form_Load() {}
@@ -67,8 +70,8 @@ private:
     // A shared window that is closed stays in the area, hidden.
     QList<QMdiSubWindow *> openChildren(QMdiArea::WindowOrder order) const;
     void listWindows(QMenu *menu, QActionGroup *listed);
-    // Scrolls what has got the focus into view, where its window is larger than its place.
-    void showFocus(QWidget *now);
+    // Called once everything else has happened that moves the focus: a new child gets it before it has its place.
+    void showFocus();
     // What hangs over an edge of the area comes in.
     void bringIn(QMdiSubWindow &host);
 

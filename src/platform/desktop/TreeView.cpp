@@ -1,6 +1,7 @@
 #include "platform/desktop/TreeView.h"
 
 #include "platform/desktop/Keys.h"
+#include "platform/desktop/MdiForm.h"
 #include "platform/desktop/MenuKey.h"
 
 #include <QApplication>
@@ -268,6 +269,13 @@ void TreeView::scrollContentsBy(int dx, int dy)
 }
 
 // Whoever comes by the keyboard finds a node selected to start from.
+void TreeView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    ControlOf::currentChanged(current, previous);
+    if (hasFocus())
+        MdiForm::bringIntoView(*viewport(), visualRect(current));
+}
+
 void TreeView::focusInEvent(QFocusEvent *event)
 {
     QTreeWidget::focusInEvent(event);

@@ -207,6 +207,7 @@ private Q_SLOTS:
             box.setText(each);
             lines.setText(each);
             QCOMPARE(box.text(), each);
+            QCOMPARE(box.cursorPosition(), 0); // a long text shows its beginning
             QCOMPARE(lines.text(), each);
         }
         lines.setText(text);
@@ -326,6 +327,23 @@ private Q_SLOTS:
             QApplication::sendEvent(&label, &hover);
             QCOMPARE(QToolTip::text(), told);
         }
+    }
+
+    void aListOfOneLineTellsTheChoiceFromTheLineShown()
+    {
+        desktop::ListBox list(nullptr, u"list", {u"Alabama"_s, u"Alaska"_s});
+        list.setOneLine();
+        const QImage plain = list.grab().toImage();
+        const auto pictureWith = [&list](int choice) {
+            list.setSelected(choice);
+            list.scrollToTop();
+            return list.grab().toImage();
+        };
+        const QImage elsewhere = pictureWith(1);
+        QVERIFY(elsewhere != plain); // Alaska is told beside Alabama
+        QVERIFY(elsewhere != pictureWith(0));
+        list.item(0)->setSelected(false);
+        QCOMPARE(list.grab().toImage(), plain); // again nobody has chosen Alabama
     }
 
     void pagesTurnByTheKeyboardIntoTheirFirstBox()

@@ -103,6 +103,24 @@ private Q_SLOTS:
         QCOMPARE(shared.log.join(u' '), u"load  unload load "_s);
     }
 
+    void theFocusIsScrolledIntoView()
+    {
+        Frame frame;
+        frame.resize(400, 300);
+        frame.Show();
+        auto *child = desktop::showNew<Window>([](Window &window) { window.resize(900, 700); });
+        desktop::CommandButton first(child, u"first", u"Generate"_s);
+        desktop::CommandButton last(child, u"last", u"Exit"_s);
+        last.setGeometry(800, 660, 90, 30);
+        first.show();
+        first.setFocus();
+        last.show();
+        QVERIFY(QTest::qWaitForWindowActive(&frame));
+        QVERIFY(last.visibleRegion().isEmpty());
+        last.setFocus();
+        QTRY_COMPARE(last.visibleRegion().boundingRect(), last.rect());
+    }
+
     void childrenLiveInTheFrame()
     {
         Frame frame;
