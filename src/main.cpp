@@ -1,3 +1,4 @@
+#include "platform/desktop/DarkDesktop.h"
 #include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/Style.h"
 #include "platform/runtime/Application.h"
@@ -16,6 +17,7 @@ int main(int argc, char **argv)
     QApplication::setDesktopFileName(u"org.tolmark.tolmark"_s); // by which a Wayland desktop finds the icon
     QApplication::setWindowIcon(QIcon(u":/icons/tolmark.svg"_s));
     desktop::Style::install();
+    const desktop::DarkDesktop darkDesktop;
     desktop::guarded([] { frmLogin::shared().Show(); });
     return QApplication::exec();
 }

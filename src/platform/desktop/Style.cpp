@@ -121,6 +121,24 @@ QColor readable(const QColor &colour, const QColor &stronger, const QColor &grou
     return contrast(mixed, ground) < readableContrast ? stronger : mixed;
 }
 
+QPalette darkPalette()
+{
+    const QColor window(0x32, 0x32, 0x32);
+    const QColor base(0x24, 0x24, 0x24);
+    const QColor greyed(0x80, 0x80, 0x80);
+    QPalette dark(Qt::white, window, window.lighter(120), base.darker(150), window.darker(130), Qt::white, Qt::white,
+                  base, window);
+    dark.setColor(QPalette::AlternateBase, base.lighter(120));
+    dark.setColor(QPalette::Highlight, QColor(0x30, 0x8c, 0xc6));
+    dark.setColor(QPalette::HighlightedText, Qt::white);
+    dark.setColor(QPalette::ToolTipBase, base);
+    dark.setColor(QPalette::ToolTipText, Qt::white);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        dark.setColor(QPalette::Disabled, role, greyed);
+    QApplication::style()->polish(dark);
+    return dark;
+}
+
 void Style::install()
 {
     QApplication::setStyle(new Style);

@@ -15,6 +15,9 @@ inline constexpr double readableContrast = 4.5;
 // The colour itself, or mixed with as much of the stronger one as it takes to be read on the ground.
 QColor readable(const QColor &colour, const QColor &stronger, const QColor &ground);
 
+// The colours of a dark desktop, put right as the style does.
+QPalette darkPalette();
+
 class Style : public QProxyStyle
 {
     Q_OBJECT

@@ -19,19 +19,13 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 const QColor lightWindow(0xef, 0xef, 0xef);
-const QColor darkWindow(0x31, 0x31, 0x31);
+const QColor darkWindow(0x32, 0x32, 0x32);
 
 void setLook(int points, bool dark)
 {
-    QPalette palette = QApplication::style()->standardPalette();
-    if (dark) {
-        palette = QPalette(Qt::white, darkWindow, Qt::gray, Qt::black, Qt::darkGray, Qt::white, Qt::white,
-                           darkWindow.darker(), darkWindow);
-        palette.setColor(QPalette::AlternateBase, darkWindow.darker(115));
-        palette.setColor(QPalette::Highlight, QColor(0x30, 0x8c, 0xc6));
-    }
-    QApplication::style()->polish(palette);
-    QApplication::setPalette(palette);
+    QPalette light = QApplication::style()->standardPalette();
+    QApplication::style()->polish(light);
+    QApplication::setPalette(dark ? desktop::darkPalette() : light);
     QFont font;
     font.setPointSize(points);
     QApplication::setFont(font);
