@@ -81,9 +81,12 @@ QString decoded(const QByteArray &bytes, const Encoding &encoding)
     }
     QStringDecoder decoder(encoding.converter, QStringConverter::Flag::Stateless);
     text = decoder.decode(content);
-    if (decoder.hasError())
-        refuseRow(1 + text.left(text.indexOf(QChar::ReplacementCharacter)).count(u'\n'),
+    if (decoder.hasError() || !text.isValidUtf16()) { // the decoder lets half a surrogate pair pass
+        const QList<uint> characters = text.toUcs4(); // which becomes a replacement character here
+        const auto fault = std::find(characters.begin(), characters.end(), uint(QChar::ReplacementCharacter));
+        refuseRow(1 + std::count(characters.begin(), fault, uint('\n')),
                   u"has bytes that are no %1"_s.arg(encoding.name));
+    }
     return text;
 }
 

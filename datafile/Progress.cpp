@@ -13,7 +13,6 @@ namespace datafile {
 
 namespace {
 
-constexpr int Interrupted = 18;      // the run-time's number for a break by the user
 constexpr qint64 firstShown = 1000;  // milliseconds
 constexpr qint64 betweenShown = 200; // milliseconds
 

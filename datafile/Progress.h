@@ -12,6 +12,8 @@
 
 namespace datafile {
 
+inline constexpr int Interrupted = 18; // the run-time's number for a break by the user
+
 // From here on SIGINT, SIGTERM and SIGHUP only ask the work to stop.
 void stopOnSignals();
 bool isStopAsked();

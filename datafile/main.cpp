@@ -2,6 +2,7 @@
 // faulty; 2: wrong usage.
 #include "datafile/Progress.h"
 #include "datafile/commands/Command.h"
+#include "datafile/jet/TableReader.h"
 #include "platform/runtime/RuntimeError.h"
 
 #include <QCoreApplication>
@@ -18,8 +19,8 @@ namespace {
 QList<commands::Command> allCommands()
 {
     using namespace commands;
-    return {createCommand(),  sampleCommand(), generateCommand(),      checkCommand(),  backupCommand(),
-            restoreCommand(), exportCommand(), importMembersCommand(), upgradeCommand()};
+    return {createCommand(),  sampleCommand(), generateCommand(),      checkCommand(),     backupCommand(),
+            restoreCommand(), exportCommand(), importMembersCommand(), importMdbCommand(), upgradeCommand()};
 }
 
 QString usageOfAll()
@@ -87,6 +88,8 @@ int run(const commands::Command &command, const QStringList &arguments)
 
 int main(int argc, char **argv)
 {
+    if (argc == 4 && qstrcmp(argv[1], jet::readerArgument) == 0)
+        return jet::readTables(argv[2], argv[3]); // started by import-mdb
     const QCoreApplication application(argc, argv);
     datafile::stopOnSignals();
     const QStringList arguments = QCoreApplication::arguments().mid(1);

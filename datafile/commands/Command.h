@@ -44,6 +44,7 @@ Command backupCommand();
 Command restoreCommand();
 Command exportCommand();
 Command importMembersCommand();
+Command importMdbCommand();
 Command upgradeCommand();
 
 // A line on standard output.

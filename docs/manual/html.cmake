@@ -15,7 +15,7 @@ endfunction()
 file(GLOB pages ${source}/*.md)
 foreach(file ${pages})
     get_filename_component(name ${file} NAME_WE)
-    execute_process(COMMAND ${cmark} --unsafe --smart -e table --to html ${file}
+    execute_process(COMMAND ${cmark} --unsafe -e table --to html ${file}
                     OUTPUT_VARIABLE body COMMAND_ERROR_IS_FATAL ANY)
     string(REGEX REPLACE "(href=\"[a-z-]+)\\.md" "\\1.html" body "${body}")
     string(REGEX MATCH "<h1>[^<]*" title "${body}")

@@ -24,6 +24,7 @@ template <class ControlType> void reportMove(ControlType &control, const QMouseE
 CanvasLabel::CanvasLabel(QWidget *parent, QAnyStringView name) : Label(parent, name)
 {
     setTextFormat(Qt::PlainText);
+    setElides();
     setAutoFillBackground(true);
 }
 

@@ -104,6 +104,7 @@ void DisplayInformation::Form_Load()
         cmdEdit->setText(u"Save"_s);
     }
     ShowRecordTab();
+    m_page.focusFirstBox();
 }
 
 // Every page, whether the designer owns it or it came with the data file.
@@ -212,6 +213,7 @@ void DisplayInformation::cmdEdit_Click()
 void DisplayInformation::startEditing()
 {
     constexpr int fixedPages = 3;
+    leaveButtons();
     EditMode = u"Edit"_s;
     cmdDelete->setText(u"Save"_s);
     cmdEdit->setVisible(false);
@@ -224,10 +226,18 @@ void DisplayInformation::startEditing()
 
 void DisplayInformation::endEditing()
 {
+    leaveButtons();
     EditMode.clear();
     cmdEdit->setVisible(true);
     cmdClose->setVisible(true);
     cmdDelete->setText(u"Delete"_s);
+}
+
+// The buttons are about to mean something else: the key that pressed one must not meet the other by a second press.
+void DisplayInformation::leaveButtons()
+{
+    if (Frame2->isAncestorOf(focusWidget()))
+        m_page.focusFirstBox();
 }
 
 AttachmentOwner DisplayInformation::person() const
@@ -320,10 +330,14 @@ void DisplayInformation::ListView1_DblClick()
     });
 }
 
-// Enter does for the keyboard what a double click does for the mouse; without a selected line it does nothing.
+// Enter opens the selected line: an event as a double click does, an attachment as the menu does.
 void DisplayInformation::ListView1_KeyUp(int keyCode)
 {
-    if (keyCode == desktop::vbKeyReturn && ListView1->SelectedItem())
+    if (keyCode != desktop::vbKeyReturn || !ListView1->SelectedItem())
+        return;
+    if (TabStrip1->SelectedCaption() == attachmentsList.caption)
+        MnuView_Click();
+    else
         ListView1_DblClick();
 }
 

@@ -68,6 +68,7 @@ private:
 
     void startEditing();
     void endEditing();
+    void leaveButtons();
     void upload();
     void assignResource();
     void saveNew();

@@ -105,6 +105,12 @@ void RecordPage::keepTexts(const QString &caption)
     }
 }
 
+void RecordPage::focusFirstBox() const
+{
+    if (Text1.Count() > 1)
+        Text1(1)->setFocus();
+}
+
 QList<BoxValue> RecordPage::values() const
 {
     QList<BoxValue> values;

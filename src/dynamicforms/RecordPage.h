@@ -35,6 +35,8 @@ public:
     // Takes the texts into the rows of the page. The first row of all is left out.
     void keepTexts(const QString &caption);
     QList<BoxValue> values() const;
+    // On a page without boxes the focus stays where it is.
+    void focusFirstBox() const;
 
 private:
     void unloadFields();

@@ -317,6 +317,9 @@ private Q_SLOTS:
         row("Last Name\n\"Ann\"e\n", u"row 2: has text behind"_s);
         row("\xef\xbb\xbfLast Name\nBell\nN\xfa\n", u"row 3: has bytes that are no utf-8"_s);
         row("", u"row 1: a header"_s);
+        constexpr char16_t half[] = u"Last Name\nBell\n\xd83d\n"; // of a pair
+        QTest::newRow("half a pair") << QByteArray(reinterpret_cast<const char *>(half), sizeof half - sizeof *half)
+                                     << u"row 3: has bytes that are no utf-16"_s;
     }
 
     void faultsAreTold()

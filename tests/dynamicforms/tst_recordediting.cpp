@@ -53,7 +53,9 @@ private Q_SLOTS:
         OpenRecord record;
         record.type(City, u"Bath"_s);
         QCOMPARE(record.box(City)->text(), u"Portland"_s); // locked
-        OpenRecord::press(record->cmdEdit);
+        record->cmdEdit->setFocus();
+        QTest::keyClick(record->cmdEdit, Qt::Key_Return);
+        QCOMPARE(record->focusWidget(), record.box(1)); // not on "Save"
         QCOMPARE(record.buttons(), u"- Save - -"_s);
         QCOMPARE(record.tabs(), (QStringList{personal, volunteer}));
         record.type(Title, u"Dr."_s);
@@ -72,6 +74,7 @@ private Q_SLOTS:
                  u"Organising; first aid|No|1995"_s);
         QCOMPARE(record->EditMode, QString());
         QCOMPARE(record.buttons(), u"Edit Delete - &Close"_s);
+        QCOMPARE(record->focusWidget(), record.box(Skills)); // not on "Delete"
         QCOMPARE(record.tabs(), (QStringList{personal, volunteer, u"Attachments"_s, u"Resources"_s}));
         record.turnTo(personal);
         QVERIFY(!record.box(City)->isReadOnly());
@@ -205,6 +208,8 @@ private Q_SLOTS:
         choose(record, 2, "MnuView");
         QCOMPARE(launches.paths, QStringList(m_folder->path(u"temp/a.txt"_s)));
         QCOMPARE(contentOf(launches.paths[0]), QByteArray("old\0", 4));
+        QTest::keyClick(record->ListView1, Qt::Key_Return);
+        QCOMPARE(launches.paths.size(), 2);
         FileAnswers files({m_folder->path(u"saved"_s), QString()});
         choose(record, 1, "MnuSaveAs");
         QCOMPARE(files.name, u"a.txt"_s);

@@ -9,7 +9,6 @@
 #include <QListView>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QShortcut>
 #include <QStyleOptionFocusRect>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
@@ -211,14 +210,7 @@ Frame::Frame(QWidget *parent, QAnyStringView name, const QString &caption) : Con
 
 TabbedDialog::TabbedDialog(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
 {
-    const auto turn = [this](const QKeySequence &keys, int pages) {
-        auto *shortcut = new QShortcut(keys, this);
-        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, this,
-                [this, pages] { turnTo((currentIndex() + pages + count()) % count()); });
-    };
-    turn(Qt::CTRL | Qt::Key_PageDown, 1);
-    turn(Qt::CTRL | Qt::Key_PageUp, -1);
+    onPageKeys(this, [this](int pages) { turnTo((currentIndex() + pages + count()) % count()); });
 }
 
 void TabbedDialog::turnTo(int page)

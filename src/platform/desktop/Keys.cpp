@@ -3,6 +3,10 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QShortcut>
+#include <QWidget>
+
+#include <utility>
 
 namespace desktop {
 
@@ -57,6 +61,15 @@ int heldButtons(const QMouseEvent &event)
 int changedButton(const QMouseEvent &event)
 {
     return sumOf(event.button());
+}
+
+void onPageKeys(QWidget *widget, const std::function<void(int pages)> &turn)
+{
+    for (const auto &[key, pages] : {std::pair(Qt::Key_PageDown, 1), {Qt::Key_PageUp, -1}}) {
+        auto *shortcut = new QShortcut(Qt::CTRL | key, widget);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        QObject::connect(shortcut, &QShortcut::activated, widget, [turn, pages = pages] { turn(pages); });
+    }
 }
 
 } // namespace desktop

@@ -1,10 +1,13 @@
 // Key codes, shift states and mouse buttons as the handlers name them.
 #pragma once
 
+#include <functional>
+
 class QFocusEvent;
 class QInputEvent;
 class QKeyEvent;
 class QMouseEvent;
+class QWidget;
 
 namespace desktop {
 
@@ -24,5 +27,8 @@ bool isByKeyboard(const QFocusEvent &event);
 int heldButtons(const QMouseEvent &event);
 // The button that was pressed or released.
 int changedButton(const QMouseEvent &event);
+
+// Turns pages by Ctrl with Page Down (1) and Page Up (-1) while the focus is in the widget.
+void onPageKeys(QWidget *widget, const std::function<void(int pages)> &turn);
 
 } // namespace desktop

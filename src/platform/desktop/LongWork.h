@@ -3,8 +3,8 @@
 //
 // One object stands for the work, from its beginning to its end or failure. The text is a message over the bar's
 // panels, whose own texts stay. It is painted at once and nothing else is handled meanwhile, so that no click reaches a
-// window whose handler is still running. Painting takes under a thousandth of the work: it is rare, and short work gets
-// none.
+// window whose handler is still running. Painting is rare, so that it takes well under a hundredth of the work; short
+// work gets none.
 #pragma once
 
 #include <QString>

@@ -1,5 +1,6 @@
 #include "platform/desktop/TabStrip.h"
 
+#include "platform/desktop/Keys.h"
 #include "platform/runtime/RuntimeError.h"
 
 #include <QSignalBlocker>
@@ -16,6 +17,16 @@ TabStrip::TabStrip(QWidget *parent, QAnyStringView name) : ControlOf(parent, nam
         if (index == currentIndex())
             select(index);
     });
+    onPageKeys(parent, [this](int pages) { turn(pages); });
+}
+
+// The focus leaves the page before its boxes are unloaded.
+void TabStrip::turn(int pages)
+{
+    if (count() == 0)
+        return;
+    setFocus(Qt::ShortcutFocusReason);
+    setSelectedItem((currentIndex() + pages + count()) % count() + 1);
 }
 
 int TabStrip::heightOfATab()

@@ -1,4 +1,5 @@
-// A row of tabs without pages: what a tab stands for is its window's to show, at the click. Tabs count from 1.
+// A row of tabs without pages: what a tab stands for is its window's to show, at the click. Tabs count from 1. Ctrl
+// with Page Down or Page Up turns them from wherever the focus is in the parent widget.
 //
 // Selecting a tab is a click on it, whether the mouse, the keyboard or a handler does it and also when that tab is the
 // selected one already. When the selected tab is removed none is selected until the next click. Error 35600 for a tab
@@ -51,6 +52,7 @@ private:
         QString toolTip;
     };
     int heightOfATab();
+    void turn(int pages);
     void select(int index);
     int placeOf(int tab) const;
 

@@ -59,6 +59,10 @@ private Q_SLOTS:
             {u"W BETWEEN 'T' AND 'S'"_s, u"1 2"_s},
             {u"N NOT IN (1, 12, 120)"_s, u"5"_s},
             {u"W IN ('SMITH', '\u00c9')"_s, u"1"_s},
+            {u"'SMITH' IN (W)"_s, u"1"_s},
+            {u"W IN ('SMI' & 'TH')"_s, u"1"_s},
+            {u"W & '' BETWEEN 'SMITH' & '' AND 'X'"_s, u"1 2"_s},
+            {u"W + '' = ('SMITH' & '') + ''"_s, u"1"_s},
             {u"W > 'SMITH'"_s, u"2 3"_s},
             {u"[T]![N] = 1"_s, u"1"_s},
         };

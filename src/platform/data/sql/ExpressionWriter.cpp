@@ -57,11 +57,6 @@ QByteArrayView symbolOf(Operator operation)
     return " ";
 }
 
-bool isConcatenation(const Expression &node)
-{
-    return node.kind == ExpressionKind::Operation && node.operation == Operator::Concatenate;
-}
-
 // True for what needs no parentheses as an operand.
 bool isAtom(const Expression &node)
 {
@@ -191,6 +186,16 @@ void ExpressionWriter::junction(const Expression &node, QByteArrayView word)
     }
 }
 
+// A text literal, or texts joined. SQLite would compare it letter by letter, for no file declares a collation for it.
+bool ExpressionWriter::givesText(Node node) const
+{
+    const Expression &expression = at(node);
+    if (expression.kind != ExpressionKind::Operation)
+        return isText(node);
+    return expression.operation == Operator::Concatenate ||
+           (expression.operation == Operator::Add && (givesText(expression.first) || givesText(expression.second)));
+}
+
 // A comparison with a text literal or a joined text gets the store's collation. Two columns compare by the types and
 // collations that the file declares for them.
 void ExpressionWriter::comparison(const Expression &node)
@@ -209,7 +214,7 @@ void ExpressionWriter::comparison(const Expression &node)
         const QStringView left = leftText ? at(node.first).text : QStringView();
         const QStringView right = rightText ? at(node.second).text : QStringView();
         m_sql += !isEquality ? inStoreOrder : equalityRule(isAscii(left) ? right : left);
-    } else if (isConcatenation(at(node.first)) || isConcatenation(at(node.second))) {
+    } else if (givesText(node.first) || givesText(node.second)) {
         m_sql += inStoreOrder;
     }
 }
@@ -249,7 +254,7 @@ void ExpressionWriter::arithmetic(const Expression &node)
         operand(side);
         m_sql += isWhole ? ") AS INTEGER)" : asReal ? " AS REAL)" : "";
     };
-    const bool joins = node.operation == Operator::Add && (isText(node.first) || isText(node.second));
+    const bool joins = node.operation == Operator::Add && (givesText(node.first) || givesText(node.second));
     number(node.first, node.operation == Operator::Divide);
     m_sql += symbolOf(joins ? Operator::Concatenate : node.operation);
     number(node.second, false);
@@ -349,7 +354,7 @@ void ExpressionWriter::between(const Expression &node)
 {
     noteComparison(node.first, node.second);
     noteComparison(node.first, node.third);
-    const bool ofTexts = isText(node.second) || isText(node.third);
+    const bool ofTexts = givesText(node.first) || givesText(node.second) || givesText(node.third);
     const auto inOrder = [&](Node lower, Node upper) {
         operand(node.first);
         m_sql += ofTexts ? inStoreOrder : QByteArrayView();
@@ -365,15 +370,15 @@ void ExpressionWriter::between(const Expression &node)
     m_sql += ')';
 }
 
-// The list has one collation: NOCASE, if all its texts are ASCII.
+// The list has one collation: NOCASE, if all its items are ASCII literals.
 void ExpressionWriter::inList(const Expression &node)
 {
-    bool ofTexts = false;
+    bool ofTexts = givesText(node.first);
     bool ascii = true;
     for (Node item = node.second; item != none; item = at(item).next) {
         noteComparison(node.first, item);
-        ofTexts = ofTexts || isText(item);
-        ascii = ascii && (!isText(item) || isAscii(at(item).text));
+        ofTexts = ofTexts || givesText(item);
+        ascii = ascii && isText(item) && isAscii(at(item).text);
     }
     operand(node.first);
     if (ofTexts)

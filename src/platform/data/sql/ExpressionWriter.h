@@ -43,6 +43,7 @@ private:
     void text(const Expression &node);
     void noteComparison(Node column, Node literal);
     bool isText(Node node) const { return at(node).kind == ExpressionKind::Text; }
+    bool givesText(Node node) const;
     const Expression &at(Node node) const { return m_tree.at(node); }
 
     const Tree &m_tree;

@@ -76,6 +76,12 @@ bool isBlank(QChar c)
     return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n';
 }
 
+// SQLite reads a statement as far as its first U+0000, so that nothing in it may hold one.
+bool holdsNul(QStringView text)
+{
+    return text.contains(QChar());
+}
+
 bool isDigit(QChar c)
 {
     return c >= u'0' && c <= u'9';
@@ -207,7 +213,7 @@ Token Lexer::text(QChar quote)
     qsizetype end = m_source.indexOf(quote, m_position + 1);
     while (end >= 0 && at(end + 1) == quote)
         end = m_source.indexOf(quote, end + 2);
-    if (end < 0)
+    if (end < 0 || holdsNul(m_source.sliced(m_position, end - m_position)))
         return take(TokenKind::UnclosedText, m_source.size() - m_position);
     return take(TokenKind::Text, end + 1 - m_position);
 }
@@ -226,7 +232,7 @@ Token Lexer::bracketedName(QChar closing)
         return take(TokenKind::BadName, m_source.size() - m_position);
     Token token = take(TokenKind::BracketedName, end + 1 - m_position);
     const QStringView name = token.text.sliced(1, token.text.size() - 2);
-    if (name.contains(u'['))
+    if (name.contains(u'[') || holdsNul(name))
         token.kind = TokenKind::BadName;
     else
         token.text = name;

@@ -2,6 +2,7 @@
 
 #include "platform/data/sql/ExpressionParser.h"
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -84,8 +85,8 @@ void StatementParser::select()
     selectList();
     if (m_in.accept(Keyword::From))
         fromClause();
-    else if (m_tree.list.last().expression == none)
-        throw faultInList();
+    else if (std::ranges::any_of(m_tree.list, [](const ListItem &item) { return item.expression == none; }))
+        throw faultInList(); // all of no table
     whereClause();
     groupByClause();
     havingClause();
