@@ -377,23 +377,6 @@ private Q_SLOTS:
         QCOMPARE(list.grab().toImage(), looks[0]); // again nobody has chosen Alabama
     }
 
-    void aListOfOneLineTellsTheChoiceFromTheLineShown()
-    {
-        desktop::ListBox list(nullptr, u"list", {u"Alabama"_s, u"Alaska"_s});
-        list.setOneLine();
-        const QImage plain = list.grab().toImage();
-        const auto pictureWith = [&list](int choice) {
-            list.setSelected(choice);
-            list.scrollToTop();
-            return list.grab().toImage();
-        };
-        const QImage elsewhere = pictureWith(1);
-        QVERIFY(elsewhere != plain); // Alaska is told beside Alabama
-        QVERIFY(elsewhere != pictureWith(0));
-        list.item(0)->setSelected(false);
-        QCOMPARE(list.grab().toImage(), plain); // again nobody has chosen Alabama
-    }
-
     void pagesTurnByTheKeyboardIntoTheirFirstBox()
     {
         desktop::TabbedDialog dialog(nullptr, u"SSTab1");
