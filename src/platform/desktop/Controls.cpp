@@ -115,7 +115,8 @@ MultilineTextBox::MultilineTextBox(QWidget *parent, QAnyStringView name) : Contr
     setLineWrapMode(QPlainTextEdit::NoWrap);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    // Qt 6.4 looks for the line of the dropped text before that is laid out, and fails near the end of a long paragraph.
+    // Qt 6.4 looks for the line of the dropped text before that is laid out, and fails near the end of a long
+    // paragraph.
     setAcceptDrops(false);
     viewport()->setAcceptDrops(false);
 }
