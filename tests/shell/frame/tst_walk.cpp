@@ -238,7 +238,9 @@ private Q_SLOTS:
         window->show();
         window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(window->window()));
-        QStringList faults = faultsOfBeginning(QApplication::focusWidget());
+        QStringList faults;
+        if (!window->inherits("DisplayInformation")) // whose pages the station has turned
+            faults << faultsOfBeginning(QApplication::focusWidget());
         faults << faultsOfReading(QAccessible::queryAccessibleInterface(window));
         faults << faultsOfWalk(*window);
         faults << faultsOfLetters(*window);
