@@ -123,7 +123,7 @@ private:
     }
 
     const int m_points = setting("PROOF_POINTS", 0);
-    const quint32 m_seed = quint32(setting("PROOF_SEED", int(std::random_device()() % 1'000'000)));
+    const quint32 m_seed = quint32(setting("PROOF_SEED", 1));
     std::mt19937 m_chance{m_seed};
     std::vector<std::optional<Expectation>> m_expectations{std::size_t(actions().size())};
     int m_trials = 0;

@@ -1,9 +1,9 @@
 #include "platform/desktop/Mnemonics.h"
 
 #include "platform/desktop/MdiForm.h"
+#include "platform/runtime/ErrorHandling.h"
 
 #include <QAbstractButton>
-#include <QHash>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
+#include <map>
+#include <set>
 #include <vector>
 
 namespace desktop {
@@ -95,10 +97,10 @@ QList<QChar> lettersFor(const QString &caption, Among among)
 class Dealing
 {
 public:
-    explicit Dealing(const QSet<QChar> &reserved)
+    explicit Dealing(const std::set<QChar> &reserved)
     {
         for (const QChar letter : reserved)
-            m_owners.insert(letter, nullptr);
+            m_owners[letter] = nullptr;
     }
 
     void deal(std::vector<Bearer> &bearers)
@@ -108,27 +110,34 @@ public:
             if (bearer.letter.isNull() || m_owners.contains(bearer.letter))
                 asking.push_back(&bearer);
             else
-                m_owners.insert(bearer.letter, nullptr);
+                m_owners[bearer.letter] = nullptr;
         }
         std::vector<Bearer *> waiting = asking;
         for (const Among among : {Among::FirstLetter, Among::FirstLettersOfWords, Among::AllLetters})
             std::erase_if(waiting, [this, among](Bearer *bearer) { return findFree(*bearer, among); });
         for (Bearer *bearer : waiting) {
-            QSet<QChar> asked;
+            std::set<QChar> asked;
             makeRoom(*bearer, asked);
         }
         for (Bearer *bearer : asking) {
-            if (const QChar letter = m_owners.key(bearer); letter != bearer->letter)
+            if (const QChar letter = letterWith(*bearer); letter != bearer->letter)
                 bearer->take(letter);
         }
     }
 
 private:
+    // Null when it has none.
+    QChar letterWith(const Bearer &bearer) const
+    {
+        const auto owned = std::ranges::find(m_owners, &bearer, [](const auto &each) { return each.second; });
+        return owned == m_owners.end() ? QChar() : owned->first;
+    }
+
     bool findFree(Bearer &bearer, Among among)
     {
         for (const QChar letter : lettersFor(bearer.caption, among)) {
             if (!m_owners.contains(letter)) {
-                m_owners.insert(letter, &bearer);
+                m_owners[letter] = &bearer;
                 return true;
             }
         }
@@ -136,22 +145,25 @@ private:
     }
 
     // Takes a letter from somebody who can have another one instead.
-    bool makeRoom(Bearer &bearer, QSet<QChar> &asked)
+    bool makeRoom(Bearer &bearer, std::set<QChar> &asked)
     {
         for (const QChar letter : lettersFor(bearer.caption, Among::AllLetters)) {
             if (asked.contains(letter))
                 continue;
             asked.insert(letter);
-            Bearer *owner = m_owners.value(letter);
-            if (m_owners.contains(letter) && (!owner || !owner->givesWay || !makeRoom(*owner, asked)))
+            const auto taken = m_owners.find(letter);
+            Bearer *owner = taken == m_owners.end() ? nullptr : taken->second;
+            if (taken != m_owners.end() && (!owner || !owner->givesWay || !makeRoom(*owner, asked)))
                 continue;
-            m_owners.insert(letter, &bearer);
+            m_owners[letter] = &bearer;
             return true;
         }
         return false;
     }
 
-    QHash<QChar, Bearer *> m_owners; // null: reserved, or somebody's from before, and not to be taken away
+    // Null: reserved, or somebody's from before, and not to be taken away. Qt's own containers end the process when
+    // memory is refused.
+    std::map<QChar, Bearer *> m_owners;
 };
 
 template <class Owner> Bearer bearerOf(Owner &owner, const QString &text, void (Owner::*setText)(const QString &))
@@ -187,18 +199,16 @@ std::vector<Bearer> bearersOf(const QList<QAction *> &actions)
     return bearers;
 }
 
-QSet<QChar> lettersOf(const QMenuBar &bar)
+std::set<QChar> lettersOf(const QMenuBar &bar)
 {
-    QSet<QChar> letters;
+    std::set<QChar> letters;
     for (const Bearer &menu : bearersOf(bar.actions()))
-        letters << menu.letter;
+        letters.insert(menu.letter);
     return letters;
 }
 
-} // namespace
-
 // Bars and buttons first, for they have one word each.
-void dealMnemonics(QWidget &window)
+std::vector<Bearer> bearersIn(const QWidget &window)
 {
     std::vector<Bearer> bearers;
     for (const QMenuBar *bar : window.findChildren<QMenuBar *>())
@@ -215,20 +225,37 @@ void dealMnemonics(QWidget &window)
         if (label->isVisibleTo(&window) && label->buddy())
             bearers.push_back(bearerOf(*label, label->text(), &QLabel::setText));
     }
-    const MdiForm *frame = MdiForm::frame();
-    Dealing(frame && frame->isAncestorOf(&window) ? lettersOf(*frame->menuBar()) : QSet<QChar>()).deal(bearers);
+    return bearers;
+}
+
+// Of a menu or a bar of menus.
+void dealAmong(const QWidget &items)
+{
+    runtime::everyStep([&items] {
+        std::vector<Bearer> bearers = bearersOf(items.actions());
+        Dealing({}).deal(bearers);
+    });
+}
+
+} // namespace
+
+void dealMnemonics(QWidget &window)
+{
+    runtime::everyStep([&window] {
+        std::vector<Bearer> bearers = bearersIn(window);
+        const MdiForm *frame = MdiForm::frame();
+        Dealing(frame && frame->isAncestorOf(&window) ? lettersOf(*frame->menuBar()) : std::set<QChar>()).deal(bearers);
+    });
 }
 
 void dealMnemonics(QMenu &menu)
 {
-    std::vector<Bearer> items = bearersOf(menu.actions());
-    Dealing({}).deal(items);
+    dealAmong(menu);
 }
 
 void dealMnemonics(QMenuBar &bar)
 {
-    std::vector<Bearer> menus = bearersOf(bar.actions());
-    Dealing({}).deal(menus);
+    dealAmong(bar);
 }
 
 QString withMnemonic(const QString &text, const QKeySequence &shortcut)

@@ -4,12 +4,12 @@
 // A caption that was designed with a letter keeps it. The others get the first letter of one of their words, or else
 // any letter that is free; where all are taken, a caption goes without. What has a letter keeps it while it can, so
 // that a letter means the same for as long as the window is open. A button's letter is its shortcut and never stands in
-// its text; labels, tabs and menu items bear the mark in their texts, as Qt expects it.
+// its text; labels, tabs and menu items bear the mark in their texts, as Qt expects it. Without memory to deal with,
+// everything keeps what it has: Qt calls these where no exception may pass.
 #pragma once
 
 #include <QChar>
 #include <QKeySequence>
-#include <QSet>
 #include <QString>
 
 class QMenu;
