@@ -2,29 +2,14 @@
 // a whole file of 200 MB. The argument says which way: append, get, store or fetch, "-ours" or "-floor". Prints
 // megabytes. The files of the last two are those that benchmark_transfer leaves.
 #include "benchmarks/LargeValue.h"
+#include "benchmarks/ProcessFigure.h"
 #include "benchmarks/StoredLargeFile.h"
-
-#include <QFile>
 
 #include <string_view>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-// A figure of this process from the system, in bytes: its size now (VmRSS) or the largest ever (VmHWM).
-qint64 processFigure(const QByteArray &name)
-{
-    QFile status(u"/proc/self/status"_s);
-    if (status.open(QIODevice::ReadOnly)) {
-        for (const QByteArray &line : status.readAll().split('\n')) {
-            if (line.startsWith(name + ':'))
-                return line.mid(name.size() + 1).trimmed().chopped(3).toLongLong() * 1024;
-        }
-    }
-    std::fprintf(stderr, "This system does not tell %s\n", name.constData());
-    std::exit(1);
-}
 
 // Returns the program's exit code.
 template <class Work> int measure(Work &&work)

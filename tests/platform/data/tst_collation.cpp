@@ -172,6 +172,15 @@ private Q_SLOTS:
         QCOMPARE(
             textsOf(m_connection, u"SELECT LastName FROM MemberInformation ORDER BY LastName, MemberId"_s, u"LastName"),
             QStringList(QString()) + sorted); // Null comes first
+        const auto distinct =
+            textsOf(m_connection, u"SELECT DISTINCT LastName FROM MemberInformation"_s, u"LastName").sliced(1);
+        const auto isAlike = [](auto &a, auto &b) { return compared(a, b) == 0; };
+        sorted.erase(std::unique(sorted.begin(), sorted.end(), isAlike), sorted.end());
+        QVERIFY(std::equal(distinct.begin(), distinct.end(), sorted.begin(), sorted.end(), isAlike));
+        QCOMPARE(textsOf(m_connection, u"SELECT DISTINCT LastName FROM MemberInformation ORDER BY MemberId + 0"_s,
+                         u"LastName")
+                     .size(),
+                 sorted.size() + 1);
     }
 
     // The comparison runs inside SQLite, which no exception may pass through.
