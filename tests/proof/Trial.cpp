@@ -85,10 +85,10 @@ void perform(const Action &action, const DataFolder &folder)
 Rows rowsOf(const data::Database &file)
 {
     Rows rows;
-    for (const QString &table : datafiletest::rowsOf(file, "SELECT name FROM sqlite_master WHERE type = 'table'"))
-        for (const QString &row : datafiletest::rowsOf(file, "SELECT rowid, * FROM \"" + table.toUtf8() + '"'))
+    for (const QString &table : ::rowsOf(file, "SELECT name FROM sqlite_master WHERE type = 'table'"))
+        for (const QString &row : ::rowsOf(file, "SELECT rowid, * FROM \"" + table.toUtf8() + '"'))
             rows << table + u": "_s + row;
-    for (const QString &made : datafiletest::rowsOf(file, "SELECT type, name, sql FROM sqlite_master"))
+    for (const QString &made : ::rowsOf(file, "SELECT type, name, sql FROM sqlite_master"))
         rows << made;
     return rows;
 }
@@ -230,7 +230,7 @@ QStringList Expectation::faultsOfFile(const QString &path, const QList<Ending::T
     try {
         data::Database file;
         file.open(path);
-        const QStringList check = datafiletest::rowsOf(file, "PRAGMA integrity_check");
+        const QStringList check = ::rowsOf(file, "PRAGMA integrity_check");
         if (check != QStringList(u"ok"_s))
             return {u"integrity_check: "_s + check.join(u", "_s)};
         rows = rowsOf(file);
