@@ -94,7 +94,8 @@ void SplitPanes::setUpPlaces()
     TreClassView->Move(60, 900, 2475, 7215);
     Picture1->Move(2580, 480, 30, 7635);
     LstStudenInformation->Move(2595, 900, 11175, 7215);
-    Picture1->raise(); // it lies over the edge of the list
+    Picture1->raise();   // it lies over the edge of the list
+    StatusBar1->raise(); // and this one over both, in a window that is made lower
     m_window.setUsefulSize(usefulWidth, usefulHeight);
     m_window.resize(pixels(panesRight + margin), pixels(panesBottom + statusBarHeight + margin));
     placeStatusBar();

@@ -30,6 +30,15 @@ DisplayMembers &dossier()
     });
 }
 
+// A box that could not be shown is not there.
+void type(const OpenRecord &record, const QString &field, const QString &text)
+{
+    for (auto *box : record->Frame1->findChildren<desktop::TextBox *>()) {
+        if (box->toolTip() == field)
+            box->setText(text);
+    }
+}
+
 Action deletion(const char *name, const char *list, const char *item)
 {
     return {name, [list, item](const DataFolder &) {
@@ -177,9 +186,9 @@ const QList<Action> &actions()
          [](auto &) {
              const OpenRecord record;
              OpenRecord::press(record->cmdEdit);
-             record.box(1)->setText(u"Dr."_s);
+             type(record, u"Title"_s, u"Dr."_s);
              record.turnTo(u"Volunteer Profile"_s);
-             record.box(1)->setText(u"Chess"_s);
+             type(record, u"Skills"_s, u"Chess"_s);
              OpenRecord::press(record->cmdDelete); // which says "Save" now
          }},
         {"delete a record", [](auto &) { OpenRecord::press(OpenRecord()->cmdDelete); }},

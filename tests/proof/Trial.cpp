@@ -88,7 +88,11 @@ Rows rowsOf(const data::Database &file)
     for (const QString &table : ::rowsOf(file, "SELECT name FROM sqlite_master WHERE type = 'table'"))
         for (const QString &row : ::rowsOf(file, "SELECT rowid, * FROM \"" + table.toUtf8() + '"'))
             rows << table + u": "_s + row;
-    for (const QString &made : ::rowsOf(file, "SELECT type, name, sql FROM sqlite_master"))
+    // Column by column: a table is made without one whose making failed in silence.
+    for (const QString &made : ::rowsOf(
+             file,
+             "SELECT made.type, made.name, columns.name, columns.type, columns.\"notnull\" FROM sqlite_master AS made "
+             "LEFT JOIN pragma_table_info(made.name) AS columns"))
         rows << made;
     return rows;
 }

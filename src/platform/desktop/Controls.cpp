@@ -121,6 +121,10 @@ MultilineTextBox::MultilineTextBox(QWidget *parent, QAnyStringView name) : Contr
     setLineWrapMode(QPlainTextEdit::NoWrap);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    // Qt 6.4 looks for the line of the dropped text before that is laid out, and fails near the end of a long
+    // paragraph.
+    setAcceptDrops(false);
+    viewport()->setAcceptDrops(false);
 }
 
 namespace {
@@ -227,8 +231,10 @@ void TabbedDialog::turnTo(int page)
     for (QWidget *next = currentWidget()->nextInFocusChain(); next != currentWidget();
          next = next->nextInFocusChain()) {
         const bool takesFocus = (next->focusPolicy() & Qt::TabFocus) && next->isEnabled() && next->isVisible();
-        if (takesFocus && currentWidget()->isAncestorOf(next))
-            return next->setFocus(Qt::TabFocusReason);
+        if (!takesFocus || !currentWidget()->isAncestorOf(next))
+            continue;
+        next->clearFocus(); // which Qt may have given it as the page turned, and not as the keyboard does
+        return next->setFocus(Qt::TabFocusReason);
     }
 }
 

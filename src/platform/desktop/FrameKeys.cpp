@@ -55,6 +55,10 @@ FrameKeys::FrameKeys(MdiForm &frame) : QObject(&frame), m_frame(frame)
     add(Qt::SHIFT | Qt::Key_F6, [this] { goOnFrom(QApplication::focusWidget(), -1); });
     add(Qt::CTRL | Qt::Key_F6, [this] { goToChild(1); });
     add(Qt::CTRL | Qt::SHIFT | Qt::Key_F6, [this] { goToChild(-1); });
+    add(Qt::ALT | Qt::Key_Minus, [this] {
+        if (QMdiSubWindow *child = m_frame.area().activeSubWindow())
+            child->showSystemMenu();
+    });
     for (const auto key : {Qt::Key_F4, Qt::Key_W})
         add(Qt::CTRL | key, [this] { m_frame.area().closeActiveSubWindow(); });
 }

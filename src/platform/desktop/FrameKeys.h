@@ -2,7 +2,8 @@
 //
 // F6 goes from part to part: the first menu, the frame's toolbars, and the parts of the active child, which are its
 // toolbars, each tree or list that stands directly in it, and all else together. Shift with F6 goes back.
-// Ctrl with F6, with Shift too, goes to another child; Ctrl with F4 or W closes the active one.
+// Ctrl with F6, with Shift too, goes to another child; Ctrl with F4 or W closes the active one, Alt with the minus key
+// opens its menu.
 #pragma once
 
 #include <QKeySequence>

@@ -223,7 +223,13 @@ void ListView::currentChanged(const QModelIndex &current, const QModelIndex &pre
 void ListView::focusInEvent(QFocusEvent *event)
 {
     QTreeWidget::focusInEvent(event);
-    if (isByKeyboard(*event) && !SelectedItem())
+    if (isByKeyboard(*event))
+        selectALine();
+}
+
+void ListView::selectALine()
+{
+    if (!SelectedItem())
         setCurrentItem(currentItem() ? currentItem() : topLevelItem(0));
 }
 
@@ -252,8 +258,10 @@ void ListView::contextMenuEvent(QContextMenuEvent *event)
         openMenuByKey();
 }
 
+// A right click selects the line that it meets, and so does the key.
 void ListView::openMenuByKey()
 {
+    selectALine();
     Q_EMIT MouseUp(vbRightButton, menuPlace(*this, SelectedItem().get()));
 }
 

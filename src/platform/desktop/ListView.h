@@ -139,6 +139,8 @@ protected:
 
 private:
     void openMenuByKey();
+    // Unless one is selected: the one that the focus is on, or else the first.
+    void selectALine();
     // Accepts the drag as a copy. False where the list takes no drops.
     bool takes(QDropEvent &drag) const;
 

@@ -84,12 +84,7 @@ MdiForm::MdiForm(QAnyStringView className) : m_area(new Area(this))
         if (auto *form = host ? qobject_cast<Form *>(host->widget()) : nullptr)
             form->becomeActive();
     });
-    connect(qApp, &QApplication::focusChanged, this, [](QWidget *, QWidget *now) {
-        if (auto *list = qobject_cast<QAbstractItemView *>(now); list && list->currentIndex().isValid())
-            bringIntoView(*list->viewport(), list->visualRect(list->currentIndex()));
-        else if (now)
-            bringIntoView(*now, now->rect());
-    });
+    connect(qApp, &QApplication::focusChanged, this, &MdiForm::showFocus, Qt::QueuedConnection);
     new FrameKeys(*this);
     theFrame() = this;
 }
@@ -166,6 +161,15 @@ void MdiForm::bringIntoView(const QWidget &control, const QRect &part)
     const auto scroll = [](QScrollBar &bar, int way) { bar.setValue(bar.value() + way); };
     scroll(*area->horizontalScrollBar(), wayInto(place.left(), place.right(), seen.left(), seen.right()));
     scroll(*area->verticalScrollBar(), wayInto(place.top(), place.bottom(), seen.top(), seen.bottom()));
+}
+
+void MdiForm::showFocus()
+{
+    const QWidget *now = QApplication::focusWidget();
+    if (auto *list = qobject_cast<const QAbstractItemView *>(now); list && list->currentIndex().isValid())
+        bringIntoView(*list->viewport(), list->visualRect(list->currentIndex()));
+    else if (now)
+        bringIntoView(*now, now->rect());
 }
 
 void MdiForm::bringIn(QMdiSubWindow &host)

@@ -73,6 +73,8 @@ protected:
 
 private:
     void listWindows(QMenu *menu, QActionGroup *listed);
+    // Called once everything else has happened that moves the focus: a new child gets it before it has its place.
+    void showFocus();
     // What hangs over an edge of the area comes in.
     void bringIn(QMdiSubWindow &host);
 

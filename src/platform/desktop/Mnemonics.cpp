@@ -25,9 +25,10 @@ struct Bearer
     QString caption;
     QChar letter; // null while it has none
     std::function<void(QChar letter)> take;
+    bool givesWay = true; // to one that would go without; a button keeps the letter that people guess
 };
 
-constexpr QChar ampersand = u'&';
+constexpr QChar letterMark = u'&';
 
 QChar letterOf(const QKeySequence &key)
 {
@@ -60,16 +61,16 @@ qsizetype placeOf(const QString &text, QChar letter)
 QString marked(QString text, QChar letter)
 {
     const qsizetype place = letter.isNull() ? -1 : placeOf(text, letter);
-    return place < 0 ? text : text.insert(place, ampersand);
+    return place < 0 ? text : text.insert(place, letterMark);
 }
 
 // The text without the mark of its letter; doubled marks stay, for they stand for one that is shown.
 QString unmarked(QString text)
 {
     for (qsizetype place = 0; place + 1 < text.size(); ++place) {
-        if (text[place] != ampersand)
+        if (text[place] != letterMark)
             continue;
-        if (text[place + 1] != ampersand)
+        if (text[place + 1] != letterMark)
             return text.remove(place, 1);
         ++place;
     }
@@ -142,7 +143,7 @@ private:
                 continue;
             asked.insert(letter);
             Bearer *owner = m_owners.value(letter);
-            if (m_owners.contains(letter) && (!owner || !makeRoom(*owner, asked)))
+            if (m_owners.contains(letter) && (!owner || !owner->givesWay || !makeRoom(*owner, asked)))
                 continue;
             m_owners.insert(letter, &bearer);
             return true;
@@ -161,10 +162,12 @@ template <class Owner> Bearer bearerOf(Owner &owner, const QString &text, void (
 
 Bearer bearerOf(QAbstractButton &button)
 {
-    return {button.text(), letterOf(button.shortcut()), [&button](QChar letter) {
+    return {button.text(), letterOf(button.shortcut()),
+            [&button](QChar letter) {
                 button.setShortcut(keyOf(letter));
                 button.update();
-            }};
+            },
+            false};
 }
 
 Bearer bearerOf(QTabBar &bar, int tab)

@@ -112,10 +112,8 @@ private Q_SLOTS:
         desktop::CommandButton last(child, u"last", u"Exit"_s);
         last.setGeometry(800, 660, 90, 30);
         first.show();
-        first.setFocus();
         last.show();
         QVERIFY(QTest::qWaitForWindowActive(&frame));
-        QVERIFY(last.visibleRegion().isEmpty());
         last.setFocus();
         QTRY_COMPARE(last.visibleRegion().boundingRect(), last.rect());
     }

@@ -18,9 +18,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QColor lightWindow(0xef, 0xef, 0xef);
-const QColor darkWindow(0x32, 0x32, 0x32);
-
 void setLook(int points, bool dark)
 {
     QPalette light = QApplication::style()->standardPalette();
@@ -31,18 +28,14 @@ void setLook(int points, bool dark)
     QApplication::setFont(font);
 }
 
-QString described(const QWidget &widget)
-{
-    return QLatin1String(widget.metaObject()->className()) + u' ' + widget.objectName();
-}
-
 bool isCutOff(QWidget &widget)
 {
     QSize needed = widget.minimumSizeHint();
     if (auto *label = qobject_cast<QLabel *>(&widget)) {
         QHelpEvent hover(QEvent::ToolTip, {}, label->mapToGlobal(QPoint()));
         QApplication::sendEvent(label, &hover);
-        const bool maybeNarrow = label->wordWrap() || !QToolTip::text().isEmpty();
+        const QString whole = label->toolTip().isEmpty() ? label->text() : label->toolTip();
+        const bool maybeNarrow = label->wordWrap() || QToolTip::text() == whole;
         needed = QSize(maybeNarrow ? 0 : label->sizeHint().width(), label->fontMetrics().height());
     } else if (auto *button = qobject_cast<QPushButton *>(&widget)) { // its hint has more room than the text needs
         needed = button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).grownBy({3, 0, 3, 0});
@@ -62,15 +55,15 @@ QStringList faultsOfPlaces(const QWidget &window)
         if (!each->isVisible() || each->visibleRegion().isEmpty())
             continue;
         if (isCutOff(*each))
-            faults << described(*each) + u" is cut off"_s;
+            faults << each->objectName() + u" is cut off"_s;
         const QWidget *parent = each->parentWidget();
         if (!dynamic_cast<desktop::Control *>(each) || lyingOver.contains(each->objectName()))
             continue;
         if (!parent->rect().contains(each->geometry()))
-            faults << described(*each) + u" hangs over the edge"_s;
+            faults << each->objectName() + u" hangs over the edge"_s;
         for (const QWidget *other : controls) {
             if (other->parentWidget() == parent && other->geometry().intersects(each->geometry()))
-                faults << described(*each) + u" overlaps "_s + described(*other);
+                faults << each->objectName() + u" overlaps "_s + other->objectName();
         }
         controls << each;
     }
@@ -82,7 +75,7 @@ QStringList faultsOfContrast(const QWidget &widget)
     QSet<QString> faults;
     const auto compare = [&](const QColor &text, const QColor &ground) {
         if (desktop::contrast(text, ground) < desktop::readableContrast)
-            faults << described(widget) + u": "_s + text.name() + u" on "_s + ground.name();
+            faults << widget.objectName() + u": "_s + text.name() + u" on "_s + ground.name();
     };
     const QPalette colours = widget.palette();
     const std::pair<QPalette::ColorRole, QPalette::ColorRole> pairs[] = {
@@ -155,7 +148,7 @@ private Q_SLOTS:
         for (const QString &name : icons.entryList()) {
             const QString drawing = QString::fromLatin1(contentOf(icons.filePath(name)));
             for (const QRegularExpressionMatch &match : line.globalMatch(drawing)) {
-                for (const QColor &window : {lightWindow, darkWindow}) {
+                for (const QColor &window : {QColor(0xef, 0xef, 0xef), desktop::darkPalette().window().color()}) {
                     const QColor ground = name == u"logo.svg" ? window.darker(112) : window; // as the frame's area is
                     QVERIFY2(desktop::contrast(QColor(match.captured(1)), ground) >= 3, qPrintable(name));
                 }

@@ -122,6 +122,36 @@ QStringList faultsOfWalk(const QWidget &window)
     return faults + turnsBack(forth);
 }
 
+// Work begins in a box, list or tree: not on a bar, and not on what only shows something.
+QStringList faultsOfBeginning(const QWidget *focus)
+{
+    if (focus && !focus->inherits("QTabBar") && !focus->inherits("QLabel") && !focus->inherits("QToolButton"))
+        return {};
+    return {u"the focus begins at "_s + (focus ? described(focus) : u"nothing"_s)};
+}
+
+// What a screen reader meets when it goes through the window part by part; the cells of a list are its data's. A box
+// that drops down is told by its value and labelled by another part, as assistive tools expect it here.
+QStringList faultsOfReading(QAccessibleInterface *part)
+{
+    QStringList faults;
+    const bool labelled = !part->text(QAccessible::Name).isEmpty() || !part->relations(QAccessible::Label).isEmpty();
+    if (part->state().focusable && !part->state().invisible && !labelled)
+        faults << u"%1 %2 is read aloud without a name"_s.arg(part->role()).arg(part->object()->objectName());
+    if (part->tableInterface() || part->role() == QAccessible::ComboBox)
+        return faults;
+    QSet<QString> frames;
+    for (int each = 0; each < part->childCount(); ++each) {
+        QAccessibleInterface *inner = part->child(each);
+        const QString name = inner->text(QAccessible::Name);
+        if (inner->role() == QAccessible::Grouping && frames.contains(name))
+            faults << u"two frames beside each other are called "_s + name;
+        frames << name;
+        faults << faultsOfReading(inner);
+    }
+    return faults;
+}
+
 // Who can be reached by Alt and a letter: the caption, and the key that it has.
 using Keyed = std::pair<QString, QKeySequence>;
 
@@ -208,7 +238,11 @@ private Q_SLOTS:
         window->show();
         window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(window->window()));
-        QStringList faults = faultsOfWalk(*window);
+        QStringList faults;
+        if (!window->inherits("DisplayInformation")) // whose pages the station has turned
+            faults << faultsOfBeginning(QApplication::focusWidget());
+        faults << faultsOfReading(QAccessible::queryAccessibleInterface(window));
+        faults << faultsOfWalk(*window);
         faults << faultsOfLetters(*window);
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
     }
