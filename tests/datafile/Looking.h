@@ -1,4 +1,4 @@
-// What the tests of the data file look at: rows as text, bytes, and a folder of one test's own.
+// What the tests of the data file look at: a value as text, bytes, and a folder of one test's own.
 #pragma once
 
 #include "support/DataFolder.h"
@@ -6,21 +6,6 @@
 #include <QDir>
 
 namespace datafiletest {
-
-// The rows' columns joined by "|", Null as "NULL".
-inline QStringList rowsOf(const data::Database &file, const QByteArray &sql)
-{
-    QStringList rows;
-    data::Statement query = file.prepare(sql);
-    while (query.step()) {
-        QStringList cells;
-        for (int column = 0; column < query.columnCount(); ++column)
-            cells << (query.storage(column) == data::Statement::Storage::Null ? QStringLiteral("NULL")
-                                                                              : QString::fromUtf8(query.text(column)));
-        rows << cells.join(u'|');
-    }
-    return rows;
-}
 
 inline QString valueOf(const data::Database &file, const QByteArray &sql)
 {

@@ -45,7 +45,6 @@ private Q_SLOTS:
              {std::pair("DROP INDEX MeetingInfo_MemberId; ALTER TABLE MeetingInfo DROP COLUMN MeetingCatagory",
                         u"column [MeetingInfo].[MeetingCatagory] is missing"_s),
               {"DROP TABLE ReferenceInfo", u"table [ReferenceInfo] is missing"_s},
-              {"DELETE FROM NodeInformation", u"table [NodeInformation] has no rows"_s},
               {"DROP INDEX MemberInformation_LastName", u"index [MemberInformation_LastName] is missing"_s},
               {"DROP TABLE CategoryInfo; CREATE TABLE CategoryInfo (CategoryName TEXT, CategoryActive TEXT DEFAULT -1);"
                "INSERT INTO CategoryInfo VALUES ('Other', -1)",
@@ -58,9 +57,6 @@ private Q_SLOTS:
                u"column [MemberType].[MemberTypeId] is no key"_s},
               {"INSERT INTO Contributions (ContributionDate) VALUES ('5/1/2003')",
                u"row 1 of [Contributions]: \"5/1/2003\" in column [ContributionDate] is not"_s},
-              {"INSERT INTO MeetingInfo (MeetingDate) VALUES ('2003-02-30 00:00:00')",
-               u"row 1 of [MeetingInfo]: \"2003-02-30 00:00:00\""_s},
-              {"INSERT INTO Contributions (ContributionAmount) VALUES ('many')", u"row 1 of [Contributions]"_s},
               {"INSERT INTO Attachments (AttachmentsName, AttachmentVersion) VALUES ('a', 32768)",
                u"row 1 of [Attachments]: \"32768\""_s},
               {"INSERT INTO Attachments (AttachmentsName) VALUES ('../Tolmark.mdb')",
@@ -169,25 +165,14 @@ private Q_SLOTS:
         }
     }
 
-    // The record window adds a new person first by the names and then, as for every page, by the person's number.
-    void secondRowOfAPersonIsLeftOut()
-    {
-        const DataFolder folder(DataFolder::Content::Empty);
-        folder.execute("INSERT INTO [Personal Information] (PersonalInformationId, [Last Name]) VALUES (9, 'First'), "
-                       "(9, 'Second')");
-        QCOMPARE(folder.row("SELECT [Last Name] FROM [Personal Information] WHERE PersonalInformationId = 9"),
-                 u"First"_s);
-    }
-
     void prefixQueriesUseTheIndex()
     {
         const Folder folder;
         datafile::createGeneratedFile(folder.file(), {.members = 200});
         for (const auto &[query, index] :
-             {std::pair("SELECT * FROM MemberInformation WHERE LastName >= 'S' AND LastName < 'T' AND Active <> 0",
-                        u"MemberInformation_LastName"_s),
-              {"SELECT count(*) FROM MemberInformation WHERE LastName >= 'S' AND LastName < 'T' AND Active <> 0",
-               u"COVERING INDEX MemberInformation_LastName"_s},
+             {std::pair(
+                  "SELECT count(*) FROM MemberInformation WHERE LastName >= 'S' AND LastName < 'T' AND Active <> 0",
+                  u"COVERING INDEX MemberInformation_LastName"_s),
               {"SELECT * FROM Attachments WHERE AttachmentsName = 'A.txt' ORDER BY AttachmentVersion DESC",
                u"Attachments_AttachmentsName"_s},
               {"SELECT DISTINCT AttachmentExtension FROM Attachments",

@@ -86,13 +86,9 @@ private Q_SLOTS:
         data::Database c;
         a.open(folder.path(u"a.mdb"_s));
         c.open(folder.path(u"c.mdb"_s));
-        for (const char *column :
-             {"FirstName FROM MemberInformation", "MemberId FROM MemberInterest", "EventDate FROM EventInformation",
-              "MemberId FROM EventMemberInfo", "ContributionAmount FROM Contributions", "MeetingNotes FROM MeetingInfo",
-              "hex(Attachments) FROM Attachments"}) {
-            const QByteArray query = QByteArray("SELECT ") + column;
-            QVERIFY2(rowsOf(a, query) != rowsOf(c, query), column);
-        }
+        for (const char *query : {"SELECT FirstName FROM MemberInformation", "SELECT MemberId FROM MemberInterest",
+                                  "SELECT hex(Attachments) FROM Attachments"})
+            QVERIFY2(rowsOf(a, query) != rowsOf(c, query), query);
         // The same on every system: the first member of seed 7.
         QCOMPARE(valueOf(a, "SELECT FirstName, LastName, AddressOne, City FROM MemberInformation WHERE MemberId = 1"),
                  u"Jin|Brown|2935 Broadway|Raleigh"_s);
@@ -101,17 +97,15 @@ private Q_SLOTS:
     void generatedFileHasItsCounts()
     {
         const Folder folder;
-        datafile::createGeneratedFile(folder.path(u"Tolmark.mdb"_s), {.members = 3000,
-                                                                      .inactivePercent = 10,
-                                                                      .crowd = 2000,
-                                                                      .crowdInitial = 'Q',
-                                                                      .interests = 17,
-                                                                      .contributions = 16,
-                                                                      .assignedEvents = 15,
-                                                                      .notes = 14,
-                                                                      .attachments = 600,
-                                                                      .attachmentBytes = 12'345,
-                                                                      .events = 12});
+        datafile::GeneratorOptions options{
+            .members = 3000, .inactivePercent = 10, .crowd = 2000, .crowdInitial = 'Q', .interests = 17};
+        options.contributions = 16;
+        options.assignedEvents = 15;
+        options.notes = 14;
+        options.attachments = 600;
+        options.attachmentBytes = 12'345;
+        options.events = 12;
+        datafile::createGeneratedFile(folder.file(), options);
         QCOMPARE(folder.row("SELECT (SELECT count(*) FROM MemberInterest), (SELECT count(*) FROM Contributions), "
                             "(SELECT count(*) FROM EventMemberInfo), (SELECT count(*) FROM MeetingInfo), "
                             "(SELECT count(*) FROM EventInformation)"),

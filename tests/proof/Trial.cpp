@@ -85,11 +85,11 @@ void perform(const Action &action, const DataFolder &folder)
 Rows rowsOf(const data::Database &file)
 {
     Rows rows;
-    for (const QString &table : datafiletest::rowsOf(file, "SELECT name FROM sqlite_master WHERE type = 'table'"))
-        for (const QString &row : datafiletest::rowsOf(file, "SELECT rowid, * FROM \"" + table.toUtf8() + '"'))
+    for (const QString &table : ::rowsOf(file, "SELECT name FROM sqlite_master WHERE type = 'table'"))
+        for (const QString &row : ::rowsOf(file, "SELECT rowid, * FROM \"" + table.toUtf8() + '"'))
             rows << table + u": "_s + row;
     // Column by column: a table is made without one whose making failed in silence.
-    for (const QString &made : datafiletest::rowsOf(
+    for (const QString &made : ::rowsOf(
              file,
              "SELECT made.type, made.name, columns.name, columns.type, columns.\"notnull\" FROM sqlite_master AS made "
              "LEFT JOIN pragma_table_info(made.name) AS columns"))
@@ -234,7 +234,7 @@ QStringList Expectation::faultsOfFile(const QString &path, const QList<Ending::T
     try {
         data::Database file;
         file.open(path);
-        const QStringList check = datafiletest::rowsOf(file, "PRAGMA integrity_check");
+        const QStringList check = ::rowsOf(file, "PRAGMA integrity_check");
         if (check != QStringList(u"ok"_s))
             return {u"integrity_check: "_s + check.join(u", "_s)};
         rows = rowsOf(file);

@@ -8,21 +8,24 @@
 #include "platform/data/Connection.h"
 #include "platform/data/Recordset.h"
 #include "platform/runtime/Conversion.h"
-#include "platform/runtime/RuntimeError.h"
+#include "support/Outcome.h"
 
 #include <QFile>
 #include <QStringList>
 #include <QTemporaryDir>
 
-// "<number> <description>" of the error that the call raises; empty when it raises none.
-template <class Call> QString errorOf(Call &&call)
+// The rows of a query in SQLite's own SQL, the columns of each joined by "|", Null as "NULL".
+inline QStringList rowsOf(const data::Database &database, const QByteArray &sql)
 {
-    try {
-        call();
-    } catch (const runtime::RuntimeError &error) {
-        return QString::number(error.number()) + QLatin1Char(' ') + error.description();
+    QStringList rows;
+    for (data::Statement query = database.prepare(sql); query.step();) {
+        QStringList cells;
+        for (int column = 0; column < query.columnCount(); ++column)
+            cells << (query.storage(column) == data::Statement::Storage::Null ? QStringLiteral("NULL")
+                                                                              : QString::fromUtf8(query.text(column)));
+        rows << cells.join(QLatin1Char('|'));
     }
-    return {};
+    return rows;
 }
 
 inline QByteArray contentOf(const QString &path)
@@ -67,21 +70,11 @@ public:
         database.open(file());
         database.execute(sql);
     }
-    // The rows of a query in SQLite's own SQL, the columns of each joined by "|", Null as "NULL".
     QStringList rows(const QByteArray &sql) const
     {
         data::Database database;
         database.open(file());
-        QStringList rows;
-        for (data::Statement query = database.prepare(sql); query.step();) {
-            QStringList cells;
-            for (int column = 0; column < query.columnCount(); ++column)
-                cells << (query.storage(column) == data::Statement::Storage::Null
-                              ? QStringLiteral("NULL")
-                              : QString::fromUtf8(query.text(column)));
-            rows << cells.join(QLatin1Char('|'));
-        }
-        return rows;
+        return rowsOf(database, sql);
     }
     QString row(const QByteArray &sql) const { return rows(sql).value(0); }
 

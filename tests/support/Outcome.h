@@ -41,3 +41,14 @@ template <class Call> int errorNumberOf(Call &&call)
         return error.number();
     }
 }
+
+// "<number> <description>" of the error that the call raises; empty when it raises none.
+template <class Call> QString errorOf(Call &&call)
+{
+    try {
+        call();
+    } catch (const runtime::RuntimeError &error) {
+        return QString::number(error.number()) + QLatin1Char(' ') + error.description();
+    }
+    return {};
+}

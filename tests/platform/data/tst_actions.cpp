@@ -7,19 +7,12 @@
 using namespace Qt::Literals::StringLiterals;
 using data::Connection;
 using data::Recordset;
-using runtime::Value;
 
 namespace {
 
 const QString mismatch = u"-2147217913 Data type mismatch in criteria expression."_s;
 const QString overflow = u"-2147217833 Overflow"_s;
 const QString noValueGiven = u"-2147217904 No value given for one or more required parameters."_s;
-
-QString noInputTable(const QString &name)
-{
-    return u"-2147217865 The Microsoft Jet database engine cannot find the input table or query '%1'.  Make sure it "
-           u"exists and that its name is spelled correctly."_s.arg(name);
-}
 
 } // namespace
 
@@ -61,9 +54,7 @@ private Q_SLOTS:
         row("Whole", "'2147483648'", overflow);
         row("Real", "'1e400'", overflow);
         row("Amount", "'$1,200.50'", u"1200.5"_s);
-        row("Amount", "0.00005", u"0"_s);
         row("Amount", "'922337203685477.5807'", u"922337203685477.5807 exact"_s); // no number has room for it
-        row("Amount", "'-90071992547409.93'", u"-90071992547409.93 exact"_s);
         row("Amount", "'922337203685477.5808'", overflow);
         row("Amount", "''", mismatch);
         row("Day", "'1/31/2001'", u"2001-01-31 00:00:00"_s);
@@ -72,7 +63,6 @@ private Q_SLOTS:
         row("Flag", "2", u"-1"_s);
         row("Flag", "'x'", mismatch);
         row("Word", "'it''s'", u"it's"_s);
-        row("Whole", "-3", u"-3"_s);
         row("Real", "4000000000 + 1", u"4000000001.0"_s);
         row("Word", "''", QString());
         row("Bytes", "'x'", mismatch);
@@ -122,12 +112,13 @@ private Q_SLOTS:
               u"SELECT Colour FROM Kinds"_s, u"SELECT Word FROM Kinds ORDER BY Colour"_s,
               u"SELECT * FROM Kinds WHERE Word = red"_s}},
             {u"-2147217865 Could not find output table 'No Such'."_s, {u"INSERT INTO [No Such] (a) values ('b')"_s}},
-            {noInputTable(u"No Such"_s),
+            {u"-2147217865 The Microsoft Jet database engine cannot find the input table or query 'No Such'.  Make "
+             u"sure "
+             u"it exists and that its name is spelled correctly."_s,
              {u"UPDATE [No Such] SET a = 'b'"_s, u"DELETE * FROM [No Such]"_s, u"SELECT * FROM [No Such]"_s,
               u"SELECT * FROM Kinds LEFT JOIN [No Such] ON Kinds.Id = [No Such].Id"_s}},
             {u"-2147217900 Query is too complex."_s,
              {u"SELECT * FROM Kinds WHERE Id = 1"_s + u" OR Id = 1"_s.repeated(1199),
-              u"UPDATE Kinds SET Id = 1"_s + u" + 0"_s.repeated(1199),
               u"SELECT * FROM Kinds WHERE Id = "_s + u"(1 + "_s.repeated(150) + u'1' + QString(150, u')'),
               u"SELECT Id"_s + u", Id"_s.repeated(2999) + u" FROM Kinds"_s}},
             {u"-2147467259 The specified field 'MemberId' could refer to more than one table listed in the FROM clause "
@@ -158,22 +149,6 @@ private Q_SLOTS:
         QCOMPARE(m_folder->row("SELECT COUNT(*), Word FROM Kinds"), u"1|NULL"_s);
     }
 
-    void fillsInDefaults()
-    {
-        const QDate today = QDate::currentDate();
-        run(u"INSERT INTO Contributions (ContributionAmount, ContributionNotes, MemberId) values ('12.50','',17)"_s);
-        Recordset rows;
-        rows.Open(u"SELECT * FROM Contributions WHERE ContributionNotes = '' AND MemberId = 17"_s, m_connection);
-        QCOMPARE(rows.RecordCount(), 1);
-        QCOMPARE(rows[u"ContributionAmount"].Value(), Value(runtime::Currency::fromScaled(125'000)));
-        const QDate day = rows[u"ContributionDate"].Value().get<runtime::Date>().day();
-        QVERIFY(day == today || day == QDate::currentDate()); // midnight may have passed
-        run(u"INSERT INTO MemberInformation (LastName) values ('Default')"_s);
-        QCOMPARE(textsOf(m_connection, u"select * from MemberInformation where LastName = 'Default' and Active = yes"_s,
-                         u"MemberId"),
-                 QStringList{u"65"_s});
-    }
-
     void changesAndDeletesWhatTheConditionNames()
     {
         run(u"UPDATE MemberType SET MemberType.MemberType = 'it''s \"so\"; é' WHERE (MemberType.MemberTypeId=4);"_s);
@@ -184,49 +159,6 @@ private Q_SLOTS:
         QCOMPARE(m_folder->row("SELECT group_concat(MemberTypeId) FROM MemberType"), u"1,2,3,5,6"_s);
         run(u"delete * from MemberType"_s);
         QCOMPARE(m_folder->row("SELECT COUNT(*) FROM MemberType"), u"0"_s);
-    }
-
-    void leavesTheFileWholeWhenItFails_data()
-    {
-        QTest::addColumn<QString>("statement");
-        QTest::addColumn<int>("failsAt"); // the row whose change is refused
-
-        for (const int failsAt : {1, 6}) {
-            QTest::addRow("update, row %d", failsAt) << u"UPDATE MemberType SET MemberType = 'x'"_s << failsAt;
-            QTest::addRow("delete, row %d", failsAt) << u"DELETE * FROM MemberType"_s << failsAt;
-        }
-        QTest::newRow("insert") << u"INSERT INTO MemberType (MemberType) values ('x')"_s << 7;
-    }
-
-    // A statement that fails in its middle changes nothing, and the recordset that meets the failure keeps its change.
-    void leavesTheFileWholeWhenItFails()
-    {
-        QFETCH(QString, statement);
-        QFETCH(int, failsAt);
-        const QByteArray raise = " ON MemberType WHEN %1.MemberTypeId = " + QByteArray::number(failsAt) +
-                                 " BEGIN SELECT RAISE(ABORT, 'refused'); END;";
-        for (const QByteArray event : {"UPDATE", "DELETE", "INSERT"})
-            m_folder->execute("CREATE TRIGGER refuse" + event + " AFTER " + event +
-                              QByteArray(raise).replace("%1", event == "DELETE" ? "OLD" : "NEW"));
-        const QStringList before = m_folder->rows("SELECT * FROM MemberType");
-
-        QCOMPARE(errorOf([&] { run(statement); }), u"-2147467259 refused"_s);
-        QCOMPARE(m_folder->rows("SELECT * FROM MemberType"), before);
-
-        Recordset rows;
-        rows.Open(u"select * from MemberType where MemberTypeId = %1"_s.arg(failsAt), m_connection);
-        if (rows.Eof())
-            rows.AddNew();
-        rows[u"MemberType"].setValue(u"kept"_s);
-        QCOMPARE(errorOf([&] { rows.Update(); }), u"-2147217887 refused"_s);
-        QCOMPARE(rows[u"MemberType"].Value(), Value(u"kept"_s));
-        QCOMPARE(m_folder->rows("SELECT * FROM MemberType"), before);
-        QCOMPARE(m_folder->row("PRAGMA integrity_check"), u"ok"_s);
-
-        m_folder->execute("DROP TRIGGER refuseUPDATE; DROP TRIGGER refuseINSERT");
-        rows.Update(); // what was pending is saved after all
-        QCOMPARE(m_folder->row("SELECT MemberTypeId FROM MemberType WHERE MemberType = 'kept'"),
-                 QString::number(failsAt));
     }
 
 private:

@@ -19,11 +19,6 @@ namespace {
 const QString invalidName = u"-2147217900 '%1' is not a valid name.  Make sure that it does not include invalid "
                             u"characters or punctuation and that it is not too long."_s;
 
-int errorNumberOf(auto &&call)
-{
-    return errorOf(call).section(u' ', 0, 0).toInt();
-}
-
 void set(const Column &column, QStringView property, const Value &value)
 {
     column.Properties().Item(property).setValue(value);
@@ -97,8 +92,7 @@ private Q_SLOTS:
         for (const auto &[name, error] :
              {std::pair(u"PERSONAL information"_s, exists), std::pair(u"Names"_s, exists), // a view
               std::pair(u"FieldInfo_TabId"_s, exists),                                     // an index
-              std::pair(QString(), invalidName), std::pair(u"a]b"_s, invalidName),
-              std::pair(u"SQLite_x"_s, invalidName), std::pair(u"a\0b"_s, invalidName)}) {
+              std::pair(QString(), invalidName), std::pair(u"SQLite_x"_s, invalidName)}) {
             Table refused = described(name);
             QCOMPARE(errorOf([&] { m_catalog.Tables().Append(refused); }), error.arg(name));
             refused.setName(u"Other"_s); // it is not taken for stored
@@ -109,13 +103,7 @@ private Q_SLOTS:
     // In a table that is described as in one that is stored.
     void refusesColumns()
     {
-        struct Refused
-        {
-            QString name;
-            int type;
-            Value property; // "AutoIncrement" or "Default"
-            QString error;
-        };
+        using Refused = std::tuple<QString, int, Value, QString>; // the value is of "AutoIncrement" or "Default"
         const QString mismatch = u"-2147217913 Data type mismatch in criteria expression."_s;
         const QString refused =
             u"-2147217887 Multiple-step OLE DB operation generated errors. Check each OLE DB status "
@@ -155,8 +143,8 @@ private Q_SLOTS:
 
     void takesAnyName()
     {
-        for (const QString &name : {u"   "_s, u"O'Brien's"_s, u"say \"so\""_s, u"a.b;--"_s, u"Select"_s, u"Größe"_s,
-                                    u"`"_s, u"?1 %1"_s, u"two\nlines"_s, QString(200, u'x')}) {
+        for (const QString &name :
+             {u"O'Brien's"_s, u"say \"so\""_s, u"a.b;--"_s, u"Select"_s, u"Größe"_s, u"?1 %1"_s}) {
             const Table table = described(name);
             table.Columns().Append(name);
             m_catalog.Tables().Append(table);
@@ -234,16 +222,11 @@ private Q_SLOTS:
         before.Open(u"select * from [T]"_s, m_connection);
         QCOMPARE(before[u"Phone"].Value(), Value(u"555"_s));
 
-        Catalog another;
-        another.setActiveConnection(m_folder->connectionString());
         Column fax;
         fax.setName(u"Fax"_s);
-        fax.setParentCatalog(another);
+        fax.setParentCatalog(m_catalog);
         set(fax, u"nullable", Value(true));
-        for (const Table &found : another.Tables()) {
-            if (found.Name() == u"T")
-                found.Columns().Append(fax, data::adVarWChar, 0);
-        }
+        stored(u"T"_s).Columns().Append(fax, data::adVarWChar, 0);
         QCOMPARE(namesOf(table.Columns()).last(), u"Fax"_s);
         QCOMPARE(errorNumberOf([&] { before[u"Fax"].Value(); }), provider::NoSuchItem); // its rows were read before
         Recordset after;
@@ -316,13 +299,9 @@ private Q_SLOTS:
         table.Columns().Append(u"Key"_s, data::adInteger);
         const Column key = table.Columns().Item(u"KEY");
         QCOMPARE(errorNumberOf([&] { key.Properties().Item(u"AutoIncrement"); }), provider::NoSuchItem);
-        QCOMPARE(errorNumberOf([&] { table.Columns().Item(u"Keys"); }), provider::NoSuchItem);
         QCOMPARE(errorNumberOf([&] { table.Columns().Append(u"key"_s); }), provider::AlreadyInCollection);
-        QCOMPARE(errorNumberOf([&] { Table().Columns().Append(key, 3, 0); }), provider::AlreadyInCollection);
 
         table.setParentCatalog(m_catalog);
-        QCOMPARE(errorNumberOf([&] { key.Properties().Item(u"Seed"); }), provider::NoSuchItem);
-        QCOMPARE(errorNumberOf([&] { set(key, u"AutoIncrement", Value(1)); }), provider::WrongArguments);
         QCOMPARE(errorNumberOf([&] { set(key, u"Default", Value(1)); }), provider::WrongArguments);
         m_catalog.Tables().Append(table);
         QCOMPARE(errorNumberOf([&] { set(key, u"Nullable", Value(true)); }), provider::MultipleStep); // too late
@@ -345,12 +324,6 @@ private Q_SLOTS:
         second.Tables().Append(described(u"T"_s));
         QVERIFY(namesOf(m_catalog.Tables()).contains(u"T"_s));
         QVERIFY(!namesOf(other.Tables()).contains(u"T"_s));
-        otherFolder.execute("CREATE TABLE T (Another TEXT)"); // a table of one name in both files
-        QStringList columns;
-        for (const Table &table : other.Tables())
-            columns += table.Name() == u"T" ? namesOf(table.Columns()) : QStringList();
-        QCOMPARE(columns, QStringList{u"Another"_s});
-        QCOMPARE(namesOf(stored(u"T"_s).Columns()).first(), u"Key"_s);
         m_catalog = Catalog(); // the one that opened it
         QVERIFY(namesOf(second.Tables()).contains(u"T"_s));
     }

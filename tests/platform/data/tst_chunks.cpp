@@ -80,7 +80,6 @@ private Q_SLOTS:
         QCOMPARE(content.GetChunk(4), bytes("4567"));
         QCOMPARE(content.GetChunk(4), bytes("89"));
         QVERIFY(content.GetChunk(4).isNull());
-        QVERIFY(content.GetChunk(4).isNull());
         rows.MoveNext(); // another row, another series
         QCOMPARE(content.GetChunk(2), bytes("ab"));
         rows.MoveFirst();
@@ -88,7 +87,6 @@ private Q_SLOTS:
         rows.MoveLast();
         rows.MoveNext();
         QVERIFY(errorOf([&] { content.GetChunk(1); }).startsWith(u"3021 "));
-        QVERIFY(errorOf([&] { content.AppendChunk("x"); }).startsWith(u"3021 "));
     }
 
     void endsASeriesAtAnotherField()
@@ -130,10 +128,6 @@ private Q_SLOTS:
         QCOMPARE(rows[u"Attachments"].GetChunk(4), bytes("pend"));
         rows[u"Attachments"].setValue(Value());
         QVERIFY(rows[u"Attachments"].GetChunk(4).isNull());
-        QCOMPARE(rows[u"Attachments"].ActualSize(), 0);
-        rows.CancelUpdate();
-        rows.AddNew();
-        QVERIFY(rows[u"Attachments"].GetChunk(4).isNull());
         rows.CancelUpdate();
     }
 
@@ -152,8 +146,6 @@ private Q_SLOTS:
         QCOMPARE(m_folder->rows("SELECT typeof(Attachments), length(Attachments) FROM Attachments"),
                  (QStringList{u"blob|0"_s, u"null|NULL"_s}));
 
-        QCOMPARE(errorOf([&] { rows[u"Attachments"].setValue(u"text"_s); }),
-                 u"-2147217887 Multiple-step operation generated errors. Check each status value."_s);
         const QString notInContext = u"3219 Operation is not allowed in this context."_s;
         QCOMPARE(errorOf([&] { rows[u"AttachmentsName"].AppendChunk("x"); }), notInContext);
         QCOMPARE(errorOf([&] { rows[u"AttachmentsName"].GetChunk(1); }), notInContext);

@@ -29,33 +29,18 @@ private Q_SLOTS:
     {
         const QList<std::pair<QString, QString>> choices{
             {u"N LIKE '12%'"_s, u"2 3"_s}, // a range of texts holds no number
-            {u"R LIKE '12%'"_s, u"2"_s},
-            {u"R LIKE '%2'"_s, u"2"_s}, // 12, not 12.0
+            {u"R LIKE '%2'"_s, u"2"_s},    // 12, not 12.0
             {u"D LIKE '2001%'"_s, u"1 2 5"_s},
             {u"N + 0 LIKE '12%'"_s, u"2 3"_s},
             {u"W LIKE 'x@%'"_s, u"3"_s},
-            {u"W NOT LIKE 's%'"_s, u"3 5"_s},
             {u"W LIKE W"_s, u"1 2 3 5"_s},
-            {u"W LIKE '%'"_s, u"1 2 3 5"_s},
             {u"NOT (W LIKE '%')"_s, u""_s},
-            {u"F = Yes"_s, u"1 3"_s}, // 1 is what another tool writes
-            {u"Yes <> F"_s, u"2 5"_s},
-            {u"W IS NOT NULL AND N <> 0"_s, u"1 2 3"_s},
-            {u"N = 1 OR N = 12 AND NOT R = 12"_s, u"1"_s},
-            {u"N / 5 = 2.4"_s, u"2"_s},
-            {u"N \\ 5 = 2"_s, u"2"_s},
-            {u"N Mod 5 = 2"_s, u"2"_s},
+            {u"Yes <> F"_s, u"2 5"_s}, // 1 is Yes too, as another tool writes it
             {u"R \\ 1 = 2"_s, u"1"_s}, // rounds first
-            {u"R + 1 * 2 = 3.5"_s, u"1"_s},
-            {u"N = --12"_s, u"2"_s},
             {u"W & N = 'SMITH1'"_s, u"1"_s},
             {u"W & Null = ''"_s, u"4 5"_s},
             {u"W + 'x' = 'smithx'"_s, u"1"_s},
-            {u"W = \"sm\" & 'ith'"_s, u"1"_s},
-            {u"D = #1/31/2001 5:07 PM#"_s, u"1"_s},
             {u"D = #31/1/99 5:07 PM#"_s, u"3"_s}, // there is no 31st month
-            {u"N BETWEEN 12 AND 1"_s, u"1 2"_s},
-            {u"N NOT BETWEEN 1 AND 12"_s, u"3 5"_s},
             {u"W BETWEEN 'T' AND 'S'"_s, u"1 2"_s},
             {u"N NOT IN (1, 12, 120)"_s, u"5"_s},
             {u"W IN ('SMITH', '\u00c9')"_s, u"1"_s},
@@ -63,7 +48,6 @@ private Q_SLOTS:
             {u"W IN ('SMI' & 'TH')"_s, u"1"_s},
             {u"W & '' BETWEEN 'SMITH' & '' AND 'X'"_s, u"1 2"_s},
             {u"W + '' = ('SMITH' & '') + ''"_s, u"1"_s},
-            {u"W > 'SMITH'"_s, u"2 3"_s},
             {u"[T]![N] = 1"_s, u"1"_s},
         };
         for (const auto &[condition, rows] : choices) {
@@ -78,15 +62,10 @@ private Q_SLOTS:
         const auto arranged = [this](const QString &statement) {
             return textsOf(m_connection, statement, u"X").join(u' ');
         };
-        QCOMPARE(arranged(u"SELECT TOP 2 Id AS X FROM T ORDER BY N DESC"_s), u"3 2"_s);
         QCOMPARE(arranged(u"SELECT Id AS N, Id AS X FROM T ORDER BY N"_s), u"4 5 1 2 3"_s); // the column, not the alias
         QCOMPARE(arranged(u"SELECT y.Id AS X FROM T y WHERE y.N = 12"_s), u"2"_s);
         QCOMPARE(arranged(u"SELECT Count(*) AS X FROM T GROUP BY F HAVING Count(*) > 1"_s), u"2"_s);
-        QCOMPARE(arranged(u"SELECT Count(*), Sum(N), Max(N) AS X FROM T"_s), u"120"_s);
         QCOMPARE(arranged(u"SELECT a.Id AS X FROM T AS a, T AS b WHERE a.N = b.R ORDER BY a.Id"_s), u"2 5"_s);
-        QCOMPARE(
-            arranged(u"SELECT b.Id AS X FROM T AS a RIGHT JOIN T AS b ON a.N = b.R WHERE a.Id Is Null ORDER BY b.Id"_s),
-            u"1 3 4"_s);
         const QString nested = u"SELECT c.Id AS X FROM T AS a LEFT JOIN (T AS b LEFT JOIN T AS c ON %1) ON %2 "
                                u"ORDER BY a.Id"_s;
         QCOMPARE(arranged(nested.arg(u"b.R = c.R"_s, u"a.N = b.R"_s)), u" 2   5"_s);

@@ -44,21 +44,6 @@ private Q_SLOTS:
         m_folder.reset();
     }
 
-    void standsOnNothing()
-    {
-        Recordset rows = opened(u"select * from MemberInformation where MemberId = 0"_s);
-        QCOMPARE(rows.RecordCount(), 0);
-        QVERIFY(rows.Eof());
-        QCOMPARE(errorOf([&] { rows.MoveNext(); }), noCurrentRecord);
-        QCOMPARE(errorOf([&] { rows.MoveFirst(); }), noCurrentRecord);
-        QCOMPARE(errorOf([&] { rows.MoveLast(); }), noCurrentRecord);
-        QCOMPARE(errorOf([&] { rows[u"LastName"].Value(); }), noCurrentRecord);
-        QCOMPARE(errorOf([&] { rows[u"LastName"].setValue(u"x"_s); }), noCurrentRecord);
-        QCOMPARE(errorOf([&] { rows.Delete(); }), noCurrentRecord);
-        rows.Update(); // nothing is pending
-        rows.Close();
-    }
-
     void closesItsFields()
     {
         const QString closed = u"3704 Operation is not allowed when the object is closed."_s;
@@ -294,6 +279,11 @@ private Q_SLOTS:
         rows.Delete();
         QCOMPARE(errorOf([&] { rows.MoveFirst(); }), noCurrentRecord);
         QCOMPARE(rows.RecordCount(), 0);
+
+        Recordset none = opened(u"select * from MemberType"_s);
+        QVERIFY(none.Eof());
+        QCOMPARE(errorOf([&] { none.MoveLast(); }), noCurrentRecord);
+        QCOMPARE(errorOf([&] { none[u"MemberType"].setValue(u"x"_s); }), noCurrentRecord);
     }
 
     void deletesTheRowJustAdded()
@@ -341,15 +331,12 @@ private Q_SLOTS:
     void refusesToWrite()
     {
         using Source = std::pair<QString, data::LockTypeEnum>;
-        for (
-            const auto &[statement, lock] :
-            {Source(
-                 u"SELECT FieldInfo.*, TabInfo.TabNam FROM FieldInfo INNER JOIN TabInfo ON FieldInfo.TabId = TabInfo.TabId"_s,
-                 data::adLockOptimistic),
-             Source(u"SELECT distinct LastName FROM MemberInformation"_s, data::adLockOptimistic),
-             Source(u"SELECT LastName, Count(*) FROM MemberInformation GROUP BY LastName"_s, data::adLockOptimistic),
-             Source(u"SELECT MemberId + 1 AS following, LastName FROM MemberInformation"_s, data::adLockOptimistic),
-             Source(u"select * from MemberType"_s, data::adLockReadOnly)}) {
+        for (const auto &[statement, lock] :
+             {Source(u"SELECT f.*, TabNam FROM FieldInfo AS f INNER JOIN TabInfo AS t ON f.TabId = t.TabId"_s,
+                     data::adLockOptimistic),
+              Source(u"SELECT distinct LastName FROM MemberInformation"_s, data::adLockOptimistic),
+              Source(u"SELECT LastName, Count(*) FROM MemberInformation GROUP BY LastName"_s, data::adLockOptimistic),
+              Source(u"select * from MemberType"_s, data::adLockReadOnly)}) {
             Recordset rows = opened(statement, lock);
             QVERIFY(rows.RecordCount() > 0);
             QCOMPARE(errorOf([&] { rows.AddNew(); }), notUpdatable);
@@ -402,6 +389,9 @@ private Q_SLOTS:
         QVERIFY(errorOf([&] { rows.MoveNext(); }).startsWith(u"-2147217887 ")); // nor does it move away
         rows[u"Id"].setValue(Value(qint32(2)));
         rows.Update();
+        rows[u"Name"].setValue(Value()); // an edit is kept as an added row is
+        QVERIFY(errorOf([&] { rows.Update(); }).contains(u"cannot contain a Null value"));
+        QVERIFY(rows[u"Name"].Value().isNull());
         QCOMPARE(m_folder->rows("SELECT * FROM Strict"), (QStringList{u"1|first"_s, u"2|second"_s}));
     }
 

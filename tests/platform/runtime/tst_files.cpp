@@ -1,6 +1,5 @@
 #include "platform/runtime/Application.h"
 #include "platform/runtime/Files.h"
-#include "platform/runtime/TextFile.h"
 #include "support/Outcome.h"
 
 #include <QDir>
@@ -122,25 +121,6 @@ private Q_SLOTS:
         QCOMPARE(made(u"/Temp/notes"_s), 75); // a file
         QVERIFY(!runtime::folderExists(inFolder(u"/Temp/notes"_s)));
         QCOMPARE(made(u"/none/New"_s), 76);
-    }
-
-    void readsLines()
-    {
-        const auto lines = [this](const QByteArray &bytes) {
-            QFile file(inFolder(u"/Temp/notes"_s));
-            return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush()
-                       ? runtime::textLines(file.fileName())
-                       : QStringList{u"not written"_s};
-        };
-        QCOMPARE(lines(""), QStringList());
-        QCOMPARE(lines("one"), QStringList{u"one"_s});
-        QCOMPARE(lines("one\r\n"), QStringList{u"one"_s});
-        QCOMPARE(lines("a\r\nb\nc\r\r\nd"), (QStringList{u"a"_s, u"b"_s, u"c"_s, QString(), u"d"_s}));
-        QCOMPARE(lines("\n"), QStringList{QString()});
-        QCOMPARE(lines("\xef\xbb\xbfM\xc3\xbcller"), QStringList{u"Müller"_s}); // UTF-8 with its mark
-        QCOMPARE(lines("M\xfcller \x80"), QStringList{u"Müller €"_s});          // the code page
-        QCOMPARE(lines("caf\xc3"), QStringList{u"cafÃ"_s});                     // cut like UTF-8
-        QCOMPARE(outcomeOf([&] { return runtime::textLines(inFolder(u"/Temp/none"_s)).join(u'|'); }), u"error 53"_s);
     }
 
 private:

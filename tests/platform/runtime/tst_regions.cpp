@@ -106,6 +106,11 @@ private Q_SLOTS:
               std::tuple(u"da_DK"_s, u"1.12.01 9.05"_s, u"2001-12-01 09:05:00"_s),
               std::tuple(u"ar_EG"_s, u"36922.25"_s, u"2001-01-31 06:00:00"_s),
               std::tuple(u"fr_CA"_s, u"22:5"_s, u"1899-12-30 22:05:00"_s), // as elsewhere
+              std::tuple(u"en_GB"_s, u"2/3/2001"_s, u"2001-03-02 00:00:00"_s),
+              std::tuple(u"en_GB"_s, u"1/31/2001"_s, u"2001-01-31 00:00:00"_s), // there is no month 31
+              std::tuple(u"en_GB"_s, u"2001-02-03"_s, u"2001-02-03 00:00:00"_s),
+              std::tuple(u"de_DE"_s, u"5. Dez. 2001"_s, u"2001-12-05 00:00:00"_s),
+              std::tuple(u"de_DE"_s, u"5 March 2001"_s, u"2001-03-05 00:00:00"_s),
               std::tuple(u"ko_KR"_s, u"5 pm"_s, u"1899-12-30 17:00:00"_s)}) {
             QLocale::setDefault(QLocale(region));
             QCOMPARE(outcomeOf([&written = text] { return runtime::toDate(Value(written)).toIsoText(); }), moment);

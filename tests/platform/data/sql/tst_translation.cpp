@@ -1,5 +1,5 @@
 #include "platform/data/sql/Translation.h"
-#include "platform/runtime/RuntimeError.h"
+#include "support/Outcome.h"
 
 #include <QTest>
 
@@ -7,21 +7,6 @@
 #include <vector>
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-// "<number> <text>" of the error that the statement raises; empty when it raises none.
-QString errorOf(const QString &statement)
-{
-    try {
-        sql::translate(statement);
-    } catch (const runtime::RuntimeError &error) {
-        return QString::number(error.number()) + u' ' + error.description();
-    }
-    return {};
-}
-
-} // namespace
 
 class TranslationTest : public QObject
 {
@@ -41,7 +26,7 @@ private Q_SLOTS:
              {u"SELECT a b FROM T"_s, u"SELECT a FROM T ORDER BY a b"_s}},
             {u"Syntax error in FROM clause."_s,
              {u"SELECT a FROM"_s, u"SELECT a FROM Order"_s, u"SELECT a FROM A JOIN B ON A.x = B.x"_s,
-              u"SELECT a FROM A INNER B"_s, u"SELECT a FROM T LIMIT 1, x y"_s}},
+              u"SELECT a FROM A INNER B"_s}},
             {u"Invalid bracketing of name '[T'."_s, {u"SELECT a FROM [T"_s}},
             {u"Invalid bracketing of name '[T\0]'."_s, {u"SELECT a FROM [T\0]"_s}},
             {u"Syntax error in string in query expression 'a = 'x\0y''."_s, {u"SELECT a FROM T WHERE a = 'x\0y'"_s}},
@@ -54,7 +39,6 @@ private Q_SLOTS:
             {u"Syntax error in date in query expression 'a = #x'."_s, {u"SELECT a FROM T WHERE a = #x"_s}},
             {u"Syntax error (missing operator) in query expression 'a NOT = 1'."_s,
              {u"SELECT a FROM T WHERE a NOT = 1"_s}},
-            {u"Syntax error (missing operator) in query expression 'a = ?'."_s, {u"SELECT a FROM T WHERE a = ?"_s}},
             {u"Cannot have aggregate function in WHERE clause (Max(a) = 1)."_s,
              {u"SELECT a FROM T WHERE Max(a) = 1"_s}},
             {u"Wrong number of arguments used with function in query expression 'Max(a, b)'."_s,
@@ -78,7 +62,8 @@ private Q_SLOTS:
             {u"Specify the table containing the records you want to delete."_s, {u"DELETE * FROM A, B"_s}}};
         for (const auto &[description, statements] : refusals) {
             for (const QString &statement : statements)
-                QCOMPARE(statement + u": "_s + errorOf(statement), statement + u": -2147217900 "_s + description);
+                QCOMPARE(statement + u": "_s + errorOf([&] { sql::translate(statement); }),
+                         statement + u": -2147217900 "_s + description);
         }
     }
 
