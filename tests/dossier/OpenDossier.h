@@ -2,9 +2,8 @@
 #pragma once
 
 #include "dossier/DisplayMembers.h"
-#include "support/DataStoreFolder.h"
-#include "support/Dialogs.h"
 #include "support/Lines.h"
+#include "support/StoreTest.h"
 
 class OpenDossier
 {
@@ -28,8 +27,6 @@ public:
     // Chooses an item of a pop-up, as a click on it does.
     void choose(const char *item) { child<QAction>(m_window, item)->trigger(); }
     void turnTo(QWidget *tab) { m_window.SSTab1->setCurrentWidget(tab->parentWidget()); }
-
-    CaughtErrors errors;
 
 private:
     DisplayMembers m_window;

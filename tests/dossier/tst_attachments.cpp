@@ -7,15 +7,16 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-class tst_Attachments : public QObject
+class tst_Attachments : public StoreTest
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        m_folder.emplace(DataStoreFolder::Content::Empty);
-        m_folder->execute("INSERT INTO MemberInformation (MemberId, LastName) VALUES (1, 'Cole'), (2, 'Dean')");
+        open(DataFolder::Content::Empty,
+             "INSERT INTO MemberInformation (MemberId, LastName) VALUES (1, 'Cole'), (2, 'Dean')");
     }
+    void cleanup() { close(); }
 
     void versionsCountByNameOverAllMembers()
     {
@@ -42,7 +43,7 @@ private Q_SLOTS:
                           "AttachmentVersion = 2147483647 WHERE MemberId = 2 AND AttachmentsName = 'b.txt'");
         for (const int error : {-2147217900, 6, 6}) {
             tab.butAddAttachement->click();
-            QCOMPARE(dossier.errors.takeNumber(), error);
+            QCOMPARE(m_errors->takeNumber(), error);
         }
         QCOMPARE(m_folder->row("SELECT count(*) FROM Attachments"), u"5"_s);
         QCOMPARE(m_folder->row("PRAGMA integrity_check"), u"ok"_s);
@@ -134,9 +135,9 @@ private Q_SLOTS:
         BoxAnswers none;
         OpenDossier dossier;
         AttachmentsTab &tab = *dossier->Frame4;
-        const auto viewed = [&dossier] {
+        const auto viewed = [&] {
             dossier.choose("MnuView");
-            return dossier.errors.takeNumber();
+            return m_errors->takeNumber();
         };
         tab.lstAttachement->setCurrentItem(nullptr);
         dossier.choose("MnuSaveAs");
@@ -168,7 +169,7 @@ private Q_SLOTS:
         for (const int line : {1, 2, 3}) {
             select(*dossier->Frame4->lstAttachement, line);
             dossier.choose("MnuView");
-            QCOMPARE(dossier.errors.takeNumber(), 75);
+            QCOMPARE(m_errors->takeNumber(), 75);
             if (line > 1)
                 dossier.choose("MnuSaveAs"); // no dialog suggests the name
         }
@@ -244,8 +245,6 @@ private:
         QVERIFY(event.isAccepted());
         QCOMPARE(event.dropAction(), Qt::CopyAction); // what is dropped stays where it came from
     }
-
-    std::optional<DataStoreFolder> m_folder;
 };
 
 QTEST_MAIN(tst_Attachments)

@@ -19,15 +19,12 @@ constexpr const char *oneMember =
 
 } // namespace
 
-class tst_Dossier : public QObject
+class tst_Dossier : public StoreTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        m_folder.emplace(DataStoreFolder::Content::Empty);
-        m_folder->execute(oneMember);
-    }
+    void init() { open(DataFolder::Content::Empty, oneMember); }
+    void cleanup() { close(); }
 
     // Every column holds another text, so that no two boxes and no two columns can stand for one another.
     void eachBoxShowsItsColumnAndUpdateWritesIt()
@@ -92,7 +89,7 @@ private Q_SLOTS:
         QCOMPARE(lines(*dossier->Frame3->lstInterest), QStringList(u"Sailing|"_s));
         dossier.turnTo(dossier->Frame6);
         QTest::mouseDClick(dossier->Frame6->lstPhoneNotes->viewport(), Qt::LeftButton); // no note to open
-        QCOMPARE(dossier.errors.takeNumber(), 91);
+        QCOMPARE(m_errors->takeNumber(), 91);
     }
 
     void updateOfTheEmployerWritesEveryRowOrNone()
@@ -186,9 +183,9 @@ private Q_SLOTS:
         QCOMPARE(boxes.seen[1].text, u"Nothing selected"_s);
         QCOMPARE(boxes.seen[1].icon, QMessageBox::Information);
         dossier.choose("MnuDeleteInterest");
-        QCOMPARE(dossier.errors.takeNumber(), 91);
+        QCOMPARE(m_errors->takeNumber(), 91);
         dossier.choose("mnuInterestEdit");
-        QCOMPARE(dossier.errors.takeNumber(), 91);
+        QCOMPARE(m_errors->takeNumber(), 91);
         QCOMPARE(m_folder->row("SELECT (SELECT count(*) FROM Attachments) + (SELECT count(*) FROM MemberInterest)"),
                  u"5"_s);
     }
@@ -207,7 +204,7 @@ private Q_SLOTS:
         QCOMPARE(boxes.seen.size(), 3); // "Changes have been saved"
         select(dossier.list("lstPhoneNotes"), 1);
         dossier.choose("mnuDeleteNote");
-        QCOMPARE(dossier.errors.takeNumber(), -2147217900);
+        QCOMPARE(m_errors->takeNumber(), -2147217900);
         QCOMPARE(m_folder->row("SELECT (SELECT count(*) FROM Attachments) + (SELECT count(*) FROM MeetingInfo)"),
                  u"4"_s);
     }
@@ -244,9 +241,6 @@ private Q_SLOTS:
             QVERIFY(!popup.isVisible());
         }
     }
-
-private:
-    std::optional<DataStoreFolder> m_folder;
 };
 
 QTEST_MAIN(tst_Dossier)

@@ -31,15 +31,12 @@ bool isEntering(const QWidget &tab)
 
 } // namespace
 
-class tst_Entries : public QObject
+class tst_Entries : public StoreTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        m_folder.emplace(DataStoreFolder::Content::Empty);
-        m_folder->execute(oneMember);
-    }
+    void init() { open(DataFolder::Content::Empty, oneMember); }
+    void cleanup() { close(); }
 
     void interestsAreAddedAndChanged()
     {
@@ -226,7 +223,7 @@ private Q_SLOTS:
             const bool severalLines = end == "cmdSaveContribution";
             child<QWidget>(*dossier, box)->setProperty(severalLines ? "plainText" : "text", u"it's"_s);
             dossier.click(end);
-            QCOMPARE(dossier.errors.takeNumber(), -2147217900);
+            QCOMPARE(m_errors->takeNumber(), -2147217900);
         }
         QCOMPARE(m_folder->row("PRAGMA integrity_check"), u"ok"_s);
     }
@@ -277,9 +274,6 @@ private Q_SLOTS:
         tab.Command1->click();
         QCOMPARE(tab.lstPhoneNotes->ListItems.Count(), 2);
     }
-
-private:
-    std::optional<DataStoreFolder> m_folder;
 };
 
 QTEST_MAIN(tst_Entries)

@@ -1,8 +1,7 @@
 #include "dossier/FrmAddEditMember.h"
 #include "dossier/StatesList.h"
 #include "dossier/frmAddInterest.h"
-#include "support/DataStoreFolder.h"
-#include "support/Dialogs.h"
+#include "support/StoreTest.h"
 
 #include <QPointer>
 
@@ -26,16 +25,12 @@ desktop::TextBox &box(FrmAddEditMember &window, const char *name)
 
 } // namespace
 
-class tst_NewMember : public QObject
+class tst_NewMember : public StoreTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        m_folder.emplace(DataStoreFolder::Content::Empty);
-        m_errors.emplace();
-    }
-    void cleanup() { m_errors.reset(); }
+    void init() { open(DataFolder::Content::Empty); }
+    void cleanup() { close(); }
 
     void everythingTypedByKeyboardIsStored()
     {
@@ -126,12 +121,9 @@ private Q_SLOTS:
         window.SSTab1->setCurrentIndex(2);
         InterestEntry &entry = *window.Frame3;
         const auto isInState = [&entry](bool entering, const QString &caption, double left) {
-            return entry.txtInterest->isEnabled() == entering &&
-                   entry.txtInterestDescription->isEnabled() == entering &&
-                   entry.lstInterest->isEnabled() != entering && entry.CMdInterestCancel->isEnabled() == entering &&
-                   entry.lblInterest->isVisible() == entering &&
-                   entry.lblInterestDescription->isVisible() == entering && entry.cmdAddInterest->text() == caption &&
-                   entry.cmdAddInterest->Left() == left;
+            return entry.txtInterest->isEnabled() == entering && entry.lstInterest->isEnabled() != entering &&
+                   entry.CMdInterestCancel->isEnabled() == entering && entry.lblInterest->isVisible() == entering &&
+                   entry.cmdAddInterest->text() == caption && entry.cmdAddInterest->Left() == left;
         };
         QVERIFY(isInState(false, u"Add Interest"_s, 4635));
         entry.cmdAddInterest->click();
@@ -176,9 +168,6 @@ private:
         entry.txtInterestDescription->setText(description);
         entry.cmdAddInterest->click();
     }
-
-    std::optional<DataStoreFolder> m_folder;
-    std::optional<CaughtErrors> m_errors;
 };
 
 QTEST_MAIN(tst_NewMember)

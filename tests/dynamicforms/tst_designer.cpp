@@ -1,6 +1,7 @@
 // The designer: what it loads and saves, what the mouse does on its canvas, and the tables that it makes.
 #include "dynamicforms/OpenDesigner.h"
 #include "support/ShownWork.h"
+#include "support/StoreTest.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -29,21 +30,12 @@ QStringList columnsOf(const DataFolder &folder, const QByteArray &table)
 
 } // namespace
 
-class tst_Designer : public QObject
+class tst_Designer : public StoreTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        m_folder.emplace(DataStoreFolder::Content::Empty);
-        m_folder->execute(twoPages);
-        m_errors.emplace();
-    }
-    void cleanup()
-    {
-        m_errors.reset();
-        m_folder.reset();
-    }
+    void init() { open(DataFolder::Content::Empty, twoPages); }
+    void cleanup() { close(); }
 
     // Names as they stand, as "R & D" and "<b>": no shortcut and no rich text.
     void aFormIsShownAsItWasStored()
@@ -370,10 +362,6 @@ private Q_SLOTS:
         QCOMPARE(m_folder->row("SELECT group_concat(MemberType) FROM MemberType"), before);
         QCOMPARE(m_folder->row("SELECT type FROM sqlite_master WHERE name = 'Home'"), u"view"_s);
     }
-
-private:
-    std::optional<DataStoreFolder> m_folder;
-    std::optional<CaughtErrors> m_errors;
 };
 
 QTEST_MAIN(tst_Designer)

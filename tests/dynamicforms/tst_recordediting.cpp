@@ -3,6 +3,7 @@
 #include "events/frmMeeting.h"
 #include "library/frmDocumentExp.h"
 #include "support/Launches.h"
+#include "support/StoreTest.h"
 #include "support/UnitedStates.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -30,21 +31,12 @@ void doubleClick(const OpenRecord &record)
 
 } // namespace
 
-class tst_RecordEditing : public QObject
+class tst_RecordEditing : public StoreTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        m_folder.emplace(DataStoreFolder::Content::Sample);
-        m_folder->execute("DELETE FROM Attachments");
-        m_errors.emplace();
-    }
-    void cleanup()
-    {
-        m_errors.reset();
-        m_folder.reset();
-    }
+    void init() { open(DataFolder::Content::Sample, "DELETE FROM Attachments"); }
+    void cleanup() { close(); }
 
     // The selected page's values come from its boxes, the others' from the rows; of these the change of pages has left
     // out the first one.
@@ -266,10 +258,6 @@ private Q_SLOTS:
         doubleClick(without);
         QCOMPARE(m_errors->takeNumber(), 91);
     }
-
-private:
-    std::optional<DataStoreFolder> m_folder;
-    std::optional<CaughtErrors> m_errors;
 };
 
 QTEST_MAIN(tst_RecordEditing)

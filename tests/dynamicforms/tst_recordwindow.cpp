@@ -2,24 +2,17 @@
 #include "dynamicforms/OpenRecord.h"
 #include "dynamicforms/frmOpenRecord.h"
 #include "shell/session/Session.h"
+#include "support/StoreTest.h"
 #include "support/UnitedStates.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-class tst_RecordWindow : public QObject
+class tst_RecordWindow : public StoreTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        m_folder.emplace(DataStoreFolder::Content::Sample);
-        m_errors.emplace();
-    }
-    void cleanup()
-    {
-        m_errors.reset();
-        m_folder.reset();
-    }
+    void init() { open(DataFolder::Content::Sample); }
+    void cleanup() { close(); }
 
     void pagesAreBuiltFromTheForm()
     {
@@ -165,10 +158,6 @@ private Q_SLOTS:
         QTest::keyClick(picker->lstPerson, Qt::Key_Escape);
         QTRY_VERIFY(!picker);
     }
-
-private:
-    std::optional<DataStoreFolder> m_folder;
-    std::optional<CaughtErrors> m_errors;
 };
 
 QTEST_MAIN(tst_RecordWindow)

@@ -1,9 +1,7 @@
 #include "events/FrmEventCalendar.h"
 #include "platform/desktop/MdiForm.h"
-#include "platform/runtime/Clock.h"
-#include "support/DataStoreFolder.h"
-#include "support/Dialogs.h"
 #include "support/Outcome.h"
+#include "support/StoreTest.h"
 #include "support/UnitedStates.h"
 
 #include <QPointer>
@@ -23,11 +21,6 @@ public:
         Show();
     }
 };
-
-void setTime(const QString &moment)
-{
-    runtime::setClock([moment] { return QDateTime::fromString(moment, Qt::ISODate); });
-}
 
 // Opens the calendar by the button and gives it: the window on top.
 QPointer<FrmEventCalendar> calendarOf(const desktop::MdiForm &frame, desktop::CommandButton *button)
@@ -51,21 +44,16 @@ void clickDay(FrmEventCalendar &window, int day)
 
 } // namespace
 
-class tst_Events : public QObject
+class tst_Events : public StoreTest
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        m_folder.emplace(DataStoreFolder::Content::Empty);
+        open(DataFolder::Content::Empty);
         setTime(u"2026-01-31T09:05:00"_s);
-        m_errors.emplace();
     }
-    void cleanup()
-    {
-        m_errors.reset();
-        runtime::setClock({});
-    }
+    void cleanup() { close(); }
 
     // Without leading zeros; past midnight the end keeps the date of the start.
     void theLoadTakesTheClock()
@@ -258,9 +246,6 @@ private:
     static constexpr auto everyEvent =
         "SELECT EventIdentification, EventName, EventDescription, EventStartDate, EventStartTime, EventStartTimeAmPm, "
         "EventEndDate, EventEndTime, EventEndTimeAmPm, Active FROM EventInformation";
-
-    std::optional<DataStoreFolder> m_folder;
-    std::optional<CaughtErrors> m_errors;
 };
 
 QTEST_MAIN(tst_Events)

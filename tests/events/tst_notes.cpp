@@ -2,10 +2,8 @@
 #include "events/frmSelectClient.h"
 #include "platform/desktop/MdiForm.h"
 #include "platform/desktop/Printer.h"
-#include "platform/runtime/Clock.h"
-#include "support/DataStoreFolder.h"
-#include "support/Dialogs.h"
 #include "support/PdfText.h"
+#include "support/StoreTest.h"
 #include "support/UnitedStates.h"
 
 #include <QPointer>
@@ -32,24 +30,22 @@ QStringList itemsOf(const desktop::ListBox &list)
 
 } // namespace
 
-class tst_Notes : public QObject
+class tst_Notes : public StoreTest
 {
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase() { hidePrinters(); }
     void init()
     {
-        m_folder.emplace(DataStoreFolder::Content::Empty);
-        m_folder->execute("DELETE FROM CategoryInfo; DELETE FROM EventInformation; INSERT INTO CategoryInfo VALUES "
-                          "('Membership', -1), ('Archive', 0); INSERT INTO EventInformation (EventName, Active) VALUES "
-                          "('Picnic', -1), ('Cancelled', 0), (NULL, -1)");
+        open(DataFolder::Content::Empty,
+             "DELETE FROM CategoryInfo; DELETE FROM EventInformation; INSERT INTO CategoryInfo VALUES "
+             "('Membership', -1), ('Archive', 0); INSERT INTO EventInformation (EventName, Active) VALUES "
+             "('Picnic', -1), ('Cancelled', 0), (NULL, -1)");
         setTime(u"2026-01-31T14:05:00"_s);
-        m_errors.emplace();
     }
     void cleanup()
     {
-        m_errors.reset();
-        runtime::setClock({});
+        close();
         desktop::setPrintFile({});
     }
 
@@ -219,16 +215,9 @@ private Q_SLOTS:
     }
 
 private:
-    static void setTime(const QString &moment)
-    {
-        runtime::setClock([moment] { return QDateTime::fromString(moment, Qt::ISODate); });
-    }
     static constexpr auto everyNote = "SELECT MemberId, PersonalInformationId, MeetingDate, MeetingStartTime, "
                                       "MeetingEndTime, MeetingType, MeetingCatagory, MeetingSubject, MeetingNotes FROM "
                                       "MeetingInfo";
-
-    std::optional<DataStoreFolder> m_folder;
-    std::optional<CaughtErrors> m_errors;
 };
 
 QTEST_MAIN(tst_Notes)

@@ -1,28 +1,24 @@
 // The documents of the library: their list, the upload with its versions, and the links to persons.
 #include "library/OpenLibrary.h"
 #include "support/ShownWork.h"
+#include "support/StoreTest.h"
 #include "support/UnitedStates.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 using Mode = OpenLibrary::Mode;
 
-class tst_LibraryDocuments : public QObject
+class tst_LibraryDocuments : public StoreTest
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        m_folder.emplace(DataStoreFolder::Content::Empty);
-        m_folder->execute("INSERT INTO ObjectTbl (ObjectIndex, ObjectParentIndex, ObjectText, ObjectType) VALUES"
-                          " (2, 1, 'Office', 'Library'), (3, 2, 'Bylaws', 'Catagory')");
-        m_errors.emplace();
+        open(DataFolder::Content::Empty,
+             "INSERT INTO ObjectTbl (ObjectIndex, ObjectParentIndex, ObjectText, ObjectType) VALUES"
+             " (2, 1, 'Office', 'Library'), (3, 2, 'Bylaws', 'Catagory')");
     }
-    void cleanup()
-    {
-        m_errors.reset();
-        m_folder.reset();
-    }
+    void cleanup() { close(); }
 
     void allVersionsOfANodeAreListed()
     {
@@ -117,10 +113,6 @@ private Q_SLOTS:
             QCOMPARE(m_folder->rows("SELECT DocumentId, PersonalInformationId FROM ReferenceInfo"), links);
         }
     }
-
-private:
-    std::optional<DataStoreFolder> m_folder;
-    std::optional<CaughtErrors> m_errors;
 };
 
 QTEST_MAIN(tst_LibraryDocuments)

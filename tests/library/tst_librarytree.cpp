@@ -1,5 +1,6 @@
 // The structure of the document library: its two modes, its menus, its labels and what is saved of it.
 #include "library/OpenLibrary.h"
+#include "support/StoreTest.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -19,21 +20,12 @@ const QStringList loaded{u"1 Main Library under 0"_s, u"2 Office under 1"_s, u"3
 
 } // namespace
 
-class tst_LibraryTree : public QObject
+class tst_LibraryTree : public StoreTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        m_folder.emplace(DataStoreFolder::Content::Empty);
-        m_folder->execute(smallLibrary);
-        m_errors.emplace();
-    }
-    void cleanup()
-    {
-        m_errors.reset();
-        m_folder.reset();
-    }
+    void init() { open(DataFolder::Content::Empty, smallLibrary); }
+    void cleanup() { close(); }
 
     void theManagerOffersWhatTheBrowserDoesNot()
     {
@@ -226,10 +218,6 @@ private Q_SLOTS:
             QTRY_VERIFY(half.findChild<MenuBar *>()->hasFocus());
         }
     }
-
-private:
-    std::optional<DataStoreFolder> m_folder;
-    std::optional<CaughtErrors> m_errors;
 };
 
 QTEST_MAIN(tst_LibraryTree)

@@ -1,9 +1,8 @@
 #include "search/frmFindInfo.h"
-#include "support/DataStoreFolder.h"
-#include "support/Dialogs.h"
 #include "support/Launches.h"
 #include "support/Lines.h"
 #include "support/ShownWork.h"
+#include "support/StoreTest.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -26,23 +25,20 @@ void click(QAbstractButton *button)
 
 } // namespace
 
-class tst_Find : public QObject
+class tst_Find : public StoreTest
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        m_folder.emplace(DataStoreFolder::Content::Empty);
-        m_folder->execute(rows);
-        m_errors.emplace();
+        open(DataFolder::Content::Empty, rows);
         m_window.emplace();
         m_window->Show();
     }
     void cleanup()
     {
         m_window.reset();
-        m_errors.reset();
-        m_folder.reset();
+        close();
     }
 
     void offersMembersAndFileTypes()
@@ -217,8 +213,6 @@ private:
     }
     int columns() const { return m_window->lstViewResults->ColumnHeaders.Count(); }
 
-    std::optional<DataStoreFolder> m_folder;
-    std::optional<CaughtErrors> m_errors;
     std::optional<frmFindInfo> m_window;
 };
 

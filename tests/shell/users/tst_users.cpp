@@ -4,9 +4,8 @@
 #include "platform/runtime/Random.h"
 #include "shell/users/frmNewUser.h"
 #include "shell/users/frmOptions.h"
-#include "support/DataStoreFolder.h"
-#include "support/Dialogs.h"
 #include "support/Outcome.h"
+#include "support/StoreTest.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -43,21 +42,16 @@ frmOptions *openOptions(const QString &user)
 
 } // namespace
 
-class tst_Users : public QObject
+class tst_Users : public StoreTest
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        m_folder.emplace(DataStoreFolder::Content::Empty);
-        m_folder->execute("DELETE FROM Security; UPDATE sqlite_sequence SET seq = 4 WHERE name = 'Security'");
-        m_errors.emplace();
+        open(DataFolder::Content::Empty,
+             "DELETE FROM Security; UPDATE sqlite_sequence SET seq = 4 WHERE name = 'Security'");
     }
-    void cleanup()
-    {
-        m_errors.reset();
-        runtime::setClock({});
-    }
+    void cleanup() { close(); }
 
     void aUserNameIsMadeOfTheNamesAndClearingLeavesTheAddress()
     {
@@ -291,10 +285,6 @@ private Q_SLOTS:
         QCOMPARE(frame.area().activeSubWindow()->widget(), &window);
         QCOMPARE(window.picOptions(3)->Left(), outOfView);
     }
-
-private:
-    std::optional<DataStoreFolder> m_folder;
-    std::optional<CaughtErrors> m_errors;
 };
 
 QTEST_MAIN(tst_Users)
