@@ -76,10 +76,11 @@ QString newEmpty()
 // The point x, y of the canvas for every crossing of the densest grid.
 QList<QPointF> gridPoints(const desktop::PictureBox &canvas)
 {
+    const double perPixel = desktop::twips(1);
     QList<QPointF> points;
     for (int y = densest; y < int(canvas.Height()); y += densest) {
         for (int x = densest; x < int(canvas.Width()); x += densest)
-            points << QPointF(x / desktop::twipsPerPixel, y / desktop::twipsPerPixel);
+            points << QPointF(x / perPixel, y / perPixel);
     }
     return points;
 }

@@ -35,11 +35,12 @@ std::vector<std::shared_ptr<ColumnDefinition>> columnsOf(const TableDefinition &
 
 std::shared_ptr<ColumnDefinition> columnNamed(const TableDefinition &table, const QString &name)
 {
-    for (auto &column : columnsOf(table)) {
-        if (isSameName(column->name, name))
-            return column;
-    }
-    return nullptr;
+    const auto found = [&name](const auto &columns) {
+        const auto at =
+            std::ranges::find_if(columns, [&](const auto &column) { return isSameName(column->name, name); });
+        return at == columns.end() ? nullptr : *at;
+    };
+    return table.isStored ? found(storedColumns(fileOf(table), table.name)) : found(table.columns);
 }
 
 } // namespace

@@ -89,11 +89,12 @@ void provideCollation(void *, sqlite3 *handle, int, const char *name)
         sqlite3_create_collation_v2(handle, name, SQLITE_UTF8, handle, compareForSqlite, nullptr);
 }
 
-// Numbers have the text that a field of a text column would give them.
-QByteArray textOf(sqlite3_value *value)
+// Numbers have the text that a field of a text column would give them. `number` keeps that of a broken one, which
+// SQLite would write differently; all else is a view of SQLite's own text.
+QByteArrayView textOf(sqlite3_value *value, QByteArray &number)
 {
     if (sqlite3_value_type(value) == SQLITE_FLOAT)
-        return QByteArray::number(sqlite3_value_double(value), 'g', 15);
+        return number = QByteArray::number(sqlite3_value_double(value), 'g', 15);
     const auto *bytes = reinterpret_cast<const char *>(sqlite3_value_text(value));
     if (!bytes)
         throw std::bad_alloc();
@@ -105,7 +106,10 @@ void likeForSqlite(sqlite3_context *context, int, sqlite3_value **arguments)
     if (sqlite3_value_type(arguments[0]) == SQLITE_NULL || sqlite3_value_type(arguments[1]) == SQLITE_NULL)
         return sqlite3_result_null(context);
     try {
-        sqlite3_result_int(context, matchesLike(textOf(arguments[0]), textOf(arguments[1])) ? 1 : 0);
+        QByteArray patternNumber;
+        QByteArray number;
+        const QByteArrayView pattern = textOf(arguments[0], patternNumber);
+        sqlite3_result_int(context, matchesLike(pattern, textOf(arguments[1], number)) ? 1 : 0);
     } catch (const std::bad_alloc &) {
         sqlite3_result_error_nomem(context);
     }

@@ -156,9 +156,11 @@ void addColumnWithComputedDefault(Database &file, const QByteArray &table, const
 bool isSameName(const QString &a, const QString &b)
 {
     // As SQLite compares names: upper and lower case of ASCII letters alone are equal. Generating a table compares each
-    // of its columns with all the others, so nothing is copied here.
+    // of its columns with all the others, so nothing is copied here, and the ends come first: numbered names differ
+    // there.
     const auto folded = [](QChar c) { return c >= u'A' && c <= u'Z' ? QChar(c.unicode() | 0x20) : c; };
-    return std::ranges::equal(a, b, {}, folded, folded);
+    return a.size() == b.size() && std::equal(a.crbegin(), a.crend(), b.crbegin(),
+                                              [&](QChar inA, QChar inB) { return folded(inA) == folded(inB); });
 }
 
 runtime::RuntimeError refusedProperty()

@@ -67,19 +67,13 @@ void RowSource::describe(const Statement &statement)
     }
 }
 
-const std::vector<SourceColumn> &RowSource::columns()
-{
-    describeColumns();
-    return m_columns;
-}
-
 bool RowSource::isUpdatable()
 {
     describeColumns();
     return m_isUpdatable;
 }
 
-int RowSource::columnOf(QStringView name)
+int RowSource::searchedColumnOf(QStringView name)
 {
     describeColumns();
     const int column = describedColumnOf(name);
@@ -100,12 +94,12 @@ int RowSource::describedColumnOf(QStringView name)
             ++from;
         return from < to ? from : -1;
     };
-    const auto isSame = [name](const QString &known) { return known.size() == name.size() && known == name; };
+    const auto isEqual = [name](QStringView known) { return known == name; };
     const auto isAlike = [name](const QString &known) { return known.compare(name, Qt::CaseInsensitive) == 0; };
     const int guess = std::min(m_nextGuess, count);
-    int column = find(guess, count, isSame);
+    int column = find(guess, count, isEqual);
     if (column < 0)
-        column = find(0, guess, isSame);
+        column = find(0, guess, isEqual);
     if (column < 0) // last, since most handlers write the name as the file has it
         column = find(0, count, isAlike);
     if (column >= 0)

@@ -34,10 +34,20 @@ public:
     // Finalizes the statement.
     void close() { m_statement.finalize(); }
 
-    const std::vector<SourceColumn> &columns();
+    const std::vector<SourceColumn> &columns()
+    {
+        if (!m_described)
+            describeColumns();
+        return m_columns;
+    }
     // The column of a name, without regard to case; -1 when there is none. Until the rows are read, the call may find
     // that another connection has added columns; they come behind the others.
-    int columnOf(QStringView name);
+    int columnOf(QStringView name)
+    {
+        if (m_nextGuess < int(m_columns.size()) && QStringView(m_columns[size_t(m_nextGuess)].name) == name)
+            return m_nextGuess++;
+        return searchedColumnOf(name);
+    }
     // Rows can be added, changed and deleted: they are rows of one table, and no column is computed.
     bool isUpdatable();
 
@@ -70,6 +80,7 @@ private:
     Statement &prepared();
     void describeColumns();
     void describe(const Statement &statement);
+    int searchedColumnOf(QStringView name);
     int describedColumnOf(QStringView name);
     void requireChange() const;
     // The statement with a Null in the place of each binary column.

@@ -50,6 +50,8 @@ bool exceedsLimit(const QString &message)
 QByteArray sqlFor(const Database &database, const sql::Translation &translation)
 {
     QByteArray sql = translation.sql;
+    if (translation.key)
+        sql.replace(translation.key->begin, translation.key->length, "?1");
     for (auto like = translation.likeRanges.crbegin(); like != translation.likeRanges.crend(); ++like) {
         if (const ColumnType type = typeOf(database, translation, like->column);
             type != ColumnType::Unknown && !isText(type))
@@ -63,7 +65,10 @@ Statement prepareChecked(Database &database, const sql::Translation &translation
     if (translation.callsLike)
         database.provideLike();
     try {
-        return database.prepare(sql);
+        Statement statement = database.prepare(sql);
+        if (translation.key)
+            statement.bind(1, qint64(translation.key->number));
+        return statement;
     } catch (const StoreError &error) {
         raiseDialectError(error);
     }

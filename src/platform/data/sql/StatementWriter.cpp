@@ -2,6 +2,7 @@
 
 #include "platform/data/sql/Checks.h"
 #include "platform/data/sql/ExpressionWriter.h"
+#include "platform/data/sql/Literal.h"
 #include "platform/data/sql/SqlText.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -46,6 +47,7 @@ private:
     bool mayRead(const Source &table, Node node) const;
     void table(const Source &source);
     void where();
+    void noteKey();
     void groupBy();
     bool isColumnOfTable() const;
     void fromDistinctValues();
@@ -98,11 +100,15 @@ void StatementWriter::select()
     else
         from();
     where();
+    if (m_out.carriesRowId)
+        noteKey();
     if (groupsDistinct)
         distinctGroups();
     else
         groupBy();
     orderBy();
+    if (!m_out.likeRanges.empty())
+        m_out.key.reset();
     if (!m_tree.top.isEmpty()) {
         m_sql += " LIMIT ";
         appendUtf8(m_sql, m_tree.top);
@@ -245,6 +251,23 @@ void StatementWriter::where()
         return;
     m_sql += " WHERE ";
     m_expressions.write(m_tree.where);
+}
+
+// Called when the condition is the last thing that was written.
+void StatementWriter::noteKey()
+{
+    if (m_tree.where == none)
+        return;
+    const Expression &condition = m_tree.at(m_tree.where);
+    if (condition.kind != ExpressionKind::Operation || condition.operation != Operator::Equal ||
+        m_tree.at(condition.first).kind != ExpressionKind::Column ||
+        m_tree.at(condition.second).kind != ExpressionKind::Number)
+        return;
+    const QStringView literal = m_tree.at(condition.second).text;
+    const runtime::Value number = numberValue(literal, false);
+    // For 0 and 1 SQLite expects more rows than for other numbers and may take another way to them.
+    if (number.is<qint32>() && number.get<qint32>() > 1)
+        m_out.key = {m_sql.size() - literal.size(), literal.size(), number.get<qint32>()};
 }
 
 void StatementWriter::groupBy()

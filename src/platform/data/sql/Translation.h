@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace sql {
@@ -54,6 +55,15 @@ struct LikeRange
     QByteArray comparison; // calls store_like
 };
 
+// The number n of a SELECT of one table's rows whose whole condition is "column = n". The engine puts a parameter in
+// its place, so that one prepared statement serves all numbers.
+struct KeyNumber
+{
+    qsizetype begin = 0; // in the SQL, in bytes
+    qsizetype length = 0;
+    qint32 number = 0;
+};
+
 struct Translation
 {
     StatementKind kind = StatementKind::Select;
@@ -71,6 +81,7 @@ struct Translation
     std::vector<Assignment> assignments;
     std::vector<Comparison> comparisons;
     std::vector<LikeRange> likeRanges; // in the order of the SQL
+    std::optional<KeyNumber> key;      // not where there are LIKE ranges, which move it
     // The SQL calls store_like(PATTERN, VALUE), which the connection has to provide.
     bool callsLike = false;
 };
