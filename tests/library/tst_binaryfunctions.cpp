@@ -313,5 +313,5 @@ private:
     data::Connection m_connection;
 };
 
-QTEST_GUILESS_MAIN(BinaryFunctionsTest)
+QTEST_MAIN(BinaryFunctionsTest)
 #include "tst_binaryfunctions.moc"

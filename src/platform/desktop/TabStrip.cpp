@@ -17,7 +17,7 @@ TabStrip::TabStrip(QWidget *parent, QAnyStringView name) : ControlOf(parent, nam
         if (index == currentIndex())
             select(index);
     });
-    onPageKeys(parent, [this](int pages) { turn(pages); });
+    onPageKeys(parent ? parent : this, [this](int pages) { turn(pages); });
 }
 
 // The focus leaves the page before its boxes are unloaded.
