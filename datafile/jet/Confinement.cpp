@@ -36,10 +36,10 @@ constexpr bool limitsMemory = true;
 
 // What reading, memory and the end of the process need. None of these writes to a file, opens one or reaches a process.
 constexpr std::array harmless{
-    __NR_read,         __NR_pread64, __NR_lseek,      __NR_close,        __NR_fstat,     __NR_newfstatat,
-    __NR_mmap,         __NR_brk,     __NR_munmap,     __NR_mremap,       __NR_mprotect,  __NR_madvise,
-    __NR_futex,        __NR_exit,    __NR_exit_group, __NR_rt_sigreturn, __NR_getrandom, __NR_rt_sigprocmask,
-    __NR_rt_sigaction,
+    __NR_read,         __NR_pread64,     __NR_lseek,      __NR_close,        __NR_fstat,     __NR_newfstatat,
+    __NR_mmap,         __NR_brk,         __NR_munmap,     __NR_mremap,       __NR_mprotect,  __NR_madvise,
+    __NR_futex,        __NR_exit,        __NR_exit_group, __NR_rt_sigreturn, __NR_getrandom, __NR_rt_sigprocmask,
+    __NR_rt_sigaction, __NR_sigaltstack,
 };
 
 constexpr std::uint32_t changesFiles = O_WRONLY | O_RDWR | O_CREAT | O_TRUNC;

@@ -96,7 +96,7 @@ void RecordPage::fillFromStore(const QString &caption, qint16 recordId)
 void RecordPage::requireWhole() const
 {
     if (m_readFailure && !values().isEmpty())
-        throw *m_readFailure;
+        throw runtime::RuntimeError(*m_readFailure);
 }
 
 // Of equal names on a page the last one counts, here and below.

@@ -13,12 +13,15 @@
 #include "explorers/FrmEventExplorer.h"
 #include "library/frmDocumentExp.h"
 #include "search/frmFindInfo.h"
+#include "shell/frame/MDIBaseForm.h"
 #include "shell/frame/frmLogin.h"
 #include "shell/users/frmNewUser.h"
 #include "shell/users/frmOptions.h"
 #include "shell/users/frmTip.h"
 #include "support/Dialogs.h"
 
+#include <QApplication>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 
@@ -122,4 +125,17 @@ constexpr Station all[] = {
 std::span<const Station> stations()
 {
     return all;
+}
+
+void closeStations()
+{
+    delete &MDIBaseForm::frame();
+    delete &frmLogin::shared();
+    QList<QPointer<QWidget>> windows;
+    for (QWidget *window : QApplication::topLevelWidgets())
+        windows << window;
+    for (const QPointer<QWidget> &window : windows) {
+        if (qobject_cast<desktop::Form *>(window))
+            delete window;
+    }
 }

@@ -21,3 +21,5 @@ struct Station
 };
 
 std::span<const Station> stations();
+// Deletes the frame with its child windows, and every other window that a station opened.
+void closeStations();

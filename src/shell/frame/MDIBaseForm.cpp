@@ -68,8 +68,8 @@ void MDIBaseForm::openOnScreen()
     const int border = style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
     const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight);
     const QRect available = screen()->availableGeometry().adjusted(border, title, -border, -border);
-    setGeometry(
-        QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, sizeHint().boundedTo(available.size()), available));
+    setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter,
+                                    MDIBaseForm::sizeHint().boundedTo(available.size()), available));
 }
 
 QSize MDIBaseForm::sizeHint() const

@@ -99,11 +99,7 @@ class tst_Looks : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase() { desktop::Style::install(); }
-    void cleanup()
-    {
-        delete &MDIBaseForm::frame();
-        delete &frmLogin::shared();
-    }
+    void cleanup() { closeStations(); }
 
     void everyTextIsWholeAndReadable_data()
     {

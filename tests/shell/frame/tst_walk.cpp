@@ -214,11 +214,7 @@ class tst_Walk : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void cleanup()
-    {
-        delete &MDIBaseForm::frame();
-        delete &frmLogin::shared();
-    }
+    void cleanup() { closeStations(); }
 
     void everyStopHasANameAndAPlaceInTheOrder_data()
     {
