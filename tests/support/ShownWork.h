@@ -3,6 +3,7 @@
 
 #include "platform/desktop/LongWork.h"
 #include "platform/desktop/MdiForm.h"
+#include "platform/runtime/Regional.h"
 
 #include <QApplication>
 #include <QStatusBar>
@@ -17,7 +18,7 @@ public:
         QObject::connect(frame.statusBar(), &QStatusBar::messageChanged, &frame, [this](const QString &text) {
             const QCursor *pointer = QApplication::overrideCursor();
             if (pointer && pointer->shape() == Qt::WaitCursor)
-                m_texts << text;
+                m_texts << runtime::plainlyTyped(text);
         });
         desktop::LongWork::interval = {};
     }
@@ -27,7 +28,8 @@ public:
 
     desktop::MdiForm frame{u"Frame"};
 
-    // What has been said since the last call while the wait pointer stood, and whether any of it stands still.
+    // What has been said since the last call while the wait pointer stood, with the digits 0 to 9 in every region, and
+    // whether any of it stands still.
     QStringList takeTexts()
     {
         QStringList texts = std::exchange(m_texts, {});

@@ -1,9 +1,9 @@
 #include "platform/desktop/LongWork.h"
 
 #include "platform/desktop/MdiForm.h"
+#include "platform/runtime/Regional.h"
 
 #include <QApplication>
-#include <QLocale>
 #include <QStatusBar>
 
 using namespace Qt::Literals::StringLiterals;
@@ -46,7 +46,7 @@ void LongWork::showAt(qsizetype piece)
     if (!bar)
         return;
     m_shown = true;
-    const QLocale region;
+    const QLocale region = runtime::regional();
     bar->showMessage(u"%1 %2 of %3"_s.arg(m_what, region.toString(piece), region.toString(m_total)));
     bar->repaint();
 }
