@@ -1,6 +1,6 @@
 #include "events/Calendar.h"
 
-#include "platform/desktop/Style.h"
+#include "platform/desktop/Contrast.h"
 #include "platform/runtime/Regional.h"
 #include "platform/runtime/RuntimeError.h"
 

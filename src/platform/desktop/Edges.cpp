@@ -1,6 +1,6 @@
 #include "platform/desktop/Edges.h"
 
-#include "platform/desktop/Style.h"
+#include "platform/desktop/Contrast.h"
 
 #include <QPainter>
 #include <QStyleOption>
@@ -67,6 +67,16 @@ void drawEdge(QPainter &painter, const QStyleOption &option, bool focused)
         drawFrame(painter, option.rect, focusColour(option.palette), focusRingWidth);
     else
         drawFrame(painter, option.rect, option.palette.color(QPalette::Dark));
+}
+
+void drawRoundEdge(QPainter &painter, const QStyleOption &option)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(option.palette.color(QPalette::Dark));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.restore();
 }
 
 void drawViewEdge(QPainter &painter, const QStyleOption &option)

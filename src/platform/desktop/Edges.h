@@ -30,6 +30,8 @@ QColor focusColour(const QPalette &palette);
 void drawFrame(QPainter &painter, const QRect &place, const QColor &colour, int width = 1);
 // The frame of a control, or the ring in its place where it has the focus.
 void drawEdge(QPainter &painter, const QStyleOption &option, bool focused);
+// The edge of an option button.
+void drawRoundEdge(QPainter &painter, const QStyleOption &option);
 // The edge of a list, tree or text of several lines, for which two pixels are kept free.
 void drawViewEdge(QPainter &painter, const QStyleOption &option);
 // The ring within a control: around a line of a list, a caption, a tab.
