@@ -219,6 +219,12 @@ Frame::Frame(QWidget *parent, QAnyStringView name, const QString &caption) : Con
     setAccessibleName(caption); // within another frame Qt tells that one's title
 }
 
+void Frame::setBuddy(QWidget *box)
+{
+    box->setAccessibleName(accessibleName());
+    setFocusProxy(box);
+}
+
 TabbedDialog::TabbedDialog(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
 {
     onPageKeys(this, [this](int pages) { turnTo((currentIndex() + pages + count()) % count()); });

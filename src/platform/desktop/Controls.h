@@ -132,6 +132,8 @@ class Frame : public ControlOf<QGroupBox>
 {
 public:
     Frame(QWidget *parent, QAnyStringView name, const QString &caption);
+    // The caption is the label of this one box in it.
+    void setBuddy(QWidget *box);
 };
 
 // The tabbed dialog. Each page holds one widget, set off from the page's edge; Ctrl with Page Up or Page Down turns
