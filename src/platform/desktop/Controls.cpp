@@ -1,6 +1,5 @@
 #include "platform/desktop/Controls.h"
 
-#include "platform/desktop/CopyLines.h"
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/Twips.h"
 #include "platform/runtime/RuntimeError.h"
@@ -220,6 +219,12 @@ Frame::Frame(QWidget *parent, QAnyStringView name, const QString &caption) : Con
     setAccessibleName(caption); // within another frame Qt tells that one's title
 }
 
+void Frame::setBuddy(QWidget *box)
+{
+    box->setAccessibleName(accessibleName());
+    setFocusProxy(box);
+}
+
 TabbedDialog::TabbedDialog(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
 {
     onPageKeys(this, [this](int pages) { turnTo((currentIndex() + pages + count()) % count()); });
@@ -246,7 +251,7 @@ void TabbedDialog::addPage(QWidget *content, const QString &caption)
     addTab(page, caption);
 }
 
-ListBox::ListBox(QWidget *parent, QAnyStringView name, const QStringList &items) : ControlOf(parent, name)
+ListBox::ListBox(QWidget *parent, QAnyStringView name, const QStringList &items) : LineView(parent, name)
 {
     addItems(items);
 }
@@ -337,18 +342,10 @@ void ListBox::setOneLine()
     setLines(1);
 }
 
-void ListBox::keyPressEvent(QKeyEvent *event)
-{
-    if (event->matches(QKeySequence::Copy))
-        copyLines(*this);
-    else
-        ControlOf::keyPressEvent(event);
-}
-
 // Qt lets Ctrl with a click take the selection away; here what has been picked can only be exchanged.
 QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex &index, const QEvent *event) const
 {
-    const QItemSelectionModel::SelectionFlags command = ControlOf::selectionCommand(index, event);
+    const QItemSelectionModel::SelectionFlags command = LineView::selectionCommand(index, event);
     return command.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::NoUpdate : command;
 }
 

@@ -1,8 +1,6 @@
 #include "platform/desktop/TreeView.h"
 
-#include "platform/desktop/CopyLines.h"
 #include "platform/desktop/Keys.h"
-#include "platform/desktop/MdiForm.h"
 #include "platform/desktop/MenuKey.h"
 
 #include <QApplication>
@@ -127,7 +125,7 @@ Node &Nodes::operator()(int index) const
     return *m_nodes[size_t(index - 1)];
 }
 
-TreeView::TreeView(QWidget *parent, QAnyStringView name) : ControlOf(parent, name), Nodes(this)
+TreeView::TreeView(QWidget *parent, QAnyStringView name) : LineView(parent, name), Nodes(this)
 {
     setColumnCount(1);
     header()->hide();
@@ -215,13 +213,8 @@ void TreeView::keyPressEvent(QKeyEvent *event)
     m_pressedKey = event->key();
     if (isShiftF10(*event))
         return openMenuByKey();
-    if (event->matches(QKeySequence::Copy))
-        return copyLines(*this);
     const QTreeWidgetItem *before = SelectedItem().get();
-    if (!before && event->key() == Qt::Key_Down)
-        setCurrentItem(topLevelItem(0)); // Qt would begin at the second one
-    else
-        QTreeWidget::keyPressEvent(event);
+    LineView::keyPressEvent(event);
     const QTreeWidgetItem *after = SelectedItem().get();
     const bool confirmed = keyCode(*event) == vbKeyReturn || event->key() == Qt::Key_Space;
     if (after && (after != before || confirmed))
@@ -275,18 +268,11 @@ void TreeView::scrollContentsBy(int dx, int dy)
 }
 
 // Whoever comes by the keyboard finds a node selected to start from.
-void TreeView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
-{
-    ControlOf::currentChanged(current, previous);
-    if (hasFocus())
-        MdiForm::bringIntoView(*viewport(), visualRect(current));
-}
-
 void TreeView::focusInEvent(QFocusEvent *event)
 {
     QTreeWidget::focusInEvent(event);
-    if (isByKeyboard(*event) && !SelectedItem())
-        setCurrentItem(currentItem() ? currentItem() : topLevelItem(0));
+    if (isByKeyboard(*event) && !isAnyHighlighted())
+        highlightCurrent();
 }
 
 } // namespace desktop

@@ -321,7 +321,14 @@ private Q_SLOTS:
         QVERIFY(list.viewport()->rect().contains(place));
         QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, place);
         QCOMPARE(list.Text(), u"Ohio"_s); // a pick is not taken back
-        list.setSelected(1, false);
+        int step = 0;
+        const Qt::Key keys[] = {Qt::Key_Down, Qt::Key_Up, Qt::Key_End, Qt::Key_PageDown, Qt::Key_Home};
+        for (const int chosen : {1, 1, 2, 2, 0}) {
+            list.clearSelection(); // Qt's current line stays, which nobody has chosen
+            QTest::keyClick(&list, keys[step++]);
+            QCOMPARE(list.ListIndex(), chosen);
+        }
+        list.setSelected(0, false);
         QCOMPARE(list.ListIndex(), -1);
     }
 
@@ -365,6 +372,8 @@ private Q_SLOTS:
         QVERIFY(looks[1] != looks[0] && looks[2] != looks[1]);
         list.item(0)->setSelected(false);
         QCOMPARE(list.grab().toImage(), looks[0]); // again nobody has chosen Alabama
+        QTest::keyClick(&list, Qt::Key_A);
+        QCOMPARE(list.Text(), u"Alabama"_s); // and not the one behind it
     }
 
     void pagesTurnByTheKeyboardIntoTheirFirstBox()
