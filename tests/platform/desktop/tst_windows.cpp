@@ -16,6 +16,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QVBoxLayout>
 
 #include <cstring>
 #include <stdexcept>
@@ -162,6 +163,34 @@ private Q_SLOTS:
         QCOMPARE(second->activations, 1);
         first->Unload(); // the one before it comes back
         QTRY_COMPARE(second->activations, 2);
+    }
+
+    // Also after its pages have been turned, for which Qt hands the focus on as the Tab key does.
+    void aChildKeepsItsFocusWhileAnotherIsActive()
+    {
+        Frame frame;
+        frame.Show();
+        QVERIFY(QTest::qWaitForWindowActive(&frame));
+        auto *first = new Window;
+        auto *pages = new desktop::TabbedDialog(first, u"SSTab1");
+        for (const QString &name : {u"one"_s, u"two"_s}) {
+            auto *page = new QWidget;
+            auto *boxes = new QVBoxLayout(page);
+            boxes->addWidget(new desktop::TextBox(page, name));
+            boxes->addWidget(new desktop::TextBox(page, name));
+            pages->addPage(page, name);
+        }
+        (new QVBoxLayout(first))->addWidget(pages);
+        first->Show();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageDown, Qt::ControlModifier);
+        const QWidget *left = QApplication::focusWidget();
+        QCOMPARE(left->objectName(), u"two"_s);
+        auto *second = new Window;
+        const auto *box = new desktop::TextBox(second, u"box");
+        second->Show();
+        QTRY_COMPARE(QApplication::focusWidget(), box);
+        second->Unload();
+        QTRY_COMPARE(QApplication::focusWidget(), left);
     }
 
     void aSharedChildComesBackIntoTheFrame()
