@@ -1,5 +1,6 @@
 #include "platform/desktop/Controls.h"
 
+#include "platform/desktop/ItemDelegate.h"
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/Twips.h"
 #include "platform/runtime/RuntimeError.h"
@@ -10,7 +11,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
-#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -253,6 +253,7 @@ void TabbedDialog::addPage(QWidget *content, const QString &caption)
 
 ListBox::ListBox(QWidget *parent, QAnyStringView name, const QStringList &items) : LineView(parent, name)
 {
+    setItemDelegate(new ItemDelegate(this));
     addItems(items);
 }
 
@@ -295,14 +296,14 @@ void ListBox::setLines(int lines)
 
 namespace {
 
-class OneLineDelegate : public QStyledItemDelegate
+class OneLineDelegate : public ItemDelegate
 {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    using ItemDelegate::ItemDelegate;
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
-        QStyledItemDelegate::paint(painter, option, index);
+        ItemDelegate::paint(painter, option, index);
         const QModelIndexList chosen = qobject_cast<const QListView *>(option.widget)->selectionModel()->selectedRows();
         if (chosen.isEmpty() || chosen.contains(index))
             return;
@@ -310,13 +311,13 @@ public:
         const QString arrow = choice.row() < index.row() ? QStringLiteral("\u25b2 ") : QStringLiteral("\u25bc ");
         painter->setPen(option.palette.color(QPalette::Text));
         painter->drawText(option.rect.adjusted(0, 0, -gap, 0), Qt::AlignRight | Qt::AlignVCenter,
-                          arrow + choice.data().toString());
+                          arrow + displayText(choice.data(), option.locale));
     }
 
 protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
     {
-        QStyledItemDelegate::initStyleOption(option, index);
+        ItemDelegate::initStyleOption(option, index);
         if (option->state & QStyle::State_Selected)
             return;
         option->font.setItalic(true);

@@ -3,6 +3,7 @@
 #include "platform/desktop/ColumnHeads.h"
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/MenuKey.h"
+#include "platform/desktop/PlainText.h"
 #include "platform/desktop/Twips.h"
 #include "platform/runtime/Conversion.h"
 
@@ -26,9 +27,6 @@ bool isText(int role)
 {
     return role == Qt::DisplayRole || role == Qt::EditRole;
 }
-
-// More than any screen shows. To lay out a text of megabytes takes Qt seconds at each painting.
-constexpr qsizetype mostShown = 4000;
 
 // A line of the list is one line high whatever its texts hold.
 QString onOneLine(QString text)

@@ -1,5 +1,6 @@
 #include "platform/desktop/TreeView.h"
 
+#include "platform/desktop/ItemDelegate.h"
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/MenuKey.h"
 
@@ -10,7 +11,6 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPalette>
-#include <QStyledItemDelegate>
 
 #include <limits>
 #include <utility>
@@ -29,16 +29,16 @@ bool standsUnder(const QTreeWidgetItem *node, const QTreeWidgetItem *ancestor)
 } // namespace
 
 // Emits the tree's signal when an edit begins and passes on the keys that the editor gets.
-class TreeView::LabelDelegate : public QStyledItemDelegate
+class TreeView::LabelDelegate : public ItemDelegate
 {
 public:
-    explicit LabelDelegate(TreeView *tree) : QStyledItemDelegate(tree), m_tree(tree) {}
+    explicit LabelDelegate(TreeView *tree) : ItemDelegate(tree), m_tree(tree) {}
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
         m_tree->m_edited = static_cast<Node *>(m_tree->itemFromIndex(index));
         Q_EMIT m_tree->BeforeLabelEdit();
-        QWidget *editor = QStyledItemDelegate::createEditor(parent, option, index);
+        QWidget *editor = ItemDelegate::createEditor(parent, option, index);
         editor->setObjectName(m_tree->objectName() + QLatin1String(".LabelEdit"));
         editor->setAccessibleName(m_tree->m_edited->Text());
         if (auto *line = qobject_cast<QLineEdit *>(editor))
@@ -51,7 +51,7 @@ protected:
     {
         if (event->type() == QEvent::KeyPress)
             m_tree->m_pressedKey = static_cast<QKeyEvent *>(event)->key();
-        return QStyledItemDelegate::eventFilter(editor, event);
+        return ItemDelegate::eventFilter(editor, event);
     }
 
 private:
