@@ -197,7 +197,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (element == PE_PanelButtonCommand)
         return drawEdge(*painter, *option, option->state & State_HasFocus && option->state & State_KeyboardFocusChange);
-    if (element == PE_IndicatorCheckBox)
+    if (element == PE_IndicatorCheckBox || element == PE_FrameWindow)
         drawEdge(*painter, *option, false);
     else if (element == PE_IndicatorRadioButton)
         drawRoundEdge(*painter, *option);
@@ -250,8 +250,13 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
         control == CC_GroupBox && box && isFusion())
         return drawGroupBox(*box, *painter, widget);
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-    if (control == CC_ComboBox && isFusion())
+    if (!isFusion())
+        return;
+    if (control == CC_ComboBox)
         drawEdge(*painter, *option, option->state & State_HasFocus);
+    else if (control == CC_ScrollBar && option->subControls & SC_ScrollBarSlider)
+        drawFrame(*painter, subControlRect(CC_ScrollBar, option, SC_ScrollBarSlider, widget),
+                  option->palette.color(QPalette::Dark));
 }
 
 } // namespace desktop

@@ -3,8 +3,6 @@
 // folder it leaves a picture of each there.
 #include "events/Calendar.h"
 #include "platform/desktop/Contrast.h"
-#include "platform/desktop/Controls.h"
-#include "platform/desktop/ListView.h"
 #include "platform/desktop/Style.h"
 #include "shell/frame/MDIBaseForm.h"
 #include "shell/frame/frmLogin.h"
@@ -16,8 +14,6 @@
 #include <QRegularExpression>
 #include <QTextCharFormat>
 #include <QToolTip>
-
-#include <array>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -148,18 +144,17 @@ private Q_SLOTS:
         for (const auto &[dark, ratio] : {std::pair(false, 1.0), {true, 1.0}, {false, 1.25}, {true, 1.5}}) {
             setLook(9, dark);
             QWidget window;
-            desktop::ListView list(&window, u"list");
+            desktop::ListBox list(&window, u"list");
             desktop::TextBox box(&window, u"box");
             window.show();
             QVERIFY(QTest::qWaitForWindowActive(&window));
-            for (QWidget *control : std::array<QWidget *, 4>{&list, &list, &box, &box}) {
+            for (QWidget *control : QList<QWidget *>{&list, &list, &box, &box}) {
                 QImage seen((QSizeF(control->size()) * ratio).toSize(), QImage::Format_RGB32);
                 seen.setDevicePixelRatio(ratio);
                 control->render(&seen);
                 control->setFocus(); // for the second time
-                const QPoint last = seen.rect().bottomRight();
-                for (const QPoint &place : {QPoint(0, last.y() / 2), QPoint(last.x() / 2, 0),
-                                            QPoint(last.x(), last.y() / 2), QPoint(last.x() / 2, last.y())})
+                const auto [x, y] = std::pair(seen.width() - 1, seen.height() - 1);
+                for (const auto &place : {QPoint(0, y / 2), QPoint(x / 2, 0), QPoint(x, y / 2), QPoint(x / 2, y)})
                     QVERIFY(desktop::contrast(seen.pixelColor(place), window.palette().window().color()) >= 3);
             }
         }
