@@ -5,6 +5,8 @@
 #include "benchmarks/ProcessFigure.h"
 #include "benchmarks/StoredLargeFile.h"
 
+#include <QGuiApplication>
+
 #include <string_view>
 
 using namespace Qt::Literals::StringLiterals;
@@ -24,6 +26,7 @@ template <class Work> int measure(Work &&work)
 
 int main(int argc, char **argv)
 {
+    const QGuiApplication application(argc, argv); // the way of a file into the store shows the wait pointer
     const std::string_view way = argc == 2 ? argv[1] : "";
     if (way == "store-ours")
         return measure([store = files::empty(u"stored.mdb"_s)] { largefile::storeOurs(store); });

@@ -80,10 +80,12 @@ DesignSurface::DesignSurface(desktop::PictureBox &canvas, desktop::TabStrip &tab
 
 void DesignSurface::drawGrid(qint16 step)
 {
+    const double rows = m_canvas.Height() / step;
+    const double columns = m_canvas.Width() / step;
     double y = step;
-    for (int row = 1; row < m_canvas.Height() / step; ++row) {
+    for (int row = 1; row < rows; ++row) {
         m_rows.RowCounter = 1;
-        for (double x = step; m_rows.RowCounter < m_canvas.Width() / step; x += step) {
+        for (double x = step; m_rows.RowCounter < columns; x += step) {
             m_canvas.PSet(x, y);
             m_rows.countUp();
         }

@@ -2,10 +2,10 @@
 #include "datafile/Copies.h"
 #include "datafile/Export.h"
 #include "datafile/Generator.h"
-#include "datafile/Looking.h"
 #include "datafile/MemberImport.h"
 #include "datafile/Sample.h"
 #include "datafile/Schema.h"
+#include "support/DataFolder.h"
 #include "support/Outcome.h"
 
 #include <QProcess>
@@ -15,7 +15,6 @@
 #include <csignal>
 
 using namespace Qt::Literals::StringLiterals;
-using namespace datafiletest;
 
 namespace {
 
@@ -31,13 +30,13 @@ QString outcomeOfTool(const QStringList &arguments, const QString &folder)
            QString::fromUtf8(tool.readAllStandardError());
 }
 
-datafile::Imported importInto(const Folder &folder, const QByteArray &csv, datafile::ImportOptions options = {})
+datafile::Imported importInto(const DataFolder &folder, const QByteArray &csv, datafile::ImportOptions options = {})
 {
-    if (!QFile::exists(folder.path(u"f.mdb"_s)))
-        datafile::createDataFile(folder.path(u"f.mdb"_s));
+    if (!QFile::exists(folder.file()))
+        datafile::createDataFile(folder.file());
     folder.write(u"f.csv"_s, csv);
     datafile::Progress progress({});
-    return datafile::importMembers(folder.path(u"f.mdb"_s), folder.path(u"f.csv"_s), options, progress);
+    return datafile::importMembers(folder.file(), folder.path(u"f.csv"_s), options, progress);
 }
 
 constexpr auto members = "SELECT * FROM MemberInformation ORDER BY MemberId";
@@ -73,7 +72,7 @@ private Q_SLOTS:
 
     void exitCodes()
     {
-        const Folder folder;
+        const DataFolder folder(DataFolder::Content::None);
         QFETCH(QString, arguments);
         QFETCH(QString, outcome);
         datafile::createDataFile(folder.path(u"old.mdb"_s));
@@ -88,7 +87,7 @@ private Q_SLOTS:
 
     void stoppedWorkLeavesNothing()
     {
-        const Folder folder;
+        const DataFolder folder(DataFolder::Content::None);
         QProcess tool;
         tool.setWorkingDirectory(folder.folder());
         tool.start(QStringLiteral(TOLMARK_DATAFILE),
@@ -105,13 +104,13 @@ private Q_SLOTS:
     // Another connection adds a member with an interest in the middle of the copy.
     void copyIsOfOneMoment()
     {
-        const Folder folder;
-        datafile::createGeneratedFile(folder.path(u"f.mdb"_s), {.members = 9000, .attachments = 5000});
+        const DataFolder folder(DataFolder::Content::None);
+        datafile::createGeneratedFile(folder.file(), {.members = 9000, .attachments = 5000});
         data::Database source;
         data::Database writer;
         data::Database copy;
-        source.open(folder.path(u"f.mdb"_s));
-        writer.open(folder.path(u"f.mdb"_s));
+        source.open(folder.file());
+        writer.open(folder.file());
         copy.create(folder.path(u"copy.mdb"_s));
         int steps = 0;
         source.copyTo(copy, [&](int, int) {
@@ -121,44 +120,42 @@ private Q_SLOTS:
                     "INSERT INTO MemberInterest (MemberId) SELECT max(MemberId) FROM MemberInformation");
         });
         QVERIFY(steps > 2);
-        QCOMPARE(valueOf(copy, "PRAGMA integrity_check"), u"ok"_s);
+        QCOMPARE(rowsOf(copy, "PRAGMA integrity_check"), QStringList{u"ok"_s});
         for (const char *count : {"SELECT count(*) FROM MemberInformation", "SELECT count(*) FROM MemberInterest"})
-            QCOMPARE(valueOf(copy, count), valueOf(source, count));
+            QCOMPARE(rowsOf(copy, count), rowsOf(source, count));
 
         datafile::Progress progress({});
-        datafile::backUp(folder.path(u"f.mdb"_s), folder.path(u"backup.mdb"_s), progress); // while both have it open
-        QCOMPARE(QFileInfo(folder.path(u"backup.mdb"_s)).size(), QFileInfo(folder.path(u"f.mdb"_s)).size());
+        datafile::backUp(folder.file(), folder.path(u"backup.mdb"_s), progress); // while both have it open
+        QCOMPARE(QFileInfo(folder.path(u"backup.mdb"_s)).size(), QFileInfo(folder.file()).size());
     }
 
     void restoreKeepsTheOldFile()
     {
-        const Folder folder;
+        const DataFolder folder(DataFolder::Content::None);
         datafile::createSampleFile(folder.path(u"copy.mdb"_s));
         folder.write(u"Tolmark.mdb"_s, {}); // cut off, with changes that SQLite would put into any file there
         folder.write(u"Tolmark.mdb-journal"_s, "of the old file");
         datafile::Progress progress({});
-        const QString old = datafile::restore(folder.path(u"copy.mdb"_s), folder.path(u"Tolmark.mdb"_s), progress);
+        const QString old = datafile::restore(folder.path(u"copy.mdb"_s), folder.file(), progress);
         QVERIFY2(QRegularExpression(u"/Tolmark \\d{4}-\\d\\d-\\d\\d \\d{6}\\.mdb$"_s).match(old).hasMatch(),
                  qPrintable(old));
-        QCOMPARE(bytesOf(old), QByteArray());
-        QCOMPARE(bytesOf(old + u"-journal"_s), QByteArray("of the old file"));
+        QCOMPARE(contentOf(old), QByteArray());
+        QCOMPARE(contentOf(old + u"-journal"_s), QByteArray("of the old file"));
         QCOMPARE(folder.names().size(), 4);
-        data::Database file;
-        file.open(folder.path(u"Tolmark.mdb"_s));
-        QCOMPARE(valueOf(file, "SELECT count(*) FROM MemberInformation"), u"64"_s);
+        QCOMPARE(folder.row("SELECT count(*) FROM MemberInformation"), u"64"_s);
     }
 
     void restoreRefuses()
     {
-        const Folder folder;
+        const DataFolder folder(DataFolder::Content::None);
         datafile::createSampleFile(folder.path(u"copy.mdb"_s));
-        datafile::createDataFile(folder.path(u"Tolmark.mdb"_s));
-        const QByteArray before = bytesOf(folder.path(u"Tolmark.mdb"_s));
+        datafile::createDataFile(folder.file());
+        const QByteArray before = contentOf(folder.file());
         const QStringList names = folder.names();
         const QStringList arguments{u"restore"_s, u"copy.mdb"_s, u"Tolmark.mdb"_s};
         {
             data::Database idle; // holds no lock, as the program between two clicks
-            idle.open(folder.path(u"Tolmark.mdb"_s));
+            idle.open(folder.file());
             const QString outcome = outcomeOfTool(arguments, folder.folder());
             QVERIFY2(outcome.startsWith(u"1 "_s) && outcome.contains(u"(process %1); close it first"_s.arg(getpid())),
                      qPrintable(outcome));
@@ -167,19 +164,16 @@ private Q_SLOTS:
         }
         datafile::Progress progress({});
         folder.write(u"text"_s, "no copy");
-        QVERIFY(errorNumberOf(
-                    [&] { datafile::restore(folder.path(u"text"_s), folder.path(u"Tolmark.mdb"_s), progress); }) != 0);
-        QCOMPARE(bytesOf(folder.path(u"Tolmark.mdb"_s)), before);
+        QVERIFY(errorNumberOf([&] { datafile::restore(folder.path(u"text"_s), folder.file(), progress); }) != 0);
+        QCOMPARE(contentOf(folder.file()), before);
         QCOMPARE(folder.names(), names + QStringList{u"text"_s});
     }
 
     void exportHasEveryValue()
     {
-        const Folder folder;
-        datafile::createSampleFile(folder.path(u"f.mdb"_s));
-        data::Database file;
-        file.open(folder.path(u"f.mdb"_s));
-        file.execute(
+        const DataFolder folder(DataFolder::Content::None);
+        datafile::createSampleFile(folder.file());
+        folder.execute(
             "CREATE TABLE \"a/b\" (\"x,y\" TEXT, Amount CURRENCY, Day DATETIME, Flag BOOLEAN, Size DOUBLE, Bytes BLOB);"
             "INSERT INTO \"a/b\" VALUES ('=1+1', 1234.5, '2003-05-01 00:00:00', -1, 0.1, x'00'),"
             "('say \"a\"' || char(10), -0.0001, '1899-12-30 09:05:00', 0, 1e300, NULL), ('', NULL, NULL, NULL, NULL, "
@@ -188,24 +182,24 @@ private Q_SLOTS:
             "INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion, Attachments) VALUES "
             "(7, '../a.txt', 1, x'414200'), (7, '../A.TXT', 1, x'43'), (7, 'gone', 1, NULL)");
         datafile::Progress progress({});
-        datafile::exportFile(folder.path(u"f.mdb"_s), folder.path(u"out"_s), progress);
-        QCOMPARE(bytesOf(folder.path(u"out/a_b.csv"_s)),
+        datafile::exportFile(folder.file(), folder.path(u"out"_s), progress);
+        QCOMPARE(contentOf(folder.path(u"out/a_b.csv"_s)),
                  QByteArray("\"x,y\",Amount,Day,Flag,Size\r\n"
                             "'=1+1,1234.5,2003-05-01,Yes,0.1\r\n"
                             "\"say \"\"a\"\"\n\",-0.0001,1899-12-30 09:05:00,No,1e+300\r\n"
                             "\"\",,,,\r\n"
                             "''+,1,soon,Yes,3\r\n"));
         const QString attached = folder.path(u"out/Attachments/member 7/"_s);
-        QCOMPARE(bytesOf(attached + u"_.._a (version 1).txt"_s), QByteArray("AB"));
-        QCOMPARE(bytesOf(attached + u"_.._A (2) (version 1).TXT"_s), QByteArray("C"));
+        QCOMPARE(contentOf(attached + u"_.._a (version 1).txt"_s), QByteArray("AB"));
+        QCOMPARE(contentOf(attached + u"_.._A (2) (version 1).TXT"_s), QByteArray("C"));
         QVERIFY(QFile::exists(folder.path(u"out/Documents/node 3 Bylaws/Bylaws (version 2).txt"_s)));
-        QCOMPARE(bytesOf(folder.path(u"out/Files.csv"_s)).count('\n'), 1 + 15 + 3 + 8);
-        QCOMPARE(folder.names(), (QStringList{u"f.mdb"_s, u"out"_s}));
+        QCOMPARE(contentOf(folder.path(u"out/Files.csv"_s)).count('\n'), 1 + 15 + 3 + 8);
+        QCOMPARE(folder.names(), (QStringList{u"Tolmark.mdb"_s, u"out"_s}));
     }
 
     void exportComesBackEqual()
     {
-        const Folder folder;
+        const DataFolder folder(DataFolder::Content::None);
         datafile::createSampleFile(folder.path(u"from.mdb"_s));
         data::Database from;
         from.open(folder.path(u"from.mdb"_s));
@@ -215,13 +209,11 @@ private Q_SLOTS:
                      "UPDATE Contributions SET ContributionAmount = '922337203685477.5807 exact'");
         datafile::Progress progress({});
         datafile::exportFile(folder.path(u"from.mdb"_s), folder.path(u"out"_s), progress);
-        QVERIFY(bytesOf(folder.path(u"out/Contributions.csv"_s)).contains(",922337203685477.5807,"));
-        const datafile::Imported imported = importInto(folder, bytesOf(folder.path(u"out/MemberInformation.csv"_s)));
+        QVERIFY(contentOf(folder.path(u"out/Contributions.csv"_s)).contains(",922337203685477.5807,"));
+        const datafile::Imported imported = importInto(folder, contentOf(folder.path(u"out/MemberInformation.csv"_s)));
         QCOMPARE(imported.members, 63);
-        data::Database file;
-        file.open(folder.path(u"f.mdb"_s));
-        QCOMPARE(rowsOf(file, members), rowsOf(from, members));
-        QCOMPARE(valueOf(file, "SELECT count(*) FROM NodeInformation WHERE NodeName IN ('Å', 'É', 'Ł', 'Ö')"), u"4"_s);
+        QCOMPARE(folder.rows(members), rowsOf(from, members));
+        QCOMPARE(folder.row("SELECT count(*) FROM NodeInformation WHERE NodeName IN ('Å', 'É', 'Ł', 'Ö')"), u"4"_s);
     }
 
     void spreadsheetsAreRead_data()
@@ -244,21 +236,19 @@ private Q_SLOTS:
 
     void spreadsheetsAreRead()
     {
-        const Folder folder;
+        const DataFolder folder(DataFolder::Content::None);
         QFETCH(QByteArray, csv);
         const bool hasMore = csv.contains("A,B,C,D");
         const datafile::Imported imported =
             importInto(folder, csv, {hasMore ? QStringList{u"A,B,C,D=-"_s} : QStringList(), {}, false});
         QCOMPARE(imported.members, 1);
-        data::Database file;
-        file.open(folder.path(u"f.mdb"_s));
-        QCOMPARE(valueOf(file, "SELECT LastName, City, Active FROM MemberInformation"), u"Núñez|a,b|-1"_s);
+        QCOMPARE(folder.row("SELECT LastName, City, Active FROM MemberInformation"), u"Núñez|a,b|-1"_s);
     }
 
     // A different value in each column.
     void everyColumnIsStored()
     {
-        const Folder folder;
+        const DataFolder folder(DataFolder::Content::None);
         const QByteArray header =
             "MemberId,MemberType,Active,FirstName,MiddleName,LastName,AddressOne,AddressTwo,City,State,"
             "Zip,HomePhone,CellPhone,EMailAddress,EmployerName,EmployerAddressOne,EmployerAddressTwo,"
@@ -271,12 +261,10 @@ private Q_SLOTS:
                 "\n7,family,no,f,m,l,a1,a2,c,Ohio,z,h,+1,e@x,en,ea1,ea2,ec,Virginia,ez,ep,ex,ee,ew,chess,d,5/31/2003,"
                 "\"$1,234.5\",cn\n");
         QVERIFY(imported.faults.isEmpty());
-        data::Database file;
-        file.open(folder.path(u"f.mdb"_s));
-        QCOMPARE(valueOf(file, members), u"7|2|f|m|l|a1|a2|c|Ohio|z|h|+1|e@x|0"_s);
-        QCOMPARE(valueOf(file, "SELECT * FROM EmployerInformation"), u"7|en|ea1|ea2|ec|Virginia |ez|ep|ex|ee|ew"_s);
-        QCOMPARE(valueOf(file, "SELECT * FROM MemberInterest"), u"1|7|chess|d"_s);
-        QCOMPARE(valueOf(file, "SELECT * FROM Contributions"), u"1|7|2003-05-31 00:00:00|1234.5|cn"_s);
+        QCOMPARE(folder.row(members), u"7|2|f|m|l|a1|a2|c|Ohio|z|h|+1|e@x|0"_s);
+        QCOMPARE(folder.row("SELECT * FROM EmployerInformation"), u"7|en|ea1|ea2|ec|Virginia |ez|ep|ex|ee|ew"_s);
+        QCOMPARE(folder.row("SELECT * FROM MemberInterest"), u"1|7|chess|d"_s);
+        QCOMPARE(folder.row("SELECT * FROM Contributions"), u"1|7|2003-05-31 00:00:00|1234.5|cn"_s);
     }
 
     void faultsAreTold_data()
@@ -313,7 +301,7 @@ private Q_SLOTS:
 
     void faultsAreTold()
     {
-        const Folder folder;
+        const DataFolder folder(DataFolder::Content::None);
         QFETCH(QByteArray, csv);
         QFETCH(QString, fault);
         QStringList faults;
@@ -329,20 +317,17 @@ private Q_SLOTS:
 
     void importIsAllOrNothing()
     {
-        const Folder folder;
-        datafile::createSampleFile(folder.path(u"f.mdb"_s));
-        const QByteArray before = bytesOf(folder.path(u"f.mdb"_s));
+        const DataFolder folder(DataFolder::Content::None);
+        datafile::createSampleFile(folder.file());
+        const QByteArray before = contentOf(folder.file());
         const QByteArray good = "MemberId,LastName\n900,Bell\n,Åse\n";
         QCOMPARE(importInto(folder, good, {.isDryRun = true}).members, 2);
         QCOMPARE(importInto(folder, good + "64,Bell\n").faults.size(), 1);
-        QCOMPARE(bytesOf(folder.path(u"f.mdb"_s)), before);
+        QCOMPARE(contentOf(folder.file()), before);
         importInto(folder, good);
-        data::Database file;
-        file.open(folder.path(u"f.mdb"_s));
-        QCOMPARE(rowsOf(file, "SELECT MemberId, LastName FROM MemberInformation WHERE MemberId > 64"),
+        QCOMPARE(folder.rows("SELECT MemberId, LastName FROM MemberInformation WHERE MemberId > 64"),
                  (QStringList{u"900|Bell"_s, u"901|Åse"_s}));
-        file.execute("UPDATE sqlite_sequence SET seq = 32767 WHERE name = 'MemberInformation'");
-        file.close();
+        folder.execute("UPDATE sqlite_sequence SET seq = 32767 WHERE name = 'MemberInformation'");
         QCOMPARE(importInto(folder, "Last Name\nBell\n").faults.size(), 1); // no 16-bit number is left
     }
 };

@@ -2,10 +2,10 @@
 // file that exists.
 #include "datafile/Check.h"
 #include "datafile/Generator.h"
-#include "datafile/Looking.h"
 #include "datafile/Sample.h"
 #include "datafile/Schema.h"
 #include "platform/runtime/Date.h"
+#include "support/DataFolder.h"
 #include "support/Outcome.h"
 
 #include <QTest>
@@ -13,7 +13,6 @@
 #include <optional>
 
 using namespace Qt::Literals::StringLiterals;
-using namespace datafiletest;
 
 class tst_datafile : public QObject
 {
@@ -21,7 +20,7 @@ class tst_datafile : public QObject
 private Q_SLOTS:
     void newFilesPassTheCheck()
     {
-        const Folder folder;
+        const DataFolder folder(DataFolder::Content::None);
         datafile::createDataFile(folder.path(u"empty.mdb"_s));
         datafile::createSampleFile(folder.path(u"sample.mdb"_s));
         datafile::createGeneratedFile(folder.path(u"made.mdb"_s), {.members = 20});
@@ -107,7 +106,7 @@ private Q_SLOTS:
 
     void nothingIsOverwritten()
     {
-        const Folder folder;
+        const DataFolder folder(DataFolder::Content::None);
         const QString mine = folder.write(u"file"_s, "mine");
         QVERIFY(QDir(folder.folder()).mkdir(u"folder"_s));
         QVERIFY(QFile::link(mine, folder.path(u"link"_s)));
@@ -125,21 +124,21 @@ private Q_SLOTS:
             QCOMPARE(errorNumberOf([&] { datafile::createGeneratedFile(path, {.members = 1}); }), number);
         }
         QCOMPARE(folder.names(), before);
-        QCOMPARE(bytesOf(mine), QByteArray("mine"));
+        QCOMPARE(contentOf(mine), QByteArray("mine"));
     }
 
     void failedCreationLeavesNothing()
     {
-        const Folder folder;
+        const DataFolder folder(DataFolder::Content::None);
         const auto fail = [](data::Database &file) { file.execute("INSERT INTO NoSuchTable VALUES (1)"); };
-        QVERIFY(errorNumberOf([&] { datafile::createDataFile(folder.path(u"f.mdb"_s), fail); }) != 0);
+        QVERIFY(errorNumberOf([&] { datafile::createDataFile(folder.file(), fail); }) != 0);
         QCOMPARE(folder.names(), QStringList());
 
         // Something takes the path while the file is being made.
-        const auto takePath = [&folder](data::Database &) { folder.write(u"f.mdb"_s, "theirs"); };
-        QCOMPARE(errorNumberOf([&] { datafile::createDataFile(folder.path(u"f.mdb"_s), takePath); }), 58);
-        QCOMPARE(folder.names(), QStringList{u"f.mdb"_s});
-        QCOMPARE(bytesOf(folder.path(u"f.mdb"_s)), QByteArray("theirs"));
+        const auto takePath = [&folder](data::Database &) { folder.write(u"Tolmark.mdb"_s, "theirs"); };
+        QCOMPARE(errorNumberOf([&] { datafile::createDataFile(folder.file(), takePath); }), 58);
+        QCOMPARE(folder.names(), QStringList{u"Tolmark.mdb"_s});
+        QCOMPARE(contentOf(folder.file()), QByteArray("theirs"));
     }
 
     // The windows add rows without these columns.
@@ -169,7 +168,7 @@ private Q_SLOTS:
 
     void prefixQueriesUseTheIndex()
     {
-        const Folder folder;
+        const DataFolder folder(DataFolder::Content::None);
         datafile::createGeneratedFile(folder.file(), {.members = 200});
         for (const auto &[query, index] :
              {std::pair(

@@ -1,12 +1,12 @@
 // Data files of the older format: values and rows from their bytes, what a reader process sends, and what becomes of
 // it.
 #include "datafile/Check.h"
-#include "datafile/Looking.h"
 #include "datafile/jet/Confinement.h"
 #include "datafile/jet/Header.h"
 #include "datafile/jet/JetImport.h"
 #include "datafile/jet/RowBytes.h"
 #include "datafile/jet/ValueBytes.h"
+#include "support/DataFolder.h"
 
 #include <QTest>
 #include <QtEndian>
@@ -18,7 +18,6 @@
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
-using namespace datafiletest;
 using jet::CellBytes;
 using jet::ColumnKind;
 
@@ -178,8 +177,7 @@ private Q_SLOTS:
     // The page that the designer made works, as the check sees it, and numbers go on where they were.
     void tablesAreMatched()
     {
-        const Folder folder;
-        const QString path = folder.path(u"f.mdb"_s);
+        const DataFolder folder(DataFolder::Content::None);
         const jet::ColumnHead key{u"Id"_s, ColumnKind::Long, true};
         const jet::ColumnHead person{u"PersonalInformationId"_s, ColumnKind::Long};
         const jet::ColumnHead date{u"TwoSkillsDate"_s, ColumnKind::Date};
@@ -191,27 +189,25 @@ private Q_SLOTS:
                            {{QByteArray(13, '\0') + little(7), utf16(u"Id"_s)}}};
         const Table bell = members({{little(3), utf16(u"Bell"_s), little(4)}}, {u"Shoe"_s, ColumnKind::Long});
         const QByteArray away = jet::linkedFrame(u"Away"_s);
-        const jet::Imported imported = importStream(streamOf({skills, bell, pages, fields}, away), path);
+        const jet::Imported imported = importStream(streamOf({skills, bell, pages, fields}, away), folder.file());
         QCOMPARE(imported.rows, 5);
         for (const auto &note : {u"column [MemberInformation].[Shoe] is none"_s, u"table [Away] lies"_s,
                                  u"column [MemberInformation].[City] is missing"_s, u"table [Security] is missing"_s})
             QCOMPARE(imported.notes.filter(note).size(), 1);
-        QCOMPARE(datafile::faultsOf(path), QStringList());
-        data::Database file;
-        file.open(path);
-        file.execute("INSERT INTO [Two Skills] (PersonalInformationId) VALUES (3);"
-                     "INSERT INTO MemberInformation (LastName) VALUES ('Åse')");
-        QCOMPARE(rowsOf(file, "SELECT MemberId, LastName, Active, Shoe FROM MemberInformation"),
+        QCOMPARE(datafile::faultsOf(folder.file()), QStringList());
+        folder.execute("INSERT INTO [Two Skills] (PersonalInformationId) VALUES (3);"
+                       "INSERT INTO MemberInformation (LastName) VALUES ('Åse')");
+        QCOMPARE(folder.rows("SELECT MemberId, LastName, Active, Shoe FROM MemberInformation"),
                  (QStringList{u"3|Bell|-1|4"_s, u"41|Åse|-1|NULL"_s}));
-        QCOMPARE(rowsOf(file, "SELECT Id, length(TwoSkillsDate) FROM [Two Skills]"),
+        QCOMPARE(folder.rows("SELECT Id, length(TwoSkillsDate) FROM [Two Skills]"),
                  (QStringList{u"5|19"_s, u"5|NULL"_s, u"10|19"_s}));
-        QCOMPARE(rowsOf(file, "SELECT TabId, TabNam, FieldName FROM TabInfo NATURAL JOIN FieldInfo"),
+        QCOMPARE(folder.rows("SELECT TabId, TabNam, FieldName FROM TabInfo NATURAL JOIN FieldInfo"),
                  QStringList{u"7|Two Skills|Id"_s});
     }
 
     void failuresNameTheirPlace()
     {
-        const Folder folder;
+        const DataFolder folder(DataFolder::Content::None);
         const QByteArray ann = utf16(u"Ann"_s);
         const QList<CellBytes> row{little(1), ann, std::nullopt};
         Table more = members({row});
@@ -232,7 +228,7 @@ private Q_SLOTS:
                            u", row 1, column [Active]: its value is none"_s},
                  std::pair{streamOf({members({}, {u"Odd"_s, ColumnKind(18)})}), u", column [Odd]: is of the type 18"_s},
              }) {
-            const QString reason = errorOf([&, &stream = stream] { importStream(stream, folder.path(u"f.mdb"_s)); });
+            const QString reason = errorOf([&, &stream = stream] { importStream(stream, folder.file()); });
             QVERIFY2(reason.contains(begin), qPrintable(reason));
             QCOMPARE(folder.names(), QStringList());
         }
@@ -240,7 +236,7 @@ private Q_SLOTS:
 
     void readerMayFail()
     {
-        const Folder folder;
+        const DataFolder folder(DataFolder::Content::None);
         const QString old = folder.write(u"old.mdb"_s, emptyFile());
         const QString crash = folder.write(u"crash"_s, "#!/bin/sh\nkill -SEGV $$\n");
         QVERIFY(QFile::setPermissions(crash, QFile::ReadOwner | QFile::ExeOwner));
@@ -251,7 +247,7 @@ private Q_SLOTS:
                  std::pair{QStringLiteral(TOLMARK_DATAFILE), u"its list of tables (MSysObjects): its definition is"_s},
              }) {
             const QString reason =
-                errorOf([&, &tool = tool] { jet::importFile(old, folder.path(u"f.mdb"_s), {}, tool, progress); });
+                errorOf([&, &tool = tool] { jet::importFile(old, folder.file(), {}, tool, progress); });
             QVERIFY2(reason.startsWith(u"57 '%1': %2"_s.arg(old, begin)), qPrintable(reason));
             QCOMPARE(folder.names(), (QStringList{u"crash"_s, u"old.mdb"_s}));
         }
@@ -259,7 +255,7 @@ private Q_SLOTS:
 
     void readerCanChangeNothing()
     {
-        const Folder folder;
+        const DataFolder folder(DataFolder::Content::None);
         const QByteArray path = folder.write(u"f"_s, "text").toLocal8Bit();
         const pid_t reader = fork();
         if (reader == 0) {

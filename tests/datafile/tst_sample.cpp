@@ -1,13 +1,12 @@
 // The sample organisation and the generated ones: whole, well typed and the same every time.
 #include "datafile/Generator.h"
-#include "datafile/Looking.h"
+#include "support/DataFolder.h"
 #include "support/Outcome.h"
 
 #include <QDateTime>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
-using namespace datafiletest;
 
 class tst_sample : public QObject
 {
@@ -66,37 +65,34 @@ private Q_SLOTS:
 
     void samplesAreEqual()
     {
-        const Folder folder;
+        const DataFolder folder(DataFolder::Content::None);
         datafile::createSampleFile(folder.path(u"a.mdb"_s));
         const qint64 second = QDateTime::currentSecsSinceEpoch();
         QTRY_VERIFY(QDateTime::currentSecsSinceEpoch() > second); // a moment of "now" in the file would differ
         datafile::createSampleFile(folder.path(u"b.mdb"_s));
-        QVERIFY(bytesOf(folder.path(u"a.mdb"_s)).size() > 100'000);
-        QVERIFY(bytesOf(folder.path(u"a.mdb"_s)) == bytesOf(folder.path(u"b.mdb"_s)));
+        QVERIFY(contentOf(folder.path(u"a.mdb"_s)).size() > 100'000);
+        QVERIFY(contentOf(folder.path(u"a.mdb"_s)) == contentOf(folder.path(u"b.mdb"_s)));
     }
 
     void generatedFileFollowsItsSeed()
     {
-        const Folder folder;
-        datafile::createGeneratedFile(folder.path(u"a.mdb"_s), {.seed = 7});
-        datafile::createGeneratedFile(folder.path(u"b.mdb"_s), {.seed = 7});
-        datafile::createGeneratedFile(folder.path(u"c.mdb"_s), {.seed = 8});
-        QVERIFY(bytesOf(folder.path(u"a.mdb"_s)) == bytesOf(folder.path(u"b.mdb"_s)));
-        data::Database a;
-        data::Database c;
-        a.open(folder.path(u"a.mdb"_s));
-        c.open(folder.path(u"c.mdb"_s));
+        const DataFolder folder(DataFolder::Content::None);
+        const DataFolder other(DataFolder::Content::None);
+        datafile::createGeneratedFile(folder.file(), {.seed = 7});
+        datafile::createGeneratedFile(folder.path(u"again.mdb"_s), {.seed = 7});
+        datafile::createGeneratedFile(other.file(), {.seed = 8});
+        QVERIFY(contentOf(folder.file()) == contentOf(folder.path(u"again.mdb"_s)));
         for (const char *query : {"SELECT FirstName FROM MemberInformation", "SELECT MemberId FROM MemberInterest",
                                   "SELECT hex(Attachments) FROM Attachments"})
-            QVERIFY2(rowsOf(a, query) != rowsOf(c, query), query);
+            QVERIFY2(folder.rows(query) != other.rows(query), query);
         // The same on every system: the first member of seed 7.
-        QCOMPARE(valueOf(a, "SELECT FirstName, LastName, AddressOne, City FROM MemberInformation WHERE MemberId = 1"),
+        QCOMPARE(folder.row("SELECT FirstName, LastName, AddressOne, City FROM MemberInformation WHERE MemberId = 1"),
                  u"Jin|Brown|2935 Broadway|Raleigh"_s);
     }
 
     void generatedFileHasItsCounts()
     {
-        const Folder folder;
+        const DataFolder folder(DataFolder::Content::None);
         datafile::GeneratorOptions options{
             .members = 3000, .inactivePercent = 10, .crowd = 2000, .crowdInitial = 'Q', .interests = 17};
         options.contributions = 16;
@@ -125,12 +121,12 @@ private Q_SLOTS:
 
     void generatorRefuses()
     {
-        const Folder folder;
+        const DataFolder folder(DataFolder::Content::None);
         for (const datafile::GeneratorOptions &options :
              {datafile::GeneratorOptions{.members = 0}, datafile::GeneratorOptions{.members = 32'768},
               datafile::GeneratorOptions{.members = 5, .crowd = 6}, datafile::GeneratorOptions{.crowdInitial = 's'},
               datafile::GeneratorOptions{.notes = -1}})
-            QCOMPARE(errorNumberOf([&] { datafile::createGeneratedFile(folder.path(u"f.mdb"_s), options); }),
+            QCOMPARE(errorNumberOf([&] { datafile::createGeneratedFile(folder.file(), options); }),
                      int(runtime::InvalidProcedureCall));
         QCOMPARE(folder.names(), QStringList());
     }

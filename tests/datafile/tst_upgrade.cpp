@@ -1,14 +1,13 @@
 // Older data files: brought to the present schema with their rows, or left as they were.
 #include "datafile/Check.h"
-#include "datafile/Looking.h"
 #include "datafile/Schema.h"
 #include "datafile/Upgrade.h"
 #include "platform/runtime/RuntimeError.h"
+#include "support/DataFolder.h"
 
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
-using namespace datafiletest;
 
 namespace {
 
@@ -27,12 +26,12 @@ QStringList layoutOf(const QString &path)
 }
 
 // A file of a former version with a member whose initial has no group, changed by a statement.
-QString makeOldFile(const Folder &folder, const QByteArray &change)
+QString makeOldFile(const DataFolder &folder, const QByteArray &change)
 {
-    const QString path = folder.path(u"f.mdb"_s);
+    const QString path = folder.file();
     data::Database file;
     file.create(path);
-    file.execute(bytesOf(QStringLiteral(TOLMARK_SCHEMAS "/schema-1.sql")));
+    file.execute(contentOf(QStringLiteral(TOLMARK_SCHEMAS "/schema-1.sql")));
     file.execute(datafile::builtIn(u"seed.sql"_s));
     file.execute("INSERT INTO MemberInformation (LastName) VALUES ('Åkesson'); " + change);
     return path;
@@ -61,7 +60,7 @@ private Q_SLOTS:
 
     void olderFiles()
     {
-        const Folder folder;
+        const DataFolder folder(DataFolder::Content::None);
         QFETCH(QByteArray, change);
         const QString path = makeOldFile(folder, change);
         QVERIFY(datafile::faultsOf(path).value(0).contains(u"tolmark-datafile upgrade "_s + path));
@@ -71,12 +70,10 @@ private Q_SLOTS:
         datafile::createDataFile(folder.path(u"new.mdb"_s));
         QCOMPARE(layoutOf(path), layoutOf(folder.path(u"new.mdb"_s)));
         QCOMPARE(datafile::faultsOf(path), QStringList());
-        data::Database file;
-        file.open(path);
-        QCOMPARE(valueOf(file, rows), u"1|Åkesson"_s);
+        QCOMPARE(folder.row(rows), u"1|Åkesson"_s);
         data::Database kept;
         kept.open(old);
-        QCOMPARE(valueOf(kept, rows), u"1|Åkesson"_s);
+        QCOMPARE(rowsOf(kept, rows), QStringList{u"1|Åkesson"_s});
         QVERIFY(datafile::versionOf(kept) < datafile::presentVersion());
     }
 
@@ -97,11 +94,11 @@ private Q_SLOTS:
 
     void refusedFiles()
     {
-        const Folder folder;
+        const DataFolder folder(DataFolder::Content::None);
         QFETCH(QByteArray, change);
         QFETCH(QString, reason);
         const QString path = makeOldFile(folder, change);
-        const QByteArray before = bytesOf(path);
+        const QByteArray before = contentOf(path);
         QString told;
         try {
             datafile::Progress progress({});
@@ -110,20 +107,20 @@ private Q_SLOTS:
             told = error.description();
         }
         QVERIFY2(told.contains(reason), qPrintable(told));
-        QCOMPARE(bytesOf(path), before);
-        QCOMPARE(folder.names(), QStringList{u"f.mdb"_s});
+        QCOMPARE(contentOf(path), before);
+        QCOMPARE(folder.names(), QStringList{u"Tolmark.mdb"_s});
     }
 
     void presentFileIsLeftAlone()
     {
-        const Folder folder;
-        const QString path = folder.path(u"f.mdb"_s);
+        const DataFolder folder(DataFolder::Content::None);
+        const QString path = folder.file();
         datafile::createDataFile(path);
-        const QByteArray before = bytesOf(path);
+        const QByteArray before = contentOf(path);
         datafile::Progress progress({});
         QCOMPARE(datafile::upgrade(path, progress), QString());
-        QCOMPARE(bytesOf(path), before);
-        QCOMPARE(folder.names(), QStringList{u"f.mdb"_s});
+        QCOMPARE(contentOf(path), before);
+        QCOMPARE(folder.names(), QStringList{u"Tolmark.mdb"_s});
     }
 };
 

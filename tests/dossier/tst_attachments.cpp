@@ -30,8 +30,7 @@ private Q_SLOTS:
         tab.butAddAttachement->click();
         QCOMPARE(files.title, u"OPEN FILE"_s);
         QCOMPARE(files.filters, (QStringList{u"All files (*)"_s, u"DOC files (*.doc)"_s, u"PDF files (*.pdf)"_s}));
-        QCOMPARE(boxes.seen[0].text, u"Attachment successfully uploaded"_s);
-        QCOMPARE(boxes.seen[0].icon, QMessageBox::Information);
+        QCOMPARE(boxes.seen[0].whole(), u"Tolmark Lite: Attachment successfully uploaded (Information, Ok)"_s);
         tab.butAddAttachement->click();
         QCOMPARE(versions(tab), QStringList(u"a.txt 7"_s)); // the current one alone
         tab.Check1->click();
@@ -86,7 +85,7 @@ private Q_SLOTS:
     {
         const std::pair<QString, QByteArray> files[] = {{u"empty.bin"_s, {}},
                                                         {u"zeros.bin"_s, QByteArray("\0a\0\0", 4)},
-                                                        {u"report\\2001.txt"_s, "y"},
+                                                        {u"report\\#1 %41.TXT"_s, "y"},
                                                         {u".profile"_s, "z"},
                                                         {u"Grüße 日本.txt"_s, "x"}};
         const QString saved = m_folder->path(u"saved"_s);

@@ -71,9 +71,7 @@ private Q_SLOTS:
             QCOMPARE(dossier.states(page.state).Text(), u"Ohio"_s);
             dossier.states(page.state).setText(u"Utah"_s);
             dossier.click(page.button);
-            QCOMPARE(answers.seen[0].text, u"Changes have been saved"_s);
-            QCOMPARE(answers.seen[0].title, u"Tolmark Lite"_s);
-            QCOMPARE(answers.seen[0].icon, QMessageBox::Information);
+            QCOMPARE(answers.seen[0].whole(), u"Tolmark Lite: Changes have been saved (Information, Ok)"_s);
             const QByteArray select =
                 "SELECT " + columns.join(", ") + ", State FROM " + page.table + " WHERE MemberId = ";
             QCOMPARE(m_folder->row(select + '1'), (expected + QStringList(u"ohio"_s)).join(u'|'));
@@ -151,14 +149,10 @@ private Q_SLOTS:
             QList<int> linesSeen;
             boxes.atBox = [&] { linesSeen << view.ListItems.Count(); };
             dossier.choose(item);
-            QCOMPARE(boxes.seen[0].text,
-                     u"Warning you are about to delete the selected "_s + thing + u"\r\nDo you want to continue"_s);
-            QCOMPARE(boxes.seen[0].title, u"Tolmark Lite"_s);
-            QCOMPARE(boxes.seen[0].icon, QMessageBox::NoIcon);
-            QCOMPARE(boxes.seen[0].buttons, QMessageBox::Yes | QMessageBox::No);
+            QCOMPARE(boxes.seen[0].whole(), u"Tolmark Lite: Warning you are about to delete the selected "_s + thing +
+                                                u"\r\nDo you want to continue (NoIcon, Yes|No)"_s);
             dossier.choose(item);
-            QCOMPARE(boxes.seen[2].text, confirmation);
-            QCOMPARE(boxes.seen[2].icon, QMessageBox::Information);
+            QCOMPARE(boxes.seen[2].whole(), u"Tolmark Lite: "_s + confirmation + u" (Information, Ok)"_s);
             QCOMPARE(linesSeen, (QList{2, 2, linesAtConfirmation}));
             QCOMPARE(view.ListItems.Count(), 1);
             QCOMPARE(view.ListItems(1).Tag, kept);
@@ -180,8 +174,7 @@ private Q_SLOTS:
             QApplication::activePopupWidget()->close();
         }
         dossier.choose("MnuDeleteAttachment");
-        QCOMPARE(boxes.seen[1].text, u"Nothing selected"_s);
-        QCOMPARE(boxes.seen[1].icon, QMessageBox::Information);
+        QCOMPARE(boxes.seen[1].whole(), u"Tolmark Lite: Nothing selected (Information, Ok)"_s);
         dossier.choose("MnuDeleteInterest");
         QCOMPARE(m_errors->takeNumber(), 91);
         dossier.choose("mnuInterestEdit");

@@ -70,9 +70,7 @@ private Q_SLOTS:
         tab.txtInterest->clear();
         BoxAnswers boxes({QMessageBox::Ok});
         tab.cmdAddInterest->click();
-        QCOMPARE(boxes.seen[0].text, u"Invalid Interest"_s);
-        QCOMPARE(boxes.seen[0].title, u"Tolmark"_s);
-        QCOMPARE(boxes.seen[0].icon, QMessageBox::Critical);
+        QCOMPARE(boxes.seen[0].whole(), u"Tolmark: Invalid Interest (Critical, Ok)"_s);
         QVERIFY(isEntering(tab));
         QCOMPARE(tab.cmdAddInterest->Tag, u"2"_s);
         tab.CMdInterestCancel->click();
@@ -116,15 +114,6 @@ private Q_SLOTS:
             QCOMPARE(tab.txtContribution->text(), typed); // the next entry begins with it
             m_folder->execute("DELETE FROM Contributions");
         }
-        // A key in the tag, to which no control leads, turns the save into a change.
-        m_folder->execute(
-            "INSERT INTO Contributions (ContributionId, MemberId, ContributionAmount) VALUES (1, 1, 1), (2, 1, 2)");
-        tab.cmdSaveContribution->Tag = u"2"_s;
-        tab.cmdSaveContribution_Click();
-        QVERIFY(tab.cmdSaveContribution->Tag.isEmpty());
-        QCOMPARE(m_folder->rows("SELECT ContributionId, CAST(ContributionAmount AS INTEGER), ContributionNotes FROM "
-                                "Contributions"),
-                 (QStringList{u"1|1|NULL"_s, u"2|-3|gift"_s}));
     }
 
     void rowsWithNullsLeaveTheirCellsEmpty()
@@ -153,8 +142,7 @@ private Q_SLOTS:
         {
             BoxAnswers boxes({QMessageBox::Ok});
             tab.CmdEventSave->click();
-            QCOMPARE(boxes.seen[0].text, u"Invalid event name"_s);
-            QCOMPARE(boxes.seen[0].icon, QMessageBox::Critical);
+            QCOMPARE(boxes.seen[0].whole(), u"Tolmark: Invalid event name (Critical, Ok)"_s);
         }
         QVERIFY(isEntering(tab));
         tab.lstEventSelect->setText(u"Walk"_s);

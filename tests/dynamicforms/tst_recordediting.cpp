@@ -174,9 +174,8 @@ private Q_SLOTS:
         QCOMPARE(m_folder->row("SELECT sum(Active), sum(Active * (PersonalInformationId = 2)), count(*) FROM [Personal "
                                "Information]"),
                  u"4|0|6"_s);
-        QCOMPARE(boxes.seen[0].text, u"You are about to delete this client from the database\r\n"
-                                     "Do you want to continue"_s);
-        QCOMPARE(boxes.seen[0].title, u"Quillon"_s);
+        QCOMPARE(boxes.seen[0].whole(), u"Quillon: You are about to delete this client from the database\r\n"
+                                        "Do you want to continue (NoIcon, Yes|No)"_s);
         OpenRecord nobody(77);
         OpenRecord::press(nobody->cmdDelete);
         QCOMPARE(m_errors->takeNumber(), 3021);

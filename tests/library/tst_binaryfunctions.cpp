@@ -2,11 +2,11 @@
 #include "library/ByteSearch.h"
 #include "library/ClsBinaryFunctions.h"
 #include "platform/runtime/BinaryFile.h"
-#include "support/DataStoreFolder.h"
+#include "support/FileTest.h"
+#include "support/Scanner.h"
 
 #include <QTest>
 
-#include <optional>
 #include <random>
 
 using namespace Qt::Literals::StringLiterals;
@@ -15,46 +15,10 @@ using runtime::Value;
 
 namespace {
 
-class Scanner : public ClsBinaryFunctions
-{
-public:
-    using ClsBinaryFunctions::FileHandle;
-    using ClsBinaryFunctions::FileLength;
-    using ClsBinaryFunctions::Found;
-    using ClsBinaryFunctions::MatchPosition;
-    using ClsBinaryFunctions::OneChar;
-    using ClsBinaryFunctions::Pattern;
-    using ClsBinaryFunctions::PrepareSearchText;
-    using ClsBinaryFunctions::ReadPosition;
-    using ClsBinaryFunctions::ScanAnyCase;
-    using ClsBinaryFunctions::ScanExactCase;
-    using ClsBinaryFunctions::ScanFile;
-};
-
 constexpr qint16 anyCase = 0;
 constexpr qint16 exactCase = 1;
 
 const auto allAttachments = u"SELECT * FROM Attachments"_s;
-
-// How a scan ends: the bytes read, the place of the hit or -1, the character read last.
-using Outcome = std::tuple<qint32, qint32, char16_t>;
-
-// The rule step by step: one byte at a time, and the byte that ends an attempt is gone.
-Outcome scannedByTheRule(QByteArrayView file, qint32 read, const QString &pattern, const runtime::CodePage &characters)
-{
-    char16_t last = 0;
-    while (read < file.size() - pattern.size()) {
-        qsizetype index = 0;
-        for (; index < pattern.size(); ++index) {
-            last = characters[uchar(file[read++])];
-            if (pattern.indexOf(QChar(last), index) != index)
-                break;
-        }
-        if (index == pattern.size())
-            return {read - qint32(index), read - qint32(index), last};
-    }
-    return {read, -1, last};
-}
 
 // Thick with the letters in some places and thin in others.
 QByteArray drawn(std::mt19937 &random, QByteArrayView letters, qsizetype size)
@@ -69,19 +33,14 @@ QByteArray drawn(std::mt19937 &random, QByteArrayView letters, qsizetype size)
 
 } // namespace
 
-class BinaryFunctionsTest : public QObject
+class BinaryFunctionsTest : public FileTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        m_folder.emplace(DataFolder::Content::Empty);
-        m_folder->open(m_connection);
-    }
+    void init() { open(DataFolder::Content::Empty); }
     void cleanup()
     {
-        m_connection = data::Connection();
-        m_folder.reset();
+        close();
         QCOMPARE(runtime::FreeFile(), qint16(1));
     }
 
@@ -127,13 +86,10 @@ private Q_SLOTS:
             scanner.ReadPosition = begin;
             scanner.FileLength = end;
             scanner.OneChar = 0;
-            const bool isExact = scanner.Check1Value == exactCase;
-            isExact ? scanner.ScanExactCase() : scanner.ScanAnyCase();
-            const Outcome outcome{scanner.ReadPosition, scanner.MatchPosition, scanner.OneChar};
-            const Outcome expected =
-                scannedByTheRule(QByteArrayView(content).first(end), begin, scanner.Pattern,
-                                 isExact ? runtime::ansiCharacters() : runtime::ansiUpperCaseCharacters());
-            if (outcome == expected && (scanner.Found == -1) == (scanner.MatchPosition >= 0)) {
+            scanner.isExact() ? scanner.ScanExactCase() : scanner.ScanAnyCase();
+            const Scanner::Outcome outcome{scanner.ReadPosition, scanner.MatchPosition, scanner.OneChar};
+            if (outcome == scanner.byTheRule(QByteArrayView(content).first(end), begin) &&
+                (scanner.Found == -1) == (scanner.MatchPosition >= 0)) {
                 hits += scanner.Found == -1;
                 continue;
             }
@@ -203,7 +159,7 @@ private Q_SLOTS:
                 "DELETE FROM Attachments; INSERT INTO Attachments (AttachmentsName, Attachments) VALUES (" +
                 QByteArray(row) + ')');
             QFile::remove(m_folder->path(u"temp/Search/a.txt"_s));
-            const QString raised = errorOf([&] { search.cmdOpendb(u"a"_s, statement); });
+            const QString raised = errorOf([&, statement = statement] { search.cmdOpendb(u"a"_s, statement); });
             QVERIFY2(raised.startsWith(error), qPrintable(raised));
             QCOMPARE(filesToScan().size(), open); // made before the field is asked for
             closeLeftOpen(open);
@@ -241,28 +197,6 @@ private Q_SLOTS:
         }
     }
 
-    // The data file's path is taken exactly: here it is one long name with backslashes. What counts is how many rows
-    // there are, not their highest version, and never those of the file in use.
-    void countsVersionsInItsOwnDataFile()
-    {
-        const QString copy =
-            m_folder->path(u"C:\\Documents and Settings\\Pell\\Desktop\\Norlund\\BusinessPlan\\Tolmark.mdb"_s);
-        m_folder->execute("INSERT INTO Attachments (AttachmentsName, AttachmentVersion) VALUES ('a.txt', 7), "
-                          "('A.TXT', 8), ('b', 1)");
-        QVERIFY(QFile::copy(m_folder->file(), copy));
-        m_folder->execute("DELETE FROM Attachments");
-        const QString source = m_folder->write(u"source"_s, "a");
-        Recordset rows = attachments();
-        const QString former = QDir::currentPath();
-        QVERIFY(QDir::setCurrent(m_folder->folder()));
-        const bool counted = ClsBinaryFunctions().UpLoadBinary(u"a.txt"_s, source, rows, true, u"12"_s, u""_s);
-        const bool withApostrophe = ClsBinaryFunctions().UpLoadBinary(u"it's"_s, source, rows, true, u"12"_s, u""_s);
-        QVERIFY(QDir::setCurrent(former));
-        QVERIFY(counted && !withApostrophe);
-        QCOMPARE(m_folder->rows("SELECT AttachmentsName, AttachmentVersion FROM Attachments"),
-                 QStringList{u"a.txt|3"_s});
-    }
-
     void downLoads()
     {
         m_folder->execute("INSERT INTO Attachments (Attachments) VALUES (x'61'), (x'626200')");
@@ -280,12 +214,7 @@ private Q_SLOTS:
     }
 
 private:
-    Recordset attachments()
-    {
-        Recordset rows;
-        rows.Open(allAttachments, m_connection);
-        return rows;
-    }
+    Recordset attachments() { return opened(allAttachments); }
     QStringList filesToScan() const
     {
         return QDir(m_folder->path(u"temp/Search"_s)).entryList(QDir::Files | QDir::Hidden);
@@ -308,9 +237,6 @@ private:
         runtime::CloseFile(scanner.FileHandle);
         return found == (scanner.MatchPosition >= 0) ? scanner.MatchPosition : -3;
     }
-
-    std::optional<DataStoreFolder> m_folder;
-    data::Connection m_connection;
 };
 
 QTEST_MAIN(BinaryFunctionsTest)

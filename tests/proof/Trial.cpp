@@ -1,6 +1,5 @@
 #include "proof/Trial.h"
 
-#include "datafile/Looking.h"
 #include "platform/runtime/Clock.h"
 #include "support/Dialogs.h"
 

@@ -10,6 +10,7 @@
 #include "platform/runtime/Conversion.h"
 #include "support/Outcome.h"
 
+#include <QDir>
 #include <QFile>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -46,6 +47,12 @@ public:
 
     QString path(const QString &name) const { return m_folder.filePath(name); }
     QString folder() const { return m_folder.path(); }
+    // Everything in it, hidden files and links that lead nowhere too.
+    QStringList names() const
+    {
+        return QDir(folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                                        QDir::Name);
+    }
     QString file() const { return path(QStringLiteral("Tolmark.mdb")); }
     QString connectionString() const { return connectionStringFor(file()); }
     static QString connectionStringFor(const QString &file)

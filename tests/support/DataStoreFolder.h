@@ -4,8 +4,6 @@
 #include "platform/runtime/Application.h"
 #include "support/DataFolder.h"
 
-#include <QDir>
-
 class DataStoreFolder : public DataFolder
 {
 public:

@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMetaEnum>
 #include <QTest>
 #include <QTimer>
 
@@ -21,6 +22,15 @@ struct SeenBox
     QString text;
     QMessageBox::Icon icon;
     QMessageBox::StandardButtons buttons;
+
+    // "Tolmark: Invalid Interest (Critical, Ok)", "Tolmark: Do you want to proceed? (NoIcon, Yes|No)".
+    QString whole() const
+    {
+        const QByteArray kind = QMetaEnum::fromType<QMessageBox::Icon>().valueToKey(icon);
+        QByteArray names = QMetaEnum::fromType<QMessageBox::StandardButtons>().valueToKeys(buttons);
+        names.replace("|FirstButton", ""); // Qt's second name of "Ok"
+        return QStringLiteral("%1: %2 (%3, %4)").arg(title, text, QLatin1String(kind), QLatin1String(names));
+    }
 };
 
 // Presses the planned buttons on the boxes that come up, in their order. A box that nobody planned is closed and fails

@@ -17,7 +17,7 @@ namespace desktop {
 namespace {
 
 const QString service = u"org.freedesktop.portal.Desktop"_s;
-const QString path = u"/org/freedesktop/portal/desktop"_s;
+const QString objectPath = u"/org/freedesktop/portal/desktop"_s;
 const QString interface = u"org.freedesktop.portal.Settings"_s;
 const QString appearance = u"org.freedesktop.appearance"_s;
 const QString colorScheme = u"color-scheme"_s;
@@ -31,9 +31,9 @@ DarkDesktop::DarkDesktop()
     if (!bus.isConnected())
         return;
     qRegisterMetaType<QDBusVariant>(); // or else the slot's type is unknown when the signal is connected
-    bus.connect(service, path, interface, u"SettingChanged"_s, this,
+    bus.connect(service, objectPath, interface, u"SettingChanged"_s, this,
                 SLOT(settingChanged(QString, QString, QDBusVariant)));
-    QDBusMessage read = QDBusMessage::createMethodCall(service, path, interface, u"Read"_s);
+    QDBusMessage read = QDBusMessage::createMethodCall(service, objectPath, interface, u"Read"_s);
     read << appearance << colorScheme;
     auto *answer = new QDBusPendingCallWatcher(bus.asyncCall(read), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {

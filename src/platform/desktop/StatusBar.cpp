@@ -77,8 +77,8 @@ void StatusBar::addPanel(Panel::Style style)
 
 void StatusBar::addKeyboardAndClockPanels()
 {
-    using Style = Panel::Style;
-    for (const Style style : {Style::CapsLock, Style::NumLock, Style::Insert, Style::Time, Style::Date})
+    using enum Panel::Style;
+    for (const Panel::Style style : {CapsLock, NumLock, Insert, Time, Date})
         addPanel(style);
 }
 

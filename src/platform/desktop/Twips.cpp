@@ -14,9 +14,16 @@ constexpr double usualLineHeight = 17.0; // logical pixels; what a box of 375 tw
 
 } // namespace
 
+// Measured once for each font, for places are asked for by the thousand.
 double letterScale()
 {
-    return qMax(1.0, QFontMetricsF(QApplication::font()).height() / usualLineHeight);
+    static QFont measured;
+    static double scale = 0;
+    if (const QFont font = QApplication::font(); scale == 0 || !font.isCopyOf(measured)) {
+        measured = font;
+        scale = qMax(1.0, QFontMetricsF(font).height() / usualLineHeight);
+    }
+    return scale;
 }
 
 int pixels(double twips)

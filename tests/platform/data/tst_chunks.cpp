@@ -1,25 +1,12 @@
-#include "support/DataFolder.h"
+#include "support/FileTest.h"
 
 #include <QTest>
 
-#include <optional>
-
 using namespace Qt::Literals::StringLiterals;
-using data::Connection;
 using data::Recordset;
 using runtime::Value;
 
 namespace {
-
-// By this process, from files, since it began.
-qint64 bytesReadSoFar()
-{
-    QFile statistics(u"/proc/self/io"_s);
-    if (!statistics.open(QIODevice::ReadOnly))
-        return -1;
-    const QList<QByteArray> words = statistics.readAll().replace('\n', ' ').split(' ');
-    return words.value(words.indexOf("rchar:") + 1).toLongLong();
-}
 
 Value bytes(const char *content)
 {
@@ -28,22 +15,13 @@ Value bytes(const char *content)
 
 } // namespace
 
-class ChunksTest : public QObject
+class ChunksTest : public FileTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_folder.emplace(DataFolder::Content::Empty);
-        m_folder->open(m_connection);
-    }
-
-    void cleanup()
-    {
-        m_connection = Connection();
-        m_folder.reset();
-    }
+    void init() { open(DataFolder::Content::Empty); }
+    void cleanup() { close(); }
 
     void storesASeries()
     {
@@ -153,39 +131,8 @@ private Q_SLOTS:
         QCOMPARE(rows[u"AttachmentsName"].ActualSize(), 6); // two bytes a character
     }
 
-    // Opening, ordering, counting, walking and adding must not read what ten attachments of 20 MB hold.
-    void leavesBytesAlone()
-    {
-        constexpr qint64 size = 20'000'000;
-        m_folder->execute("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 10) "
-                          "INSERT INTO Attachments (AttachmentsName, Attachments) SELECT 'n' || i, zeroblob(20000000) "
-                          "FROM n");
-        const qint64 before = bytesReadSoFar();
-        Recordset rows = attachments(u" ORDER BY AttachmentsName, AttachmentVersion DESC"_s);
-        QCOMPARE(rows.RecordCount(), 10);
-        for (; !rows.Eof(); rows.MoveNext())
-            QCOMPARE(rows[u"Attachments"].ActualSize(), size);
-        rows.AddNew();
-        rows[u"AttachmentsName"].setValue(u"small"_s);
-        rows.Update();
-        QCOMPARE(rows.RecordCount(), 11);
-        QVERIFY2(bytesReadSoFar() - before < size / 10, qPrintable(QString::number(bytesReadSoFar() - before)));
-
-        rows.MoveFirst();
-        QCOMPARE(rows[u"Attachments"].Value().get<QByteArray>().size(), size);
-        QVERIFY(bytesReadSoFar() - before >= size); // the measure does see them
-    }
-
 private:
-    Recordset attachments(const QString &condition = {})
-    {
-        Recordset rows;
-        rows.Open(u"select * from Attachments"_s + condition, m_connection);
-        return rows;
-    }
-
-    std::optional<DataFolder> m_folder;
-    Connection m_connection;
+    Recordset attachments(const QString &condition = {}) { return opened(u"select * from Attachments"_s + condition); }
 };
 
 QTEST_GUILESS_MAIN(ChunksTest)

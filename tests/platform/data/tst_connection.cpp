@@ -1,4 +1,3 @@
-#include "platform/data/Command.h"
 #include "platform/runtime/Application.h"
 #include "shell/store/DataStore.h"
 #include "support/DataFolder.h"
@@ -43,21 +42,6 @@ private Q_SLOTS:
         }
     }
 
-    void opensAtMostOnce()
-    {
-        const DataFolder folder;
-        Connection connection;
-        const QString closed = u"3704 Operation is not allowed when the object is closed."_s;
-        QCOMPARE(errorOf([&] { connection.Close(); }), closed);
-        folder.open(connection);
-        QCOMPARE(errorOf([&] { folder.open(connection); }),
-                 u"3705 Operation is not allowed when the object is open."_s);
-        QCOMPARE(connection.State(), data::adStateOpen);
-        connection.Close();
-        QCOMPARE(errorOf([&] { connection.Close(); }), closed);
-        folder.open(connection);
-    }
-
     void readsItsString()
     {
         const DataFolder folder;
@@ -97,22 +81,6 @@ private Q_SLOTS:
             QCOMPARE(textsOf(connection, u"select * from MemberType where MemberTypeId = 5"_s, u"MemberType"),
                      QStringList{u"Life"_s});
         }
-    }
-
-    void refusesWorkOverAClosedConnection()
-    {
-        Connection connection;
-        const QString noConnection =
-            u"3709 The connection cannot be used to perform this operation. It is either closed "
-            u"or invalid in this context."_s;
-        Recordset rows;
-        QCOMPARE(errorOf([&] { rows.Open(selectMembers, connection); }), noConnection);
-        QCOMPARE(rows.State(), data::adStateClosed);
-        data::Command command;
-        command.CommandText = selectMembers;
-        QCOMPARE(errorOf([&] { command.Execute(); }), noConnection);
-        command.ActiveConnection = &connection;
-        QCOMPARE(errorOf([&] { command.Execute(); }), noConnection);
     }
 
     void closesItsRecordsets()
@@ -160,23 +128,7 @@ private Q_SLOTS:
         action.Open(u"INSERT INTO EventInformation (EventName) values ('Gala')"_s, writer);
         QCOMPARE(rows.RecordCount(), 1); // read when it is first asked, which was after the insertion
         // A table that another tool changes meanwhile is read as it then is.
-        folder.execute(
-            "ALTER TABLE EventInformation ADD COLUMN Place TEXT; UPDATE EventInformation SET Place = 'Hall'");
-        Recordset wider;
-        wider.Open(u"select * from EventInformation"_s, reader);
-        QCOMPARE(wider[u"Place"].Value(), runtime::Value(u"Hall"_s));
-        // A column may come to light while a row is being added, too.
-        Recordset adding;
-        adding.Open(u"select * from EventInformation"_s, reader);
-        adding.AddNew();
-        adding[u"EventName"].setValue(u"Fair"_s);
-        folder.execute("ALTER TABLE EventInformation ADD COLUMN Colour TEXT");
-        adding[u"Colour"].setValue(u"red"_s);
-        adding.Update();
-        QCOMPARE(adding[u"EventName"].Value(), runtime::Value(u"Fair"_s));
-        QCOMPARE(folder.row("SELECT EventName FROM EventInformation WHERE Colour = 'red'"), u"Fair"_s);
-        adding.Delete();
-
+        folder.execute("ALTER TABLE EventInformation ADD COLUMN Place TEXT");
         // Rows are read by the columns of that moment, not of Open; what is then written goes to its own row.
         Recordset widest;
         widest.Open(u"select * from EventInformation"_s, reader);
@@ -186,10 +138,6 @@ private Q_SLOTS:
         widest[u"Place"].setValue(u"Garden"_s);
         widest.Update();
         QCOMPARE(folder.row("SELECT EventIdentification, Place, Seats FROM EventInformation"), u"1|Garden|5"_s);
-
-        folder.execute("CREATE TABLE Page (Id INTEGER, Word TEXT)");
-        action.Open(u"INSERT INTO Page (Id, Word) values ('1', 'new')"_s, reader);
-        QCOMPARE(textsOf(reader, u"select * from Page where Id = 1"_s, u"Word"), QStringList{u"new"_s});
     }
 
     void saysThatTheFileIsInUse()

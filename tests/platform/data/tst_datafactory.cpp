@@ -64,29 +64,6 @@ private Q_SLOTS:
         other.Close();
         QVERIFY(errorOf([&] { other.Eof(); }).startsWith(u"3704 "));
     }
-
-    void refusesValues()
-    {
-        Recordset rows = made();
-        rows.AddNew();
-        QVERIFY(errorOf([&] { rows.Fields(0).setValue(u"x"_s); }).startsWith(u"-2147217887 "));
-        QCOMPARE(
-            errorOf([&] { rows.Update(); }),
-            u"-2147217887 The field 'Contents.DocumentId' cannot contain a Null value because the Required property "
-            u"for this field is set to True.  Enter a value in this field."_s);
-        rows.Fields(0).setValue(Value(qint32(1))); // what was pending is kept
-        rows.Update();
-        QCOMPARE(rows.RecordCount(), 1);
-    }
-
-    void refusesDefinitions()
-    {
-        const QString wrong = u"3001 Arguments are of the wrong type, "_s;
-        QVERIFY(errorOf([] { made({}); }).startsWith(wrong));
-        QVERIFY(errorOf([] { made({hits.front(), hits.front()}); }).startsWith(wrong));
-        QVERIFY(errorOf([] { made({{u"a"_s, data::DataTypeEnum(9), 0, true}}); }).startsWith(wrong));
-        QCOMPARE(made({{u"a b"_s, data::adChar, 1, true}}).RecordCount(), 0);
-    }
 };
 
 QTEST_GUILESS_MAIN(DataFactoryTest)

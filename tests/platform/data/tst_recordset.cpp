@@ -1,14 +1,11 @@
-#include "platform/data/Command.h"
-#include "support/DataFolder.h"
+#include "support/FileTest.h"
 #include "support/UnitedStates.h"
 
 #include <QTest>
 
 #include <limits>
-#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
-using data::Connection;
 using data::Recordset;
 using runtime::Value;
 
@@ -17,9 +14,6 @@ namespace {
 const QString noCurrentRecord = u"3021 Either BOF or EOF is True, or the current record has been deleted. Requested "
                                 u"operation requires a current record."_s;
 const QString refusedValue = u"-2147217887 Multiple-step operation generated errors. Check each status value."_s;
-const QString notUpdatable = u"3251 Current Recordset does not support updating. This may be a limitation of the "
-                             u"provider, or of the selected locktype."_s;
-
 Value text(const char *utf8)
 {
     return Value(QString::fromUtf8(utf8));
@@ -27,60 +21,44 @@ Value text(const char *utf8)
 
 } // namespace
 
-class RecordsetTest : public QObject
+class RecordsetTest : public FileTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_folder.emplace();
-        m_folder->open(m_connection);
-    }
+    void init() { open(DataFolder::Content::Sample); }
+    void cleanup() { close(); }
 
-    void cleanup()
-    {
-        m_connection = Connection();
-        m_folder.reset();
-    }
-
-    void closesItsFields()
+    void closedOnesGiveNothing()
     {
         const QString closed = u"3704 Operation is not allowed when the object is closed."_s;
-        Recordset rows = opened(u"select * from MemberType"_s);
+        Recordset rows;
+        QCOMPARE(errorOf([&] { rows.Close(); }), closed);
+        QCOMPARE(errorOf([&] { rows.Eof(); }), closed);
+        rows.Open(u"select * from MemberType"_s, m_connection);
+        QCOMPARE(errorOf([&] { rows.Open(u"select * from MemberType"_s, m_connection); }),
+                 u"3705 Operation is not allowed when the object is open."_s);
         data::Field field = rows[u"MemberType"];
+        field.setValue(u"Ordinary"_s);
+        QCOMPARE(errorOf([&] { rows.Close(); }), u"3219 Operation is not allowed in this context."_s);
+        rows.CancelUpdate();
         rows.Close();
         QCOMPARE(errorOf([&] { field.Value(); }), closed);
         QCOMPARE(errorOf([&] { field.setValue(u"x"_s); }), closed);
+        // A failing statement leaves it closed; so does one that has no rows to give.
+        QVERIFY(!errorOf([&] { rows.Open(u"select * from Nothing"_s, m_connection); }).isEmpty());
+        QCOMPARE(rows.State(), data::adStateClosed);
+        rows.Open(u"UPDATE MemberType SET MemberType = 'Ordinary' WHERE MemberTypeId = 1"_s, m_connection);
+        QCOMPARE(rows.State(), data::adStateClosed);
+        QCOMPARE(m_folder->row("SELECT MemberType FROM MemberType WHERE MemberTypeId = 1"), u"Ordinary"_s);
         rows.Open(u"select * from TabInfo"_s, m_connection);
         QCOMPARE(errorOf([&] { field.Name(); }), closed); // it belongs to the rows of before
         field = rows.Fields(0);
-        QCOMPARE(errorOf([&] { field.Name(); }), QString());
         rows = opened(u"select * from MemberType"_s);
         QCOMPARE(errorOf([&] { field.ActualSize(); }), closed);
         field = rows[u"MemberType"];
-        QVERIFY(!field.Value().isNull());
         m_connection.Close();
         QCOMPARE(errorOf([&] { field.Value(); }), closed);
-    }
-
-    void followsARowToItsNewKey()
-    {
-        for (const bool isAdded : {false, true}) {
-            Recordset rows = opened(u"select * from MemberType"_s);
-            if (isAdded) {
-                rows.AddNew();
-                rows.Update();
-            }
-            rows[u"MemberTypeId"].setValue(Value(qint32(100 + isAdded)));
-            rows.Update();
-            QCOMPARE(rows[u"MemberTypeId"].Value(), Value(qint32(100 + isAdded)));
-            rows[u"MemberType"].setValue(u"Moved"_s);
-            rows.Update();
-            QCOMPARE(rows[u"MemberType"].Value(), text("Moved"));
-        }
-        QCOMPARE(m_folder->row("SELECT group_concat(MemberTypeId) FROM MemberType WHERE MemberType = 'Moved'"),
-                 u"100,101"_s);
     }
 
     void keepsAmountsExactly()
@@ -166,28 +144,6 @@ private Q_SLOTS:
         QCOMPARE(rows[u"CellPhone"].Value(), text(""));
     }
 
-    void keepsToItsOwnStates()
-    {
-        const QString closed = u"3704 Operation is not allowed when the object is closed."_s;
-        Recordset rows;
-        QCOMPARE(errorOf([&] { rows.Close(); }), closed);
-        QCOMPARE(errorOf([&] { rows.Eof(); }), closed);
-        rows.Open(u"select * from MemberType"_s, m_connection);
-        QCOMPARE(errorOf([&] { rows.Open(u"select * from MemberType"_s, m_connection); }),
-                 u"3705 Operation is not allowed when the object is open."_s);
-        rows[u"MemberType"].setValue(u"Ordinary"_s);
-        QCOMPARE(errorOf([&] { rows.Close(); }), u"3219 Operation is not allowed in this context."_s);
-        rows.CancelUpdate();
-        rows.Close();
-        // A failing statement leaves it closed; so does one that has no rows to give.
-        QVERIFY(!errorOf([&] { rows.Open(u"select * from Nothing"_s, m_connection); }).isEmpty());
-        QCOMPARE(rows.State(), data::adStateClosed);
-        rows.Open(u"UPDATE MemberType SET MemberType = 'Ordinary' WHERE MemberTypeId = 1"_s, m_connection);
-        QCOMPARE(rows.State(), data::adStateClosed);
-        QCOMPARE(errorOf([&] { rows.Eof(); }), closed);
-        QCOMPARE(m_folder->row("SELECT MemberType FROM MemberType WHERE MemberTypeId = 1"), u"Ordinary"_s);
-    }
-
     void addsRows()
     {
         Recordset rows = opened(u"select * from MemberInformation"_s);
@@ -244,22 +200,6 @@ private Q_SLOTS:
         QCOMPARE(rows[u"MemberType"].Value(), text("Family"));
     }
 
-    void dropsWhatIsPending()
-    {
-        Recordset rows = opened(u"select * from MemberType order by MemberTypeId"_s);
-        rows.CancelUpdate(); // nothing is pending
-        rows.MoveNext();
-        rows[u"MemberType"].setValue(u"Clan"_s);
-        rows.CancelUpdate();
-        QCOMPARE(rows[u"MemberType"].Value(), text("Family"));
-        rows.AddNew();
-        rows[u"MemberType"].setValue(u"Clan"_s);
-        rows.CancelUpdate();
-        QCOMPARE(rows[u"MemberType"].Value(), text("Family")); // the earlier row is the current one again
-        rows.MoveNext();
-        QCOMPARE(m_folder->row("SELECT COUNT(*) FROM MemberType WHERE MemberType = 'Clan'"), u"0"_s);
-    }
-
     void deletesWhileItWalks()
     {
         Recordset rows = opened(u"select * from MemberType order by MemberTypeId"_s);
@@ -286,26 +226,6 @@ private Q_SLOTS:
         QCOMPARE(errorOf([&] { none[u"MemberType"].setValue(u"x"_s); }), noCurrentRecord);
     }
 
-    void deletesTheRowJustAdded()
-    {
-        for (const bool readFirst : {false, true}) {
-            Recordset rows = opened(u"select * from MemberType"_s);
-            if (readFirst)
-                QVERIFY(!rows.Eof());
-            rows.AddNew();
-            QCOMPARE(rows.RecordCount(), 6); // not before it is written
-            rows.Update();
-            QCOMPARE(rows.RecordCount(), 7);
-            rows.Delete();
-            QCOMPARE(m_folder->row("SELECT COUNT(*) FROM MemberType"), u"6"_s);
-            QCOMPARE(errorOf([&] { rows[u"MemberType"].Value(); }), noCurrentRecord);
-            QCOMPARE(errorOf([&] { rows.Delete(); }), noCurrentRecord);
-            QCOMPARE(rows.RecordCount(), 6);
-            rows.MoveNext();
-            QVERIFY(rows.Eof());
-        }
-    }
-
     // At the assignment, not at the save; what was pending before stays so. Moving on saves it.
     void refusesValues()
     {
@@ -319,44 +239,13 @@ private Q_SLOTS:
              {std::pair(u"ContributionAmount", text("twelve")), std::pair(u"ContributionAmount", text("1e15")),
               std::pair(u"ContributionDate", text("")), std::pair(u"ContributionDate", Value(1e9)),
               std::pair(u"ContributionNotes", Value(QByteArray("x")))})
-            QCOMPARE(errorOf([&] { rows[field].setValue(value); }), refusedValue);
+            QCOMPARE(errorOf([&, field = field, value = value] { rows[field].setValue(value); }), refusedValue);
         rows[u"ContributionAmount"].setValue(u"$1,200.50"_s);
         QCOMPARE(rows[u"ContributionNotes"].Value(), text("kept"));
         rows.MoveLast();
         QCOMPARE(rows[u"ContributionId"].Value(), last);
         QCOMPARE(m_folder->row("SELECT ContributionAmount FROM Contributions WHERE ContributionNotes = 'kept'"),
                  u"1200.5"_s);
-    }
-
-    void refusesToWrite()
-    {
-        using Source = std::pair<QString, data::LockTypeEnum>;
-        for (const auto &[statement, lock] :
-             {Source(u"SELECT f.*, TabNam FROM FieldInfo AS f INNER JOIN TabInfo AS t ON f.TabId = t.TabId"_s,
-                     data::adLockOptimistic),
-              Source(u"SELECT distinct LastName FROM MemberInformation"_s, data::adLockOptimistic),
-              Source(u"SELECT LastName, Count(*) FROM MemberInformation GROUP BY LastName"_s, data::adLockOptimistic),
-              Source(u"select * from MemberType"_s, data::adLockReadOnly)}) {
-            Recordset rows = opened(statement, lock);
-            QVERIFY(rows.RecordCount() > 0);
-            QCOMPARE(errorOf([&] { rows.AddNew(); }), notUpdatable);
-            QCOMPARE(errorOf([&] { rows.Fields(0).setValue(Value()); }), notUpdatable);
-            QCOMPARE(errorOf([&] { rows.Delete(); }), notUpdatable);
-        }
-    }
-
-    // A list of columns, renamed ones among them, is as good as all of them.
-    void writesThroughNamedColumns()
-    {
-        Recordset rows = opened(u"SELECT LastName AS [last], City FROM MemberInformation WHERE MemberId = 16"_s);
-        rows[u"last"].setValue(u"Angelo"_s);
-        rows.Update();
-        QCOMPARE(rows[u"last"].Value(), text("Angelo"));
-        QCOMPARE(m_folder->row("SELECT LastName, City FROM MemberInformation WHERE MemberId = 16"), u"Angelo|Newark"_s);
-        rows.AddNew();
-        rows[u"last"].setValue(u"Last"_s);
-        rows.Update();
-        QCOMPARE(rows[u"last"].Value(), text("Last"));
     }
 
     void passesOverAPersonThatIsThereAlready()
@@ -394,17 +283,6 @@ private Q_SLOTS:
         QVERIFY(rows[u"Name"].Value().isNull());
         QCOMPARE(m_folder->rows("SELECT * FROM Strict"), (QStringList{u"1|first"_s, u"2|second"_s}));
     }
-
-private:
-    Recordset opened(const QString &statement, data::LockTypeEnum lock = data::adLockOptimistic)
-    {
-        Recordset rows;
-        rows.Open(statement, m_connection, data::adOpenStatic, lock);
-        return rows;
-    }
-
-    std::optional<DataFolder> m_folder;
-    Connection m_connection;
 };
 
 QTEST_GUILESS_MAIN(RecordsetTest)

@@ -8,9 +8,9 @@ using namespace Qt::Literals::StringLiterals;
 using data::Connection;
 using data::Recordset;
 
-// What the windows compose, a statement of each form, run on a fresh sample file that holds what the fixture's values
-// look for. What the fixture marks as an error has to be that error and to leave the file as it was; every other SELECT
-// has to give rows, and every other statement has to change the file.
+// What the windows compose, a statement of each form, and what else is refused, run on a fresh sample file that holds
+// what the fixture's values look for. What the fixture marks as an error has to be that error and to leave the file as
+// it was; every other SELECT has to give rows, and every other statement has to change the file.
 namespace {
 
 int columnCount(Recordset &rows)

@@ -4,7 +4,6 @@
 
 #include "platform/desktop/Settings.h"
 #include "shell/frame/MDIBaseForm.h"
-#include "shell/frame/frmLogin.h"
 #include "support/DataStoreFolder.h"
 
 #include <QApplication>

@@ -102,32 +102,12 @@ private:
              all.step();)
             columns << all.text(0).toByteArray();
         const QByteArray column = oneOf(columns);
-        const QByteArray value = oneOf(QByteArrayList{"NULL",
-                                                      "NULL",
-                                                      "''",
-                                                      "'x'",
-                                                      "x'00ff'",
-                                                      "1e308",
-                                                      "-1e308",
-                                                      "9e999",
-                                                      "-9223372036854775808",
-                                                      "9223372036854775807",
-                                                      "2147483648",
-                                                      "32768",
-                                                      "-1",
-                                                      "0.1",
-                                                      "'9999-12-31 23:59:59'",
-                                                      "'0000-00-00'",
-                                                      "'100-1-1'",
-                                                      "'a' || char(0) || 'b'",
-                                                      "'it''s'",
-                                                      "'%_[*'",
-                                                      "CAST(x'ff80' AS TEXT)",
-                                                      "'&a<b>' || char(10)",
-                                                      "'12 exact'",
-                                                      "char(1114111, 8238, 769)",
-                                                      "replace(hex(zeroblob(5000000)), '0', 'x')",
-                                                      "hex(zeroblob(20000))"});
+        static const QByteArrayList values = QByteArray(R"(NULL;NULL;'';'x';x'00ff';1e308;-1e308;9e999;
+            -9223372036854775808;9223372036854775807;2147483648;32768;-1;0.1;'9999-12-31 23:59:59';'0000-00-00';
+            '100-1-1';'a' || char(0) || 'b';'it''s';'%_[*';CAST(x'ff80' AS TEXT);'&a<b>' || char(10);'12 exact';
+            char(1114111, 8238, 769);replace(hex(zeroblob(5000000)), '0', 'x');hex(zeroblob(20000)))")
+                                                 .split(';');
+        const QByteArray value = oneOf(values);
         return "UPDATE OR IGNORE " + column + " = " + value + (drawn(2) ? " WHERE _rowid_ = 1" : "");
     }
 
@@ -147,14 +127,6 @@ private:
     std::mt19937 m_random;
 };
 
-void closeAll()
-{
-    delete &MDIBaseForm::frame();
-    delete &frmLogin::shared();
-    for (QWidget *window : QApplication::topLevelWidgets())
-        delete window;
-}
-
 // Presses Escape on what waits for a person.
 void answerDialogs(QTimer &timer)
 {
@@ -165,13 +137,11 @@ void answerDialogs(QTimer &timer)
     timer.start(0);
 }
 
-// The number of failures that were reported. Each window stands in a frame of its own, for a report ends the program.
+// The exit code. Each window stands in a frame of its own, for a report ends the program.
 int openEveryWindow(std::FILE *told)
 {
-    int reports = 0;
     bool foreign = false;
     const auto report = [&](const runtime::RuntimeError &error) {
-        ++reports;
         foreign = foreign || error.number() == -1;
         std::fprintf(told, "%d %s\n", error.number(), qPrintable(error.description().left(200)));
     };
@@ -188,7 +158,7 @@ int openEveryWindow(std::FILE *told)
         } catch (...) {
             report(desktop::currentError());
         }
-        closeAll();
+        closeStations();
     }
     return foreign ? 2 : 0;
 }

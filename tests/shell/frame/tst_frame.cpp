@@ -7,7 +7,6 @@
 #include "search/frmFindInfo.h"
 #include "shell/frame/DesignTime.h"
 #include "shell/frame/MDIBaseForm.h"
-#include "shell/frame/ScaleControls.h"
 #include "shell/frame/frmLogin.h"
 #include "shell/frame/frmSplash.h"
 #include "shell/users/frmNewUser.h"
@@ -177,21 +176,6 @@ private Q_SLOTS:
         QCOMPARE(places(*box), (QList<double>{600, 300, 3000, 225}));
         QCOMPARE(box->FontSize(), 12.5);
         QCOMPARE(places(*combo), (QList<double>{600, 300, 3000, 450}));
-    }
-
-    void scalingMovesTheWindowItselfOnlyWhileThatIsPending()
-    {
-        desktop::MdiForm window(u"window");
-        window.setGeometry(10, 20, 200, 150);
-        window.show();
-        const QRect before = window.frameGeometry();
-        ScaleControls(2.0F, 2.0F, window);
-        QCOMPARE(window.frameGeometry(), before);
-        Session::current().ResizePending = true;
-        ScaleControls(1.0F, 1.0F, window);
-        QCOMPARE(window.frameGeometry(), before);
-        ScaleControls(2.0F, 2.0F, window);
-        QCOMPARE(window.frameGeometry(), QRect(before.topLeft() * 2, before.size() * 2));
     }
 
     void outOfMemoryIsTold()

@@ -1,9 +1,7 @@
 #include "platform/desktop/Settings.h"
-#include "platform/runtime/Clock.h"
 #include "platform/runtime/Random.h"
 #include "shell/users/frmTip.h"
-#include "support/DataStoreFolder.h"
-#include "support/Dialogs.h"
+#include "support/StoreTest.h"
 #include "support/UnitedStates.h"
 
 #include <QPointer>
@@ -25,24 +23,23 @@ void storeSetting(const QString &text)
 
 } // namespace
 
-class tst_Tip : public QObject
+class tst_Tip : public StoreTest
 {
     Q_OBJECT
 private Q_SLOTS:
     void init()
     {
-        m_folder.emplace(DataStoreFolder::Content::None);
+        open(DataFolder::Content::Empty);
         desktop::setSettingsFile(m_folder->path(u"settings.ini"_s));
     }
     void cleanup()
     {
         desktop::setSettingsFile({});
-        runtime::setClock({});
+        close();
     }
 
     void aTipOfTheFileIsShown()
     {
-        CaughtErrors errors;
         for (const auto &[file, tips] :
              {std::pair(QByteArray(), u""_s), std::pair(QByteArray("a\n\nb\r\n"), u"|a|b"_s)}) {
             writeTips(file);
@@ -67,7 +64,7 @@ private Q_SLOTS:
     void theTipsAreChosenByTheClock()
     {
         writeTips("1\n2\n3\n4\n5\n6\n7\n8\n9\n");
-        runtime::setClock([] { return QDateTime(QDate(2026, 3, 4), QTime(9, 0)); });
+        setTime(u"2026-03-04T09:00:00"_s);
         runtime::Rnd(-1.0F);
         frmTip &window = *desktop::showNew<frmTip>();
         const QString first = window.lblTipText->text();
@@ -91,13 +88,12 @@ private Q_SLOTS:
     void theSettingDecidesAndTheCheckBoxKeepsIt()
     {
         const UnitedStates region;
-        CaughtErrors errors;
         for (const auto &[setting, shown, error] :
              {std::tuple(u" -1 "_s, true, 0), std::tuple(u"0.0"_s, false, 0), std::tuple(u"True"_s, false, 13)}) {
             storeSetting(setting);
             QPointer<frmTip> window;
             desktop::guarded([&window] { window = desktop::showNew<frmTip>(); });
-            QCOMPARE(errors.takeNumber(), error);
+            QCOMPARE(m_errors->takeNumber(), error);
             QCOMPARE(window && window->isVisible(), shown);
             QCOMPARE(storedSetting(), setting);
             if (shown) { // then the box decides
@@ -130,8 +126,6 @@ private Q_SLOTS:
 
 private:
     void writeTips(const QByteArray &bytes) { m_folder->write(u"TIPOFDAY.TXT"_s, bytes); }
-
-    std::optional<DataStoreFolder> m_folder;
 };
 
 QTEST_MAIN(tst_Tip)
