@@ -1,6 +1,7 @@
 #include "platform/desktop/ListView.h"
 
 #include "platform/desktop/ColumnHeads.h"
+#include "platform/desktop/ItemDelegate.h"
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/MenuKey.h"
 #include "platform/desktop/PlainText.h"
@@ -149,6 +150,7 @@ ListView::ListView(QWidget *parent, QAnyStringView name)
     : LineView(parent, name), ListItems(this), ColumnHeaders(this), m_heads(new ColumnHeads(*this))
 {
     setHeader(m_heads);
+    setItemDelegate(new ItemDelegate(this));
     setColumnCount(0);
     setRootIsDecorated(false);
     setUniformRowHeights(true);
