@@ -64,6 +64,7 @@ void frmTip::setUpContent()
     whole->addWidget(Picture1, 1);
     whole->addLayout(row);
     desktop::setTabOrder({cmdNextTip, cmdOK, chkLoadTipsAtStartup});
+    cmdNextTip->setFocus();
 }
 
 void frmTip::Form_Load()

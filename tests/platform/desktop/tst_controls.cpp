@@ -59,10 +59,8 @@ private Q_SLOTS:
         tree.setCurrentItem(&underA);
         tree.Nodes.Remove(a.Index());
         QCOMPARE(tree.Nodes.Count(), 2);
-        QCOMPARE(b.Index(), 1);
-        QCOMPARE(c.Index(), 2);
-        QCOMPARE(c.Parent().get(), &b);
-        QCOMPARE(b.Parent().get(), nullptr);
+        QVERIFY(b.Index() == 1 && c.Index() == 2);
+        QVERIFY(c.Parent().get() == &b && !b.Parent());
         QCOMPARE(tree.SelectedItem().get(), &b); // there is always one
         QCOMPARE(added(u"deep"_s), 0);
         QCOMPARE(added(u"key a"_s), 35602);
@@ -298,23 +296,16 @@ private Q_SLOTS:
         QCOMPARE(clicks.count(), 2);
     }
 
-    void aListBoxTakesATextItKnows()
+    void aListBoxIsDrivenByTextPlaceKeyboardAndMouse()
     {
         desktop::ListBox list(nullptr, u"list", {u"Arizona "_s, u"Ohio"_s, u"Texas"_s});
-        QCOMPARE(list.Text(), QString());
+        QVERIFY(list.ListIndex() == -1 && list.Text().isEmpty());
         for (const auto &[text, selected] :
-             {std::pair(u"oHIO"_s, u"Ohio"_s), std::pair(u"Arizona"_s, QString()),
-              std::pair(u"Arizona "_s, u"Arizona "_s), std::pair(QString(), QString())}) {
+             {std::pair(u"oHIO"_s, 1), {u"Arizona"_s, -1}, {u"Arizona "_s, 0}, {QString(), -1}}) {
             list.setText(u"Texas"_s);
             list.setText(text);
-            QCOMPARE(list.Text(), selected);
+            QCOMPARE(list.ListIndex(), selected);
         }
-    }
-
-    void aListBoxIsDrivenByPlaceKeyboardAndMouse()
-    {
-        desktop::ListBox list(nullptr, u"list", {u"Arizona "_s, u"Ohio"_s, u"Texas"_s});
-        QCOMPARE(list.ListIndex(), -1);
         for (const int outside : {-1, 3})
             QCOMPARE(errorNumberOf([&] { list.setSelected(outside); }), 380);
         list.setSelected(1);
@@ -351,9 +342,8 @@ private Q_SLOTS:
         QTest::mouseClick(&label, Qt::LeftButton);
         QTest::keyClick(&label, Qt::Key_Space);
         QTest::keyClick(&label, Qt::Key_Return);
-        QCOMPARE(clicks.count(), 3);
         QTest::mousePress(&label, Qt::LeftButton);
-        QTest::mouseRelease(&label, Qt::LeftButton, {}, QPoint(-5, -5));
+        QTest::mouseRelease(&label, Qt::LeftButton, {}, QPoint(-5, -5)); // is no click
         QCOMPARE(clicks.count(), 3);
     }
 
@@ -411,29 +401,20 @@ private Q_SLOTS:
     void aTabIsClickedByWhateverSelectsIt()
     {
         desktop::TabStrip tabs(nullptr, u"tabs");
-        QSignalSpy clicks(&tabs, &desktop::TabStrip::Click);
+        QString clicked;
+        connect(&tabs, &desktop::TabStrip::Click, this, [&] { clicked += QString::number(tabs.SelectedItem()); });
         tabs.add(u"First"_s, u"One"_s, u"tip"_s);
         tabs.add(u"Second"_s, u"Two"_s, {});
         tabs.show();
-        QCOMPARE(clicks.count(), 0);
         QCOMPARE(tabs.SelectedItem(), 1);
-        const auto clickOn = [&tabs](int tab) {
-            QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(tab - 1).center());
-        };
-        const QList<std::pair<std::function<void()>, int>> steps{
-            {[&] { clickOn(2); }, 2},
-            {[&] { clickOn(2); }, 2},
-            {[&] { tabs.setSelectedItem(1); }, 1},
-            {[&] { tabs.setSelectedItem(1); }, 1},
-            {[&] { QTest::keyClick(&tabs, Qt::Key_Right); }, 2},
-        };
-        for (qsizetype step = 0; step < steps.size(); ++step) {
-            steps[step].first();
-            QCOMPARE(clicks.count(), step + 1);
-            QCOMPARE(tabs.SelectedItem(), steps[step].second);
-        }
-        QCOMPARE(errorNumberOf([&] { tabs.setSelectedItem(3); }), 35600);
-        QCOMPARE(errorNumberOf([&] { tabs.setSelectedItem(0); }), 35600);
+        for (int click = 0; click < 2; ++click)
+            QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(1).center());
+        for (int click = 0; click < 2; ++click)
+            tabs.setSelectedItem(1);
+        QTest::keyClick(&tabs, Qt::Key_Right);
+        QCOMPARE(clicked, u"22112"_s);
+        for (const int outside : {0, 3})
+            QCOMPARE(errorNumberOf([&] { tabs.setSelectedItem(outside); }), 35600);
     }
 
     void panelsFollowTheKeyboard()
