@@ -143,13 +143,17 @@ std::optional<runtime::Date> readDate(const QString &text)
     return runtime::Date(day);
 }
 
-// "1234.5", "1,234.50", "$12"; with a decimal comma "1234,5" and "1.234,50". At most four decimals are exact.
+// "1234.5", "1,234.50", "$12"; with a decimal comma "1234,5" and "1.234,50". At most four decimals are exact. Where
+// there are decimal commas, "1.234" is refused: it can be a thousand or a little more than one.
 std::optional<runtime::Currency> readAmount(QString text, bool hasDecimalComma)
 {
     text.remove(u'$').remove(u'€').remove(u'£');
     text = text.trimmed();
     static const QRegularExpression plain(u"^[+-]?(\\d+)(\\.\\d{1,4})?$"_s);
     static const QRegularExpression grouped(u"^[+-]?\\d{1,3}(,\\d{3})+(\\.\\d{1,4})?$"_s);
+    static const QRegularExpression groupedByPoints(u"^[+-]?\\d{1,3}(\\.\\d{3})+$"_s);
+    if (hasDecimalComma && groupedByPoints.match(text).hasMatch())
+        return std::nullopt;
     if (hasDecimalComma && text.contains(u',')) {
         text.replace(u'.', u'\x1f').replace(u',', u'.').replace(u'\x1f', u',');
     }
@@ -285,7 +289,8 @@ private:
             m_row.contributionAmount = readAmount(text, m_context.hasDecimalComma);
             m_isAmountFaulty = !m_row.contributionAmount;
             if (m_isAmountFaulty)
-                tell(u"is no amount with four decimals at most"_s);
+                tell(m_context.hasDecimalComma ? u"is no amount; write it as 1234,50 with four decimals at most"_s
+                                               : u"is no amount; write it as 1234.50 with four decimals at most"_s);
         }
     }
 
@@ -334,14 +339,15 @@ QList<MemberField> matchedHeader(const CsvRow &header, const QStringList &maps)
     QHash<QString, MemberField> mapped = readMaps(maps);
     QList<MemberField> fields;
     QHash<MemberField, QString> columns;
+    QStringList unknown; // told together, since a header in another language has many
     for (const CsvCell &cell : header) {
         const QString column = cell.text.trimmed();
         const std::optional<MemberField> field = mapped.contains(column) ? mapped.value(column) : fieldOfName(column);
         mapped.remove(column);
-        if (!field)
-            refuseHeader(
-                u"the column \"%1\" is none that is known; name it with --map \"%1=NAME\", or leave it out with "
-                u"--map \"%1=-\""_s.arg(column));
+        if (!field) {
+            unknown << column;
+            continue;
+        }
         if (*field != MemberField::Interest && *field != MemberField::Ignored && columns.contains(*field))
             refuseHeader(
                 u"the columns \"%1\" and \"%2\" are both taken for %3; leave one out with --map \"%2=-\""_s.arg(
@@ -349,6 +355,9 @@ QList<MemberField> matchedHeader(const CsvRow &header, const QStringList &maps)
         columns.insert(*field, column);
         fields << *field;
     }
+    if (!unknown.isEmpty())
+        refuseHeader(u"unknown columns: \"%1\"; name each with --map \"COLUMN=NAME\", or leave it out with "
+                     u"--map \"COLUMN=-\""_s.arg(unknown.join(u"\", \""_s)));
     if (!mapped.isEmpty())
         refuseHeader(u"there is no column \"%1\" to map"_s.arg(mapped.constBegin().key()));
     if (!columns.contains(MemberField(int(MemberField::FirstMemberText) + int(lastName))))

@@ -110,16 +110,23 @@ void checkValues(const data::Database &file, QStringList &faults)
     }
 }
 
-void checkFileNames(const data::Database &file, const QString &table, const QString &column, QStringList &faults)
+// A file is opened under its name and with its content.
+void checkFiles(const data::Database &file, const QString &table, const QString &column, const QString &content,
+                QStringList &faults)
 {
     Kind kind(faults, u"names of files in [%1]"_s.arg(table));
-    data::Statement rows = file.prepare(u"SELECT rowid, %1 FROM %2"_s.arg(quoted(column), quoted(table)).toUtf8());
+    Kind empty(faults, u"files without content in [%1]"_s.arg(table));
+    data::Statement rows = file.prepare(
+        u"SELECT rowid, %1, %2 IS NULL FROM %3"_s.arg(quoted(column), quoted(content), quoted(table)).toUtf8());
     while (rows.step()) {
         const QString name = QString::fromUtf8(rows.text(1));
         if (!isPlainFileName(name))
             kind.tell(u"row %1 of [%2]: the file cannot be opened under its name \"%3\"; change [%4] to a name without "
                       u"\"/\" that is neither empty nor longer than 255 bytes"_s.arg(QString::number(rows.integer(0)),
                                                                                      table, shortForm(name), column));
+        if (rows.integer(2) != 0)
+            empty.tell(u"row %1 of [%2]: the file \"%3\" has no content; DELETE FROM %2 WHERE rowid = %1"_s.arg(
+                QString::number(rows.integer(0)), table, shortForm(name)));
     }
 }
 
@@ -190,8 +197,8 @@ QStringList faultsOfRows(data::Database &file)
 {
     QStringList faults;
     checkValues(file, faults);
-    checkFileNames(file, u"Attachments"_s, u"AttachmentsName"_s, faults);
-    checkFileNames(file, u"Resources"_s, u"DocumentName"_s, faults);
+    checkFiles(file, u"Attachments"_s, u"AttachmentsName"_s, u"Attachments"_s, faults);
+    checkFiles(file, u"Resources"_s, u"DocumentName"_s, u"Document"_s, faults);
     checkGroups(file, faults);
     checkPages(file, faults);
     return faults;

@@ -27,7 +27,7 @@ start_screen() {
     local number='' answer
     answer=$(mktemp -u)
     mkfifo "$answer"
-    Xvfb -displayfd 3 -screen 0 1440x1000x24 -nolisten tcp 3>"$answer" >/dev/null 2>&1 &
+    Xvfb -displayfd 3 -screen 0 "${SCREEN:-1440x1000x24}" -nolisten tcp 3>"$answer" >/dev/null 2>&1 &
     screen_pid=$!
     read -r -t 30 number <"$answer" || true
     rm -f "$answer"

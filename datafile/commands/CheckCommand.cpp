@@ -1,6 +1,9 @@
 #include "datafile/Check.h"
 #include "datafile/Progress.h"
 #include "datafile/commands/Command.h"
+#include "platform/runtime/RuntimeError.h"
+
+#include <QFile>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -8,11 +11,34 @@ namespace commands {
 
 namespace {
 
+// What helps with a file that the store does not read; empty where the store has failed for another reason.
+QString helpAfter(const QString &failure, const QString &path)
+{
+    QFile file(path);
+    if (!failure.startsWith(u"Unrecognized database format"_s) || !file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray begin = file.read(32);
+    if (begin.startsWith("SQLite format 3"))
+        return u" It is damaged: put a copy in its place."_s;
+    if (begin.contains("Standard Jet DB"))
+        return u" It is of the older Jet format: import-mdb makes a data file of it."_s;
+    return u" It is no data file."_s;
+}
+
+QStringList faultsOf(const QString &path)
+{
+    try {
+        return datafile::faultsOf(path);
+    } catch (const runtime::RuntimeError &error) {
+        throw runtime::RuntimeError(error.number(), error.description() + helpAfter(error.description(), path));
+    }
+}
+
 int check(const QCommandLineParser &given)
 {
     const QString path = given.positionalArguments().first();
     datafile::Progress progress(u"checking "_s + path);
-    const QStringList faults = datafile::faultsOf(path);
+    const QStringList faults = faultsOf(path);
     progress.finish();
     for (const QString &fault : faults)
         say(fault);

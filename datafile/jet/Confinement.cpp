@@ -29,10 +29,11 @@ constexpr std::uint32_t architecture = AUDIT_ARCH_AARCH64;
 #endif
 
 #ifdef __SANITIZE_ADDRESS__
-constexpr bool limitsMemory = false; // the sanitizer's shadow takes more address space than any limit
+constexpr bool isSanitized = true;
 #else
-constexpr bool limitsMemory = true;
+constexpr bool isSanitized = false;
 #endif
+constexpr bool limitsMemory = !isSanitized; // the sanitizers' shadow takes more address space than any limit
 
 // What reading, memory and the end of the process need. None of these writes to a file, opens one or reaches a process.
 constexpr std::array harmless{
@@ -77,6 +78,11 @@ std::vector<sock_filter> filter()
         program.push_back(unless(BPF_JEQ, static_cast<std::uint32_t>(call), 1));
         program.push_back(allow);
     }
+    // The sanitizers' check of an object's type writes its bytes into a pipe, to learn whether they can be read.
+    if (isSanitized)
+        program.insert(program.end(), {unless(BPF_JEQ, __NR_pipe2, 1), allow, unless(BPF_JEQ, __NR_write, 4),
+                                       load(offsetOfArgument(0)), unless(BPF_JGT, STDERR_FILENO, 1), allow,
+                                       load(offsetof(seccomp_data, nr))});
     program.insert(program.end(),
                    {unless(BPF_JEQ, __NR_write, 4), load(offsetOfArgument(0)), unless(BPF_JEQ, STDOUT_FILENO, 1), allow,
                     refuse, unless(BPF_JEQ, __NR_openat, 4), load(offsetOfArgument(2)),

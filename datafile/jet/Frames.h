@@ -4,9 +4,8 @@
 // A stream is `mark` and then frames: a byte for the kind, the size in 4 bytes, and so many bytes. All numbers are
 // little-endian and without sign but the last number given out. A text is UTF-8 and has its size in 2 bytes before it.
 //   Begin    the number of rows that all tables declare (8)
-//   Table    declared rows (4), last number given out (4), name (text), columns (2); for each column type (1), whether
-//   it
-//            is a counter (1), scale (1), name (text)
+//   Table    declared rows (4), last number given out (4), name (text), columns (2); for each column type (1),
+//            whether it is a counter (1), scale (1), name (text)
 //   Row      for each column 0 for nothing, 1 for Yes, or 2, the size (4) and the bytes
 //   EndOfTable   the number of rows that were found (4)
 //   Linked   name (text) of a table that lies in another file

@@ -112,7 +112,6 @@ void DatabaseGenerator::setUpCanvas()
 {
     TabStrip1 = new desktop::TabStrip(this, u"TabStrip1");
     TabStrip1->setAccessibleName(u"Pages"_s);
-    TabStrip1->setFocusPolicy(Qt::StrongFocus); // a click leaves the box in use before it is unloaded
     Picture1 = new desktop::PictureBox(this, u"Picture1");
     Picture1->setFrameShape(QFrame::Panel);
     Picture1->setFrameShadow(QFrame::Sunken);

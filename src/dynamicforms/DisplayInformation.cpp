@@ -49,7 +49,6 @@ void DisplayInformation::setUpContent()
 {
     TabStrip1->setAccessibleName(u"Pages"_s);
     TabStrip1->setDrawBase(false);
-    TabStrip1->setFocusPolicy(Qt::StrongFocus); // so that a click takes the focus from a box before it is unloaded
     ListView1->setVisible(false);
     auto *page = new QVBoxLayout(Frame1);
     page->addWidget(ListView1);

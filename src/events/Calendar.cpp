@@ -1,12 +1,15 @@
 #include "events/Calendar.h"
 
-#include "platform/desktop/Style.h"
+#include "platform/desktop/Contrast.h"
 #include "platform/runtime/Regional.h"
 #include "platform/runtime/RuntimeError.h"
 
 #include <QEvent>
 #include <QSignalBlocker>
 #include <QTextCharFormat>
+#include <QToolButton>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -47,6 +50,15 @@ void Calendar::setColours()
     weekend.setForeground(red);
     for (const auto day : {Qt::Saturday, Qt::Sunday})
         setWeekdayTextFormat(day, weekend);
+    // Qt's own pictures on these buttons keep their size whatever that of the letters.
+    QPalette onSelection = palette();
+    onSelection.setColor(QPalette::ButtonText, onSelection.color(QPalette::HighlightedText));
+    for (const auto &[name, arrow] :
+         {std::pair(u"qt_calendar_prevmonth"_s, Qt::LeftArrow), {u"qt_calendar_nextmonth"_s, Qt::RightArrow}}) {
+        auto *button = findChild<QToolButton *>(name);
+        button->setArrowType(arrow);
+        button->setPalette(onSelection);
+    }
 }
 
 void Calendar::takeOver()

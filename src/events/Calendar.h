@@ -28,7 +28,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    // Weekends are as red as can be read in the palette.
+    // Weekends are as red as can be read in the palette; the arrows have the colour of the month between them.
     void setColours();
     void takeOver();
     void showDay();

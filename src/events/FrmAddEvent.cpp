@@ -72,8 +72,8 @@ void FrmAddEvent::Form_Load()
     // The shared window loads again at each opening and still holds what it held.
     txtEventName->clear();
     txtEventDescription->clear();
-    lstStartTime->clearSelection();
-    lstEndTime->clearSelection();
+    lstStartTime->setCurrentItem(nullptr); // so that the arrow keys begin anew too
+    lstEndTime->setCurrentItem(nullptr);
     const runtime::Date now = runtime::clockNow();
     const QTime end = now.time().addSecs(minutesToTheEnd * 60);
     txtEventStartTime->setText(plainTimeText(now.time()));

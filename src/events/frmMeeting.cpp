@@ -5,6 +5,7 @@
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/MsgBox.h"
 #include "platform/desktop/Printer.h"
+#include "platform/desktop/Twips.h"
 #include "platform/runtime/Clock.h"
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/Regional.h"
@@ -76,8 +77,8 @@ void frmMeeting::setUpContent()
     cmdCancel = new CommandButton(this, u"cmdCancel", u"Cancel"_s);
     cmdPrint = new CommandButton(this, u"cmdPrint", u"Print"_s);
     grid.addButtons({cmdSave, cmdClear, cmdCancel, cmdPrint});
-    constexpr int comfortableWidth = 520; // logical pixels
-    resize(sizeHint().expandedTo({comfortableWidth, 0}));
+    constexpr double comfortableWidth = 7800; // twips
+    resize(sizeHint().expandedTo({desktop::pixels(comfortableWidth), 0}));
 }
 
 void frmMeeting::Form_Load()

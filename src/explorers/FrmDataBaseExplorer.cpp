@@ -111,7 +111,7 @@ void FrmDataBaseExplorer::LstStudenInformation_KeyUp(int keyCode)
         if (keyCode == desktop::vbKeyDelete)
             deleteSelectedMembers();
         if (keyCode == desktop::vbKeyReturn)
-            m_panes.forEachSelected([this](const ListItem &item) { openDossier(item); });
+            m_panes.forEachSelected([](const ListItem &item) { openDossier(item); });
     });
 }
 

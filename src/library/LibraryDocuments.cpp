@@ -16,7 +16,7 @@ namespace {
 constexpr std::array documentColumns{
     ListedColumn{.header = u"Document ID", .column = u"DocumentId"},
     ListedColumn{.header = u"Document Date", .column = u"DocumentDate", .width = 2700},
-    ListedColumn{.header = u"Document Name", .column = u"DocumentName", .width = 4500},
+    ListedColumn{.header = u"Document Name", .column = u"DocumentName", .width = 3600},
     ListedColumn{.header = u"Document Version", .column = u"DocuemntVersion"},
 };
 

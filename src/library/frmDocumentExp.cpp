@@ -14,9 +14,16 @@ using desktop::Node;
 using desktop::PopupMenu;
 using desktop::TreeView;
 
+namespace {
+
+constexpr double treeWidth = 3450; // room for a name on the third level
+
+} // namespace
+
 frmDocumentExp::frmDocumentExp()
     : Form(Place::InFrame, u"frmDocumentExp"), m_menuBar(new MenuBar(this, u"MenuBar")),
-      m_panes(*this, {u"LblClassAndSection", u"Library Structure"_s}, {u"LblStudentInformation", u"Documents"_s}),
+      m_panes(*this, {u"LblClassAndSection", u"Library Structure"_s}, {u"LblStudentInformation", u"Documents"_s},
+              treeWidth),
       MnuLibraryOption(m_menuBar->add(u"MnuLibraryOption"_s, u"Library Options"_s)),
       CommonDialog1(new desktop::CommonDialog(this, u"CommonDialog1")),
       m_library(*m_panes.TreClassView, *m_panes.ImageList1),

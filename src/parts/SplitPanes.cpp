@@ -5,6 +5,7 @@
 #include "platform/desktop/Twips.h"
 #include "platform/runtime/ErrorHandling.h"
 
+#include <QMouseEvent>
 #include <QShortcut>
 
 #include <cmath>
@@ -29,6 +30,7 @@ constexpr double statusBarHeight = 345;
 constexpr double panesBottom = 8115;
 constexpr double panesRight = 13770;
 constexpr double margin = 60;
+constexpr double besideBar = 30;
 constexpr float stepOfSplitter = 300;
 
 // Room for the headlines, the tree and the beginning of some lines.
@@ -39,6 +41,37 @@ constexpr double usefulHeight = 4500;
 constexpr double aboveAndBelowPanes = 1720;
 constexpr double splitterBesideHeadline = 425;
 constexpr double rightOfList = 200;
+
+// The bar is two pixels wide. The gap to its left answers the pointer as a part of it, so that the mouse meets it
+// easily.
+class Grip : public QWidget
+{
+public:
+    explicit Grip(PictureBox &bar) : QWidget(bar.parentWidget()), m_bar(bar)
+    {
+        setObjectName(u"Grip"_s);
+        setCursor(Qt::SizeHorCursor);
+        setMouseTracking(true);
+        bar.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
+            setGeometry(m_bar.geometry().adjusted(-pixels(besideBar), 0, pixels(besideBar), 0));
+        return QWidget::eventFilter(watched, event);
+    }
+
+protected:
+    void mouseMoveEvent(QMouseEvent *event) override
+    {
+        const QPointF place = m_bar.mapFromGlobal(event->globalPosition());
+        Q_EMIT m_bar.MouseMove(desktop::heldButtons(*event), float(twips(place.x())), float(twips(place.y())));
+    }
+
+private:
+    PictureBox &m_bar;
+};
 
 // Looks like a button, so that it stands out from the tree or list below it.
 void asHeadline(Label &label)
@@ -53,7 +86,7 @@ void asHeadline(Label &label)
 
 } // namespace
 
-SplitPanes::SplitPanes(Form &window, const Headline &overTree, const Headline &overList)
+SplitPanes::SplitPanes(Form &window, const Headline &overTree, const Headline &overList, double treeWidth)
     : treeHeadline(new Label(&window, overTree.name, overTree.text)),
       listHeadline(new Label(&window, overList.name, overList.text)),
       TreClassView(new TreeView(&window, u"TreClassView")), Picture1(new PictureBox(&window, u"Picture1")),
@@ -70,11 +103,12 @@ SplitPanes::SplitPanes(Form &window, const Headline &overTree, const Headline &o
     Picture1->setFrameStyle(QFrame::VLine | QFrame::Raised);
     setUpSplitter();
     StatusBar1->addKeyboardAndClockPanels();
-    setUpPlaces();
+    setUpPlaces(treeWidth);
 }
 
 void SplitPanes::setUpSplitter()
 {
+    new Grip(*Picture1);
     desktop::on(Picture1, &PictureBox::MouseMove, Picture1, [this](PictureBox *, int button, float x, float) {
         runtime::endSilently([this, button, x] { dragSplitter(button, x); });
     });
@@ -87,13 +121,14 @@ void SplitPanes::setUpSplitter()
     }
 }
 
-void SplitPanes::setUpPlaces()
+void SplitPanes::setUpPlaces(double treeWidth)
 {
-    treeHeadline->Move(60, 480, 2475, 375);
-    listHeadline->Move(2595, 480, 11175, 375);
-    TreClassView->Move(60, 900, 2475, 7215);
-    Picture1->Move(2580, 480, 30, 7635);
-    LstStudenInformation->Move(2595, 900, 11175, 7215);
+    const double listLeft = 120 + treeWidth;
+    treeHeadline->Move(60, 480, treeWidth, 375);
+    listHeadline->Move(listLeft, 480, panesRight - listLeft, 375);
+    TreClassView->Move(60, 900, treeWidth, 7215);
+    Picture1->Move(listLeft - 15, 480, 30, 7635);
+    LstStudenInformation->Move(listLeft, 900, panesRight - listLeft, 7215);
     Picture1->raise();   // it lies over the edge of the list
     StatusBar1->raise(); // and this one over both, in a window that is made lower
     m_window.setUsefulSize(usefulWidth, usefulHeight);

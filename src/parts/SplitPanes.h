@@ -23,7 +23,7 @@ public:
         QStringView name;
         QString text;
     };
-    SplitPanes(desktop::Form &window, const Headline &overTree, const Headline &overList);
+    SplitPanes(desktop::Form &window, const Headline &overTree, const Headline &overList, double treeWidth = 2475);
 
     desktop::Label *treeHeadline;
     desktop::Label *listHeadline;
@@ -43,7 +43,7 @@ protected:
     desktop::Form &m_window;
 
 private:
-    void setUpPlaces();
+    void setUpPlaces(double treeWidth);
     void setUpSplitter();
     // Answers a move of the pointer over the splitter. While the left button alone is held down, the panes share the
     // width anew at the pointer.

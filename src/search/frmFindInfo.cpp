@@ -135,7 +135,7 @@ void frmFindInfo::setUpFile(QGridLayout &parameters)
 {
     auto *frmSearchFileTYpe = new Frame(Frame1, u"frmSearchFileTYpe", u"Search File Type"_s);
     lstSearchFileType = new desktop::ComboBox(frmSearchFileTYpe, u"lstSearchFileType");
-    lstSearchFileType->setAccessibleName(frmSearchFileTYpe->title());
+    frmSearchFileTYpe->setBuddy(lstSearchFileType);
     compact<QVBoxLayout>(frmSearchFileTYpe)->addWidget(lstSearchFileType);
     parameters.addWidget(frmSearchFileTYpe, 3, 0);
 
@@ -151,7 +151,7 @@ void frmFindInfo::setUpFile(QGridLayout &parameters)
 
     auto *frmSearchCategory = new Frame(Frame1, u"frmSearchCategory", u"Search Category"_s);
     lstSearchCategory = new desktop::ListBox(frmSearchCategory, u"lstSearchCategory");
-    lstSearchCategory->setAccessibleName(frmSearchCategory->title());
+    frmSearchCategory->setBuddy(lstSearchCategory);
     lstSearchCategory->setLines(2);
     compact<QVBoxLayout>(frmSearchCategory)->addWidget(lstSearchCategory);
     parameters.addWidget(frmSearchCategory, 4, 0);

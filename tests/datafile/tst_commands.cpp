@@ -62,10 +62,10 @@ private Q_SLOTS:
                               << u"0 f.mdb: made with 9 members and 4"_s;
         QTest::newRow("taken") << u"create old.mdb"_s << u"1 tolmark-datafile: 'old.mdb' already exists;"_s;
         QTest::newRow("faulty") << u"check faulty.mdb"_s << u"1 table [TabInfo] has no rows"_s;
-        QTest::newRow("text") << u"backup text x.mdb"_s
-                              << u"1 tolmark-datafile: Unrecognized database format 'text'."_s;
+        QTest::newRow("text") << u"check text"_s
+                              << u"1 tolmark-datafile: Unrecognized database format 'text'. It is no data file."_s;
         QTest::newRow("no columns") << u"import-members old.mdb text"_s
-                                    << u"1 tolmark-datafile: text: row 1: the column \"Nothing"_s;
+                                    << u"1 tolmark-datafile: text: row 1: unknown columns: \"Nothing"_s;
         QTest::newRow("encoding") << u"import-members old.mdb text --encoding big5"_s
                                   << u"2 tolmark-datafile: --encoding"_s;
     }
@@ -283,10 +283,11 @@ private Q_SLOTS:
         row("Last Name,Paid on,Dues\nBell,2/30/2003,5\n", u"2 Paid on 2/30/2003"_s);
         row("Last Name,Paid on,Dues\nBell,5/1/03,5\n", u"2 Paid on 5/1/03"_s);
         row("Last Name;Dues\nBell;12,5\nBell;1.234,50\nBell;1,2,3\n", u"4 Dues 1,2,3"_s);
+        row("Last Name;Dues\nBell;1.50\nBell;1.234\n", u"3 Dues 1.234"_s);
         row("Last Name,Dues\nBell,922337203685477.5808\n", u"2 Dues 922337203685477.5808"_s);
         row("Last Name,Paid on\nBell,2003-05-01\n", u"2 ContributionAmount "_s);
         row("Last Name,City\nBell\n", u"2  Bell"_s);
-        row("Last Name,Shoe\nBell,9\n", u"row 1: the column \"Shoe\""_s);
+        row("Last Name,Shoe,Hat\nBell,9,7\n", u"row 1: unknown columns: \"Shoe\", \"Hat\";"_s);
         row("Last Name,Surname\nBell,Bell\n", u"row 1: the columns \"Last Name\" and \"Surname\""_s);
         row("City\nRome\n", u"row 1: no column is taken for LastName"_s);
         row("Last Name\nBell\n\"Ann\n", u"row 3: has a quote"_s);

@@ -60,6 +60,8 @@ private Q_SLOTS:
                u"row 1 of [Attachments]: \"32768\""_s},
               {"INSERT INTO Attachments (AttachmentsName) VALUES ('../Tolmark.mdb')",
                u"row 1 of [Attachments]: the file cannot be opened under its name \"../Tolmark.mdb\""_s},
+              {"INSERT INTO Attachments (AttachmentsName) VALUES ('a')",
+               u"row 1 of [Attachments]: the file \"a\" has no content; DELETE"_s},
               {"INSERT INTO Resources (DocumentId) VALUES (7)", u"row 7 of [Resources]: the file"_s},
               {"INSERT INTO MemberInformation (LastName) VALUES ('élan'), ('Éclair')",
                u"\"Éclair\" and 1 more are in no group of the explorers; INSERT INTO NodeInformation (NodeName, "

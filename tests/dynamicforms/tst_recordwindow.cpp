@@ -43,8 +43,12 @@ private Q_SLOTS:
         OpenRecord record;
         QVERIFY(QTest::qWaitForWindowActive(record.operator->()));
         QCOMPARE(record->focusWidget(), record.box(1));
-        QTest::keyClick(record.box(1), Qt::Key_PageDown, Qt::ControlModifier); // to the page behind it, and its tab
-        QCOMPARE(record->focusWidget(), record->TabStrip1);
+        for (const QKeyCombination &keys : {Qt::ALT | Qt::Key_V, Qt::CTRL | Qt::Key_PageDown}) {
+            record->TabStrip1->setSelectedItem(1);
+            record.box(1)->setFocus();
+            QTest::keyClick(record.box(1), keys.key(), keys.keyboardModifiers()); // to the page behind it, and its tab
+            QCOMPARE(record->focusWidget(), record->TabStrip1);
+        }
         QStringList visited;
         while (visited.size() < 8) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);

@@ -159,7 +159,7 @@ private Q_SLOTS:
                 "DELETE FROM Attachments; INSERT INTO Attachments (AttachmentsName, Attachments) VALUES (" +
                 QByteArray(row) + ')');
             QFile::remove(m_folder->path(u"temp/Search/a.txt"_s));
-            const QString raised = errorOf([&] { search.cmdOpendb(u"a"_s, statement); });
+            const QString raised = errorOf([&, statement = statement] { search.cmdOpendb(u"a"_s, statement); });
             QVERIFY2(raised.startsWith(error), qPrintable(raised));
             QCOMPARE(filesToScan().size(), open); // made before the field is asked for
             closeLeftOpen(open);

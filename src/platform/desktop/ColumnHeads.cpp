@@ -45,6 +45,17 @@ void ColumnHeads::keyPressEvent(QKeyEvent *event)
         Q_EMIT sectionClicked(m_chosen);
 }
 
+// Qt elides a text that is longer than the section, and cuts one that is longer than the place it leaves in there.
+void ColumnHeads::initStyleOptionForIndex(QStyleOptionHeader *option, int logicalIndex) const
+{
+    QHeaderView::initStyleOptionForIndex(option, logicalIndex);
+    QStyleOptionHeader section = *option;
+    section.rect = QRect(0, 0, sectionSize(logicalIndex), height());
+    const int room = style()->subElementRect(QStyle::SE_HeaderLabel, &section, this).width();
+    option->text =
+        fontMetrics().elidedText(model()->headerData(logicalIndex, Qt::Horizontal).toString(), textElideMode(), room);
+}
+
 void ColumnHeads::paintSection(QPainter *painter, const QRect &rect, int logicalIndex) const
 {
     painter->save(); // Qt leaves its own pen behind

@@ -18,6 +18,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void initStyleOptionForIndex(QStyleOptionHeader *option, int logicalIndex) const override;
     void paintSection(QPainter *painter, const QRect &rect, int logicalIndex) const override;
 
 private:

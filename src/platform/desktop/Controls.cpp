@@ -1,6 +1,6 @@
 #include "platform/desktop/Controls.h"
 
-#include "platform/desktop/CopyLines.h"
+#include "platform/desktop/ItemDelegate.h"
 #include "platform/desktop/Keys.h"
 #include "platform/desktop/Twips.h"
 #include "platform/runtime/RuntimeError.h"
@@ -11,7 +11,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
-#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -220,6 +219,12 @@ Frame::Frame(QWidget *parent, QAnyStringView name, const QString &caption) : Con
     setAccessibleName(caption); // within another frame Qt tells that one's title
 }
 
+void Frame::setBuddy(QWidget *box)
+{
+    box->setAccessibleName(accessibleName());
+    setFocusProxy(box);
+}
+
 TabbedDialog::TabbedDialog(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
 {
     onPageKeys(this, [this](int pages) { turnTo((currentIndex() + pages + count()) % count()); });
@@ -246,8 +251,9 @@ void TabbedDialog::addPage(QWidget *content, const QString &caption)
     addTab(page, caption);
 }
 
-ListBox::ListBox(QWidget *parent, QAnyStringView name, const QStringList &items) : ControlOf(parent, name)
+ListBox::ListBox(QWidget *parent, QAnyStringView name, const QStringList &items) : LineView(parent, name)
 {
+    setItemDelegate(new ItemDelegate(this));
     addItems(items);
 }
 
@@ -290,14 +296,14 @@ void ListBox::setLines(int lines)
 
 namespace {
 
-class OneLineDelegate : public QStyledItemDelegate
+class OneLineDelegate : public ItemDelegate
 {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    using ItemDelegate::ItemDelegate;
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
-        QStyledItemDelegate::paint(painter, option, index);
+        ItemDelegate::paint(painter, option, index);
         const QModelIndexList chosen = qobject_cast<const QListView *>(option.widget)->selectionModel()->selectedRows();
         if (chosen.isEmpty() || chosen.contains(index))
             return;
@@ -305,13 +311,13 @@ public:
         const QString arrow = choice.row() < index.row() ? QStringLiteral("\u25b2 ") : QStringLiteral("\u25bc ");
         painter->setPen(option.palette.color(QPalette::Text));
         painter->drawText(option.rect.adjusted(0, 0, -gap, 0), Qt::AlignRight | Qt::AlignVCenter,
-                          arrow + choice.data().toString());
+                          arrow + displayText(choice.data(), option.locale));
     }
 
 protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
     {
-        QStyledItemDelegate::initStyleOption(option, index);
+        ItemDelegate::initStyleOption(option, index);
         if (option->state & QStyle::State_Selected)
             return;
         option->font.setItalic(true);
@@ -337,18 +343,10 @@ void ListBox::setOneLine()
     setLines(1);
 }
 
-void ListBox::keyPressEvent(QKeyEvent *event)
-{
-    if (event->matches(QKeySequence::Copy))
-        copyLines(*this);
-    else
-        ControlOf::keyPressEvent(event);
-}
-
 // Qt lets Ctrl with a click take the selection away; here what has been picked can only be exchanged.
 QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex &index, const QEvent *event) const
 {
-    const QItemSelectionModel::SelectionFlags command = ControlOf::selectionCommand(index, event);
+    const QItemSelectionModel::SelectionFlags command = LineView::selectionCommand(index, event);
     return command.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::NoUpdate : command;
 }
 

@@ -1,7 +1,7 @@
 // The plain controls: Qt's widgets with their given names, and the events that Qt lacks.
 #pragma once
 
-#include "platform/desktop/Control.h"
+#include "platform/desktop/LineView.h"
 #include "platform/desktop/Mnemonics.h"
 
 #include <QCheckBox>
@@ -132,6 +132,8 @@ class Frame : public ControlOf<QGroupBox>
 {
 public:
     Frame(QWidget *parent, QAnyStringView name, const QString &caption);
+    // The caption is the label of this one box in it.
+    void setBuddy(QWidget *box);
 };
 
 // The tabbed dialog. Each page holds one widget, set off from the page's edge; Ctrl with Page Up or Page Down turns
@@ -149,7 +151,7 @@ private:
 
 // A list of texts of which one can be selected. Assigning a text selects the equal item, without regard to case; a text
 // that no item has leaves nothing selected.
-class ListBox : public ControlOf<QListWidget>
+class ListBox : public LineView<QListWidget>
 {
 public:
     ListBox(QWidget *parent, QAnyStringView name, const QStringList &items = {});
@@ -167,7 +169,6 @@ public:
     void setOneLine();
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
 };
 

@@ -1,7 +1,6 @@
 #include "platform/desktop/Form.h"
 
 #include "platform/desktop/MdiForm.h"
-#include "platform/desktop/Mnemonics.h"
 #include "platform/desktop/Twips.h"
 
 #include <QAbstractScrollArea>
@@ -90,7 +89,7 @@ bool Form::event(QEvent *event)
 {
     const bool isHandled = QWidget::event(event);
     if (event->type() == QEvent::Show || event->type() == QEvent::LayoutRequest)
-        dealMnemonics(*this);
+        dealMnemonics(*this, m_letters);
     if (event->type() == QEvent::WindowActivate && isWindow())
         becomeActive();
     return isHandled;

@@ -8,6 +8,7 @@
 
 #include "platform/desktop/Control.h"
 #include "platform/desktop/ErrorReport.h"
+#include "platform/desktop/Mnemonics.h"
 
 #include <QSizeF>
 #include <QWidget>
@@ -80,6 +81,7 @@ private:
     std::optional<QSize> m_presetSize;
     std::optional<QSizeF> m_keptSize;   // twips
     std::optional<QSizeF> m_usefulSize; // twips
+    DealtLetters m_letters;
 };
 
 // Makes a window, hands it what its opener sets, and shows it. A window whose load fails is gone again.

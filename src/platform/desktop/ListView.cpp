@@ -1,10 +1,10 @@
 #include "platform/desktop/ListView.h"
 
 #include "platform/desktop/ColumnHeads.h"
-#include "platform/desktop/CopyLines.h"
+#include "platform/desktop/ItemDelegate.h"
 #include "platform/desktop/Keys.h"
-#include "platform/desktop/MdiForm.h"
 #include "platform/desktop/MenuKey.h"
+#include "platform/desktop/PlainText.h"
 #include "platform/desktop/Twips.h"
 #include "platform/runtime/Conversion.h"
 
@@ -28,9 +28,6 @@ bool isText(int role)
 {
     return role == Qt::DisplayRole || role == Qt::EditRole;
 }
-
-// More than any screen shows. To lay out a text of megabytes takes Qt seconds at each painting.
-constexpr qsizetype mostShown = 4000;
 
 // A line of the list is one line high whatever its texts hold.
 QString onOneLine(QString text)
@@ -150,9 +147,10 @@ const QStringList &DataObject::Files() const
 }
 
 ListView::ListView(QWidget *parent, QAnyStringView name)
-    : ControlOf(parent, name), ListItems(this), ColumnHeaders(this), m_heads(new ColumnHeads(*this))
+    : LineView(parent, name), ListItems(this), ColumnHeaders(this), m_heads(new ColumnHeads(*this))
 {
     setHeader(m_heads);
+    setItemDelegate(new ItemDelegate(this));
     setColumnCount(0);
     setRootIsDecorated(false);
     setUniformRowHeights(true);
@@ -184,7 +182,7 @@ bool ListView::viewportEvent(QEvent *event)
             return true;
         }
     }
-    return ControlOf::viewportEvent(event);
+    return LineView::viewportEvent(event);
 }
 
 void ListView::keyPressEvent(QKeyEvent *event)
@@ -194,12 +192,10 @@ void ListView::keyPressEvent(QKeyEvent *event)
                             isSignalConnected(QMetaMethod::fromSignal(&ListView::ColumnClick));
     if (isShiftF10(*event))
         openMenuByKey();
-    else if (event->matches(QKeySequence::Copy))
-        copyLines(*this);
     else if (toTheHeads)
         m_heads->enter();
     else
-        QTreeWidget::keyPressEvent(event);
+        LineView::keyPressEvent(event);
 }
 
 // The Enter that answers a message box is pressed there and released here: it is not meant for the list.
@@ -212,14 +208,7 @@ void ListView::keyReleaseEvent(QKeyEvent *event)
     Q_EMIT KeyUp(keyCode(*event));
 }
 
-// Whoever comes by the keyboard finds a line selected, so that a list of one line can be used too.
-void ListView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
-{
-    ControlOf::currentChanged(current, previous);
-    if (hasFocus())
-        MdiForm::bringIntoView(*viewport(), visualRect(current));
-}
-
+// Whoever comes by the keyboard finds a line selected.
 void ListView::focusInEvent(QFocusEvent *event)
 {
     QTreeWidget::focusInEvent(event);
@@ -229,8 +218,8 @@ void ListView::focusInEvent(QFocusEvent *event)
 
 void ListView::selectALine()
 {
-    if (!SelectedItem())
-        setCurrentItem(currentItem() ? currentItem() : topLevelItem(0));
+    if (!isAnyHighlighted())
+        highlightCurrent();
 }
 
 void ListView::mouseDoubleClickEvent(QMouseEvent *event)

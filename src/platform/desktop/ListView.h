@@ -2,7 +2,7 @@
 // of clicks on the headers, Alt with Up goes to them.
 #pragma once
 
-#include "platform/desktop/Control.h"
+#include "platform/desktop/LineView.h"
 #include "platform/desktop/ObjectRef.h"
 #include "platform/runtime/Value.h"
 
@@ -97,7 +97,7 @@ private:
 };
 
 // A cell that is too narrow for its text has it as its tool tip.
-class ListView : public ControlOf<QTreeWidget>
+class ListView : public LineView<QTreeWidget>
 {
     Q_OBJECT
 public:
@@ -129,7 +129,6 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
-    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;

@@ -10,6 +10,7 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFocusEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -38,6 +39,19 @@ QMargins borders(const QWidget &child)
     const int title = child.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &child);
     return {frame, title, frame, frame};
 }
+
+// A child's border and title bar. Qt's own remembers for good that the focus once came to it as by the Tab key, which
+// it does too where a page that has the focus is hidden, and hands it one stop further at each activation from then on.
+class ChildWindow : public QMdiSubWindow
+{
+protected:
+    void focusOutEvent(QFocusEvent *event) override
+    {
+        QMdiSubWindow::focusOutEvent(event);
+        QFocusEvent asByActivation(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+        QMdiSubWindow::focusInEvent(&asByActivation);
+    }
+};
 
 // How far the stretch has to move to lie within the other, its beginning first.
 int wayInto(int from, int to, int seenFrom, int seenTo)
@@ -198,7 +212,12 @@ void MdiForm::showChild(Form &form)
     if (!host) {
         const bool placed = form.testAttribute(Qt::WA_Moved);
         const QPoint middle = form.geometry().center(); // on the screen
-        host = m_area->addSubWindow(&form);
+        QWidget *start = form.focusWidget();            // which the new parent does not know
+        host = new ChildWindow;
+        host->setWidget(&form);
+        m_area->addSubWindow(host);
+        if (start)
+            start->setFocus();
         host->setAttribute(Qt::WA_DeleteOnClose, form.testAttribute(Qt::WA_DeleteOnClose));
         for (QAction *action : host->systemMenu()->actions())
             action->setShortcuts({}); // the frame has these keys, whether the window is maximised or not

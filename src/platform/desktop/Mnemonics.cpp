@@ -4,6 +4,7 @@
 #include "platform/runtime/ErrorHandling.h"
 
 #include <QAbstractButton>
+#include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -21,13 +22,16 @@ namespace desktop {
 
 namespace {
 
+enum class Kind { Button, TabOrMenu, Label };
+
 // What can have a letter, and how it gets one.
 struct Bearer
 {
+    Kind kind;
     QString caption;
     QChar letter; // null while it has none
     std::function<void(QChar letter)> take;
-    bool givesWay = true; // to one that would go without; a button keeps the letter that people guess
+    bool isAsking = false; // in this dealing
 };
 
 constexpr QChar letterMark = u'&';
@@ -97,7 +101,7 @@ QList<QChar> lettersFor(const QString &caption, Among among)
 class Dealing
 {
 public:
-    explicit Dealing(const std::set<QChar> &reserved)
+    Dealing(const std::set<QChar> &reserved, DealtLetters &before) : m_before(before)
     {
         for (const QChar letter : reserved)
             m_owners[letter] = nullptr;
@@ -107,22 +111,20 @@ public:
     {
         std::vector<Bearer *> asking;
         for (Bearer &bearer : bearers) {
-            if (bearer.letter.isNull() || m_owners.contains(bearer.letter))
+            bearer.isAsking = bearer.letter.isNull() || !m_owners.emplace(bearer.letter, &bearer).second;
+            if (bearer.isAsking)
                 asking.push_back(&bearer);
-            else
-                m_owners[bearer.letter] = nullptr;
         }
-        std::vector<Bearer *> waiting = asking;
-        for (const Among among : {Among::FirstLetter, Among::FirstLettersOfWords, Among::AllLetters})
-            std::erase_if(waiting, [this, among](Bearer *bearer) { return findFree(*bearer, among); });
-        for (Bearer *bearer : waiting) {
+        std::erase_if(asking, [this](Bearer *bearer) { return findItsOwn(*bearer); });
+        findFree(asking, lettersOfTheAbsent(bearers));
+        std::erase_if(asking, [this](const Bearer *bearer) { return isLabelFromBefore(*bearer); });
+        findFree(asking, {});
+        for (Bearer *bearer : asking) {
             std::set<QChar> asked;
             makeRoom(*bearer, asked);
         }
-        for (Bearer *bearer : asking) {
-            if (const QChar letter = letterWith(*bearer); letter != bearer->letter)
-                bearer->take(letter);
-        }
+        for (Bearer &bearer : bearers)
+            handOut(bearer);
     }
 
 private:
@@ -133,27 +135,71 @@ private:
         return owned == m_owners.end() ? QChar() : owned->first;
     }
 
-    bool findFree(Bearer &bearer, Among among)
+    void handOut(Bearer &bearer)
+    {
+        const QChar letter = letterWith(bearer);
+        if (letter != bearer.letter)
+            bearer.take(letter);
+        m_before[bearer.caption] = {letter, bearer.kind != Kind::Label};
+    }
+
+    // It did without and goes on to: what it took now might be wanted back while it shows.
+    bool isLabelFromBefore(const Bearer &bearer) const
+    {
+        return bearer.kind == Kind::Label && m_before.contains(bearer.caption);
+    }
+
+    std::set<QChar> lettersOfTheAbsent(const std::vector<Bearer> &present) const
+    {
+        std::set<QChar> letters;
+        for (const auto &[caption, dealt] : m_before) {
+            if (dealt.isKept && std::ranges::find(present, caption, &Bearer::caption) == present.end())
+                letters.insert(dealt.letter);
+        }
+        return letters;
+    }
+
+    bool findItsOwn(Bearer &bearer)
+    {
+        const auto dealt = m_before.find(bearer.caption);
+        return dealt != m_before.end() && !dealt->second.letter.isNull() &&
+               m_owners.emplace(dealt->second.letter, &bearer).second;
+    }
+
+    // Leaves those that found none.
+    void findFree(std::vector<Bearer *> &asking, const std::set<QChar> &without)
+    {
+        for (const Among among : {Among::FirstLetter, Among::FirstLettersOfWords, Among::AllLetters})
+            std::erase_if(asking, [&](Bearer *bearer) { return findFree(*bearer, among, without); });
+    }
+
+    bool findFree(Bearer &bearer, Among among, const std::set<QChar> &without)
     {
         for (const QChar letter : lettersFor(bearer.caption, among)) {
-            if (!m_owners.contains(letter)) {
-                m_owners[letter] = &bearer;
+            if (!without.contains(letter) && m_owners.emplace(letter, &bearer).second)
                 return true;
-            }
         }
         return false;
+    }
+
+    // A button keeps a letter that people guess.
+    static bool givesWay(const Bearer &owner, QChar letter, const Bearer &asking)
+    {
+        if (!owner.isAsking)
+            return owner.kind == Kind::Label && asking.kind != Kind::Label;
+        return owner.kind != Kind::Button || !lettersFor(owner.caption, Among::FirstLettersOfWords).contains(letter);
     }
 
     // Takes a letter from somebody who can have another one instead.
     bool makeRoom(Bearer &bearer, std::set<QChar> &asked)
     {
         for (const QChar letter : lettersFor(bearer.caption, Among::AllLetters)) {
-            if (asked.contains(letter))
+            if (!asked.insert(letter).second)
                 continue;
-            asked.insert(letter);
             const auto taken = m_owners.find(letter);
             Bearer *owner = taken == m_owners.end() ? nullptr : taken->second;
-            if (taken != m_owners.end() && (!owner || !owner->givesWay || !makeRoom(*owner, asked)))
+            const bool isMenus = taken != m_owners.end() && !owner;
+            if (isMenus || (owner && (!givesWay(*owner, letter, bearer) || !makeRoom(*owner, asked))))
                 continue;
             m_owners[letter] = &bearer;
             return true;
@@ -161,31 +207,30 @@ private:
         return false;
     }
 
-    // Null: reserved, or somebody's from before, and not to be taken away. Qt's own containers end the process when
-    // memory is refused.
+    DealtLetters &m_before;
+    // Null: reserved. Qt's own containers end the process when memory is refused.
     std::map<QChar, Bearer *> m_owners;
 };
 
-template <class Owner> Bearer bearerOf(Owner &owner, const QString &text, void (Owner::*setText)(const QString &))
+template <class Owner>
+Bearer bearerOf(Kind kind, Owner &owner, const QString &text, void (Owner::*setText)(const QString &))
 {
-    return {captionOf(text), letterOf(QKeySequence::mnemonic(text)),
+    return {kind, captionOf(text), letterOf(QKeySequence::mnemonic(text)),
             [&owner, text, setText](QChar letter) { (owner.*setText)(marked(unmarked(text), letter)); }};
 }
 
 Bearer bearerOf(QAbstractButton &button)
 {
-    return {button.text(), letterOf(button.shortcut()),
-            [&button](QChar letter) {
+    return {Kind::Button, captionOf(button.text()), letterOf(button.shortcut()), [&button](QChar letter) {
                 button.setShortcut(keyOf(letter));
                 button.update();
-            },
-            false};
+            }};
 }
 
 Bearer bearerOf(QTabBar &bar, int tab)
 {
     const QString text = bar.tabText(tab);
-    return {captionOf(text), letterOf(QKeySequence::mnemonic(text)),
+    return {Kind::TabOrMenu, captionOf(text), letterOf(QKeySequence::mnemonic(text)),
             [&bar, tab, text](QChar letter) { bar.setTabText(tab, marked(unmarked(text), letter)); }};
 }
 
@@ -194,7 +239,7 @@ std::vector<Bearer> bearersOf(const QList<QAction *> &actions)
     std::vector<Bearer> bearers;
     for (QAction *action : actions) {
         if (action->isVisible() && !action->isSeparator())
-            bearers.push_back(bearerOf(*action, action->text(), &QAction::setText));
+            bearers.push_back(bearerOf(Kind::TabOrMenu, *action, action->text(), &QAction::setText));
     }
     return bearers;
 }
@@ -223,7 +268,11 @@ std::vector<Bearer> bearersIn(const QWidget &window)
     }
     for (QLabel *label : window.findChildren<QLabel *>()) {
         if (label->isVisibleTo(&window) && label->buddy())
-            bearers.push_back(bearerOf(*label, label->text(), &QLabel::setText));
+            bearers.push_back(bearerOf(Kind::Label, *label, label->text(), &QLabel::setText));
+    }
+    for (QGroupBox *frame : window.findChildren<QGroupBox *>()) {
+        if (frame->isVisibleTo(&window) && frame->focusProxy())
+            bearers.push_back(bearerOf(Kind::Label, *frame, frame->title(), &QGroupBox::setTitle));
     }
     return bearers;
 }
@@ -233,18 +282,20 @@ void dealAmong(const QWidget &items)
 {
     runtime::everyStep([&items] {
         std::vector<Bearer> bearers = bearersOf(items.actions());
-        Dealing({}).deal(bearers);
+        DealtLetters before;
+        Dealing({}, before).deal(bearers);
     });
 }
 
 } // namespace
 
-void dealMnemonics(QWidget &window)
+void dealMnemonics(QWidget &window, DealtLetters &before)
 {
-    runtime::everyStep([&window] {
+    runtime::everyStep([&] {
         std::vector<Bearer> bearers = bearersIn(window);
         const MdiForm *frame = MdiForm::frame();
-        Dealing(frame && frame->isAncestorOf(&window) ? lettersOf(*frame->menuBar()) : std::set<QChar>()).deal(bearers);
+        const bool isInFrame = frame && frame->isAncestorOf(&window);
+        Dealing(isInFrame ? lettersOf(*frame->menuBar()) : std::set<QChar>(), before).deal(bearers);
     });
 }
 

@@ -18,7 +18,7 @@ const QString literalMark = mark + mark;
 
 void setTitle(QWidget &window, const QString &title)
 {
-    window.setWindowTitle(QString(title).replace(mark, literalMark));
+    window.setWindowTitle(title.left(mostShown).replace(mark, literalMark));
 }
 
 QString titleOf(const QWidget &window)

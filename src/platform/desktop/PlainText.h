@@ -9,7 +9,10 @@ class QWidget;
 
 namespace desktop {
 
-// A window's title, in which Qt reads "[*]" as the place of a mark for unsaved changes.
+// More characters than any screen shows. Qt takes seconds to lay out a text of megabytes, at each painting.
+constexpr qsizetype mostShown = 4000;
+
+// A window's title up to that length. Qt reads "[*]" in it as the place of a mark for unsaved changes.
 void setTitle(QWidget &window, const QString &title);
 QString titleOf(const QWidget &window);
 

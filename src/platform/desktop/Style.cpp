@@ -1,11 +1,14 @@
 #include "platform/desktop/Style.h"
 
+#include "platform/desktop/Contrast.h"
+#include "platform/desktop/Edges.h"
 #include "platform/desktop/Twips.h"
 
-#include <QAbstractItemView>
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QPainter>
 #include <QStyleOption>
+#include <QToolButton>
 
 #include <cmath>
 
@@ -13,36 +16,11 @@ namespace desktop {
 
 namespace {
 
-double linear(double channel)
-{
-    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-}
-
-double luminance(const QColor &colour)
-{
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-}
-
-// As it looks on the ground, where it is partly transparent.
-QColor on(const QColor &ground, const QColor &colour)
-{
-    const auto mixed = [part = colour.alphaF()](float over, float under) { return over * part + under * (1 - part); };
-    return QColor::fromRgbF(mixed(colour.redF(), ground.redF()), mixed(colour.greenF(), ground.greenF()),
-                            mixed(colour.blueF(), ground.blueF()));
-}
-
-bool isDark(const QColor &colour)
-{
-    return contrast(colour, Qt::white) > contrast(colour, Qt::black);
-}
-
 struct Pair
 {
     QPalette::ColorRole text;
     QPalette::ColorRole ground;
 };
-
-constexpr QColor lineColour(128, 128, 128);
 
 constexpr Pair pairs[] = {
     {QPalette::WindowText, QPalette::Window},
@@ -56,10 +34,13 @@ constexpr Pair pairs[] = {
     {QPalette::Text, QPalette::AlternateBase},
 };
 
-// On a dark window a button is told from its ground by being lighter.
-void raiseButton(QPalette &palette, QPalette::ColorGroup group)
+// On a dark window a button is told from its ground by being lighter, and a box that is switched off by having the
+// window's colour, as it has on a light one.
+void setOffFromDark(QPalette &palette, QPalette::ColorGroup group)
 {
     const QColor window = palette.color(group, QPalette::Window);
+    if (isDark(window) && group == QPalette::Disabled)
+        palette.setColor(group, QPalette::Base, window);
     if (isDark(window) && contrast(window, palette.color(group, QPalette::Button)) < 1.3)
         palette.setColor(group, QPalette::Button, window.lighter(150));
 }
@@ -93,33 +74,27 @@ void showOnDark(QStyleOptionTitleBar &bar)
     bar.palette.setColor(QPalette::Highlight, window);
 }
 
-void drawFocusAround(const QRect &place, const QPalette &palette, QPainter &painter)
+Qt::ArrowType arrowOf(QStyle::PrimitiveElement element)
 {
-    painter.save();
-    painter.setPen(palette.color(QPalette::Highlight));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(place.adjusted(0, 0, -1, -1));
-    painter.restore();
+    if (element == QStyle::PE_IndicatorArrowDown)
+        return Qt::DownArrow;
+    return element == QStyle::PE_IndicatorArrowLeft ? Qt::LeftArrow : Qt::RightArrow;
+}
+
+// The picture of a selected line in the colour of its text: its own colours are not seen on every selection.
+QIcon onSelection(const QStyleOptionViewItem &line, qreal pixelRatio)
+{
+    const QIcon::State state = line.state & QStyle::State_Open ? QIcon::On : QIcon::Off;
+    QPixmap picture = line.icon.pixmap(line.decorationSize, pixelRatio, QIcon::Selected, state);
+    QPainter painter(&picture);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(picture.rect(), line.palette.color(QPalette::HighlightedText));
+    QIcon icon;
+    icon.addPixmap(picture, QIcon::Selected, state);
+    return icon;
 }
 
 } // namespace
-
-double contrast(const QColor &one, const QColor &other)
-{
-    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
-QColor readable(const QColor &colour, const QColor &stronger, const QColor &ground)
-{
-    QColor mixed = on(ground, colour);
-    for (int percent = 0; percent < 100 && contrast(mixed, ground) < readableContrast; percent += 2) {
-        QColor part = stronger;
-        part.setAlphaF(float(percent) / 100);
-        mixed = on(on(ground, colour), part);
-    }
-    return contrast(mixed, ground) < readableContrast ? stronger : mixed;
-}
 
 QPalette darkPalette()
 {
@@ -148,16 +123,20 @@ void Style::polish(QPalette &palette)
 {
     QProxyStyle::polish(palette);
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-        raiseButton(palette, group);
+        setOffFromDark(palette, group);
         makeReadable(palette, group);
     }
+    setEdgeColours(palette);
 }
 
 int Style::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const
 {
     const int usual = QProxyStyle::pixelMetric(metric, option, widget);
     switch (metric) {
+    case PM_DefaultFrameWidth:
+        return isFusion() && qobject_cast<const QAbstractScrollArea *>(widget) ? focusRingWidth : usual;
     case PM_SmallIconSize:
+    case PM_ButtonIconSize:
     case PM_ToolBarIconSize:
     case PM_ListViewIconSize:
     case PM_TitleBarHeight:
@@ -172,44 +151,112 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWi
     }
 }
 
-// The style draws the box for a tick with a line that nearly has the colour of a dark window.
+// What Fusion would draw with lines that are next to invisible on a dark window, and faint on a light one.
+bool Style::drawOwnPrimitive(PrimitiveElement element, const QStyleOption &option, QPainter &painter,
+                             const QWidget *widget) const
+{
+    switch (element) {
+    case PE_Frame:
+        if (qobject_cast<const QAbstractScrollArea *>(widget))
+            drawViewEdge(painter, option);
+        else
+            drawEdge(painter, option, false);
+        return true;
+    case PE_FrameLineEdit:
+        drawEdge(painter, option, option.state & State_HasFocus);
+        return true;
+    case PE_IndicatorArrowLeft:
+    case PE_IndicatorArrowRight:
+    case PE_IndicatorArrowDown:
+        if (!qobject_cast<const QToolButton *>(widget))
+            return false;
+        drawArrow(painter, option.rect, arrowOf(element), option.palette.color(QPalette::ButtonText));
+        return true;
+    case PE_FrameFocusRect:
+        drawInnerFocus(painter, option);
+        return true;
+    default:
+        return false;
+    }
+}
+
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                           const QWidget *widget) const
 {
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
-    if (!isDark(option->palette.color(QPalette::Window)))
+    if (!isFusion())
+        return QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (drawOwnPrimitive(element, *option, *painter, widget))
         return;
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(lineColour);
-    const QRectF place = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
-    if (element == PE_IndicatorCheckBox)
-        painter->drawRect(place);
+    if (const auto *pane = qstyleoption_cast<const QStyleOptionTabWidgetFrame *>(option);
+        pane && element == PE_FrameTabWidget) {
+        QStyleOptionTabWidgetFrame shown = *pane;
+        shown.palette.setBrush(QPalette::Button, option->palette.window());
+        QProxyStyle::drawPrimitive(element, &shown, painter, widget);
+        return drawEdge(*painter, *option, false);
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element == PE_PanelButtonCommand)
+        return drawEdge(*painter, *option, option->state & State_HasFocus && option->state & State_KeyboardFocusChange);
+    if (element == PE_IndicatorCheckBox || element == PE_FrameWindow)
+        drawEdge(*painter, *option, false);
     else if (element == PE_IndicatorRadioButton)
-        painter->drawEllipse(place);
-    painter->restore();
+        drawRoundEdge(*painter, *option);
 }
 
 void Style::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                         const QWidget *widget) const
 {
-    QProxyStyle::drawControl(element, option, painter, widget);
-    if (element == CE_ShapedFrame && option->state & State_HasFocus && qobject_cast<const QAbstractItemView *>(widget))
-        drawFocusAround(option->rect, option->palette, *painter);
+    if (const auto *line = qstyleoption_cast<const QStyleOptionViewItem *>(option);
+        element == CE_ItemViewItem && line && line->state & State_Selected && !line->icon.isNull()) {
+        QStyleOptionViewItem shown = *line;
+        shown.icon = onSelection(*line, painter->device()->devicePixelRatio());
+        return QProxyStyle::drawControl(element, &shown, painter, widget);
+    }
+    const auto *tab = qstyleoption_cast<const QStyleOptionTab *>(option);
+    if (element != CE_TabBarTabShape || !tab || !isFusion())
+        return QProxyStyle::drawControl(element, option, painter, widget);
+    QStyleOptionTab shown = *tab;
+    shown.palette.setBrush(QPalette::Button, option->palette.window());
+    QProxyStyle::drawControl(element, &shown, painter, widget);
+    if (tab->state & State_Selected)
+        drawSelectedTab(*painter, *tab);
+}
+
+// The frame begins below the title.
+void Style::drawGroupBox(const QStyleOptionGroupBox &box, QPainter &painter, const QWidget *widget) const
+{
+    QStyleOptionGroupBox shown = box;
+    shown.subControls &= ~SC_GroupBoxFrame;
+    QProxyStyle::drawComplexControl(CC_GroupBox, &shown, &painter, widget);
+    if (!box.text.isEmpty())
+        shown.rect.setTop(subControlRect(CC_GroupBox, &box, SC_GroupBoxLabel, widget).bottom() + 3);
+    drawEdge(painter, shown, false);
 }
 
 void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
                                const QWidget *widget) const
 {
     const auto *bar = qstyleoption_cast<const QStyleOptionTitleBar *>(option);
-    if (control == CC_TitleBar && bar && baseStyle()->inherits("QFusionStyle")) {
+    if (control == CC_TitleBar && bar && isFusion()) {
         QStyleOptionTitleBar shown = *bar;
         showOnDark(shown);
-        return QProxyStyle::drawComplexControl(control, &shown, painter, widget);
+        QProxyStyle::drawComplexControl(control, &shown, painter, widget);
+        const QRect button = subControlRect(CC_TitleBar, bar, SC_TitleBarMinButton, widget);
+        if (bar->subControls & SC_TitleBarMinButton && button.isValid())
+            drawMinimizeDash(*painter, button, shown);
+        return;
     }
+    if (const auto *box = qstyleoption_cast<const QStyleOptionGroupBox *>(option);
+        control == CC_GroupBox && box && isFusion())
+        return drawGroupBox(*box, *painter, widget);
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-    if (control == CC_ComboBox && option->state & State_HasFocus)
-        drawFocusAround(option->rect, option->palette, *painter);
+    if (!isFusion())
+        return;
+    if (control == CC_ComboBox)
+        drawEdge(*painter, *option, option->state & State_HasFocus);
+    else if (control == CC_ScrollBar && option->subControls & SC_ScrollBarSlider)
+        drawFrame(*painter, subControlRect(CC_ScrollBar, option, SC_ScrollBarSlider, widget),
+                  option->palette.color(QPalette::Dark));
 }
 
 } // namespace desktop

@@ -1,19 +1,14 @@
 // The toolkit's own style, put right where it fails the eye.
 //
-// In every palette, the desktop's dark one too, texts stand out from their ground; the control that has the focus says
-// so; and the title bar of a child window that is not the active one can be read.
+// In every palette, the desktop's dark one too, texts, edges and selected pictures stand out from their ground; the
+// control that has the focus says so; and the title bar of a child window that is not the active one can be read.
 #pragma once
 
 #include <QProxyStyle>
 
-namespace desktop {
+class QStyleOptionGroupBox;
 
-// The contrast ratio of two colours as the guidelines for accessible content count it: 1 to 21.
-double contrast(const QColor &one, const QColor &other);
-// What a text needs to be read.
-inline constexpr double readableContrast = 4.5;
-// The colour itself, or mixed with as much of the stronger one as it takes to be read on the ground.
-QColor readable(const QColor &colour, const QColor &stronger, const QColor &ground);
+namespace desktop {
 
 // The colours of a dark desktop, put right as the style does.
 QPalette darkPalette();
@@ -35,6 +30,13 @@ public:
                      const QWidget *widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
                             const QWidget *widget) const override;
+
+private:
+    // Fusion, whose faults are known. Any other style draws its own edges.
+    bool isFusion() const { return baseStyle()->inherits("QFusionStyle"); }
+    bool drawOwnPrimitive(PrimitiveElement element, const QStyleOption &option, QPainter &painter,
+                          const QWidget *widget) const;
+    void drawGroupBox(const QStyleOptionGroupBox &box, QPainter &painter, const QWidget *widget) const;
 };
 
 } // namespace desktop

@@ -10,6 +10,7 @@ namespace desktop {
 TabStrip::TabStrip(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
 {
     setExpanding(false);
+    setFocusPolicy(Qt::StrongFocus);  // so that a click takes the focus from a box before its page is unloaded
     setMinimumHeight(heightOfATab()); // nothing below moves when the first tab comes
     connect(this, &QTabBar::currentChanged, this, &TabStrip::select);
     // Qt emits this before currentChanged, which reports the click on another tab: here the selected one alone counts.
@@ -20,12 +21,17 @@ TabStrip::TabStrip(QWidget *parent, QAnyStringView name) : ControlOf(parent, nam
     onPageKeys(parent ? parent : this, [this](int pages) { turn(pages); });
 }
 
-// The focus leaves the page before its boxes are unloaded.
+// A box that is unloaded with its page would take the focus along.
+void TabStrip::leavePage()
+{
+    setFocus(Qt::ShortcutFocusReason);
+}
+
 void TabStrip::turn(int pages)
 {
     if (count() == 0)
         return;
-    setFocus(Qt::ShortcutFocusReason);
+    leavePage();
     setSelectedItem((currentIndex() + pages + count()) % count() + 1);
 }
 
@@ -44,6 +50,8 @@ bool TabStrip::event(QEvent *event)
         if (showMarkedUpToolTip(tabToolTip(tabAt(help->pos())), *help, this))
             return true;
     }
+    if (event->type() == QEvent::Shortcut) // the letter of a tab
+        leavePage();
     return ControlOf::event(event);
 }
 

@@ -53,6 +53,7 @@ private:
     };
     int heightOfATab();
     void turn(int pages);
+    void leavePage();
     void select(int index);
     int placeOf(int tab) const;
 

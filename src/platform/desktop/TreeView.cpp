@@ -1,8 +1,7 @@
 #include "platform/desktop/TreeView.h"
 
-#include "platform/desktop/CopyLines.h"
+#include "platform/desktop/ItemDelegate.h"
 #include "platform/desktop/Keys.h"
-#include "platform/desktop/MdiForm.h"
 #include "platform/desktop/MenuKey.h"
 
 #include <QApplication>
@@ -12,7 +11,6 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPalette>
-#include <QStyledItemDelegate>
 
 #include <limits>
 #include <utility>
@@ -31,16 +29,16 @@ bool standsUnder(const QTreeWidgetItem *node, const QTreeWidgetItem *ancestor)
 } // namespace
 
 // Emits the tree's signal when an edit begins and passes on the keys that the editor gets.
-class TreeView::LabelDelegate : public QStyledItemDelegate
+class TreeView::LabelDelegate : public ItemDelegate
 {
 public:
-    explicit LabelDelegate(TreeView *tree) : QStyledItemDelegate(tree), m_tree(tree) {}
+    explicit LabelDelegate(TreeView *tree) : ItemDelegate(tree), m_tree(tree) {}
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
         m_tree->m_edited = static_cast<Node *>(m_tree->itemFromIndex(index));
         Q_EMIT m_tree->BeforeLabelEdit();
-        QWidget *editor = QStyledItemDelegate::createEditor(parent, option, index);
+        QWidget *editor = ItemDelegate::createEditor(parent, option, index);
         editor->setObjectName(m_tree->objectName() + QLatin1String(".LabelEdit"));
         editor->setAccessibleName(m_tree->m_edited->Text());
         if (auto *line = qobject_cast<QLineEdit *>(editor))
@@ -53,7 +51,7 @@ protected:
     {
         if (event->type() == QEvent::KeyPress)
             m_tree->m_pressedKey = static_cast<QKeyEvent *>(event)->key();
-        return QStyledItemDelegate::eventFilter(editor, event);
+        return ItemDelegate::eventFilter(editor, event);
     }
 
 private:
@@ -127,7 +125,7 @@ Node &Nodes::operator()(int index) const
     return *m_nodes[size_t(index - 1)];
 }
 
-TreeView::TreeView(QWidget *parent, QAnyStringView name) : ControlOf(parent, name), Nodes(this)
+TreeView::TreeView(QWidget *parent, QAnyStringView name) : LineView(parent, name), Nodes(this)
 {
     setColumnCount(1);
     header()->hide();
@@ -215,13 +213,8 @@ void TreeView::keyPressEvent(QKeyEvent *event)
     m_pressedKey = event->key();
     if (isShiftF10(*event))
         return openMenuByKey();
-    if (event->matches(QKeySequence::Copy))
-        return copyLines(*this);
     const QTreeWidgetItem *before = SelectedItem().get();
-    if (!before && event->key() == Qt::Key_Down)
-        setCurrentItem(topLevelItem(0)); // Qt would begin at the second one
-    else
-        QTreeWidget::keyPressEvent(event);
+    LineView::keyPressEvent(event);
     const QTreeWidgetItem *after = SelectedItem().get();
     const bool confirmed = keyCode(*event) == vbKeyReturn || event->key() == Qt::Key_Space;
     if (after && (after != before || confirmed))
@@ -275,18 +268,11 @@ void TreeView::scrollContentsBy(int dx, int dy)
 }
 
 // Whoever comes by the keyboard finds a node selected to start from.
-void TreeView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
-{
-    ControlOf::currentChanged(current, previous);
-    if (hasFocus())
-        MdiForm::bringIntoView(*viewport(), visualRect(current));
-}
-
 void TreeView::focusInEvent(QFocusEvent *event)
 {
     QTreeWidget::focusInEvent(event);
-    if (isByKeyboard(*event) && !SelectedItem())
-        setCurrentItem(currentItem() ? currentItem() : topLevelItem(0));
+    if (isByKeyboard(*event) && !isAnyHighlighted())
+        highlightCurrent();
 }
 
 } // namespace desktop

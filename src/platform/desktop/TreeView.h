@@ -4,8 +4,8 @@
 // start the edit again. What is removed takes its children along, and the places of all later nodes move up.
 #pragma once
 
-#include "platform/desktop/Control.h"
 #include "platform/desktop/ImageList.h"
+#include "platform/desktop/LineView.h"
 #include "platform/desktop/ObjectRef.h"
 
 #include <QHash>
@@ -67,7 +67,7 @@ private:
 // How the edit of a label begins: by a click on the selected node too, or by StartLabelEdit alone.
 enum LabelEditConstants : int { tvwAutomatic = 0, tvwManual = 1 };
 
-class TreeView : public ControlOf<QTreeWidget>
+class TreeView : public LineView<QTreeWidget>
 {
     Q_OBJECT
 public:
@@ -102,7 +102,6 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
-    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void resizeEvent(QResizeEvent *event) override;
     void doItemsLayout() override;
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight, const QList<int> &roles) override;

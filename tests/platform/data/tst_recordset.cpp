@@ -239,7 +239,7 @@ private Q_SLOTS:
              {std::pair(u"ContributionAmount", text("twelve")), std::pair(u"ContributionAmount", text("1e15")),
               std::pair(u"ContributionDate", text("")), std::pair(u"ContributionDate", Value(1e9)),
               std::pair(u"ContributionNotes", Value(QByteArray("x")))})
-            QCOMPARE(errorOf([&] { rows[field].setValue(value); }), refusedValue);
+            QCOMPARE(errorOf([&, field = field, value = value] { rows[field].setValue(value); }), refusedValue);
         rows[u"ContributionAmount"].setValue(u"$1,200.50"_s);
         QCOMPARE(rows[u"ContributionNotes"].Value(), text("kept"));
         rows.MoveLast();

@@ -2,6 +2,7 @@
 #include "platform/desktop/Controls.h"
 #include "platform/desktop/KeyboardState.h"
 #include "platform/desktop/ListView.h"
+#include "platform/desktop/PlainText.h"
 #include "platform/desktop/StatusBar.h"
 #include "platform/desktop/TabStrip.h"
 #include "platform/desktop/Toolbar.h"
@@ -113,6 +114,13 @@ private Q_SLOTS:
         list.ListItems(2).setSubItem(1, QString(10'000'000, u'x')); // is kept whole and takes no seconds to paint
         QCOMPARE(list.ListItems(2).SubItems(1).size(), 10'000'000);
         QVERIFY(list.ListItems(2).text(1).size() < 10'000);
+        desktop::ListBox box(nullptr, u"box", {QString(100'000, u'x')});
+        desktop::TreeView tree(nullptr, u"tree");
+        tree.Nodes.Add(nullptr, u"key"_s, box.item(0)->text());
+        for (const QAbstractItemView *view : QList<QAbstractItemView *>{&box, &tree})
+            QVERIFY(view->sizeHintForColumn(0) < 100'000); // pixels
+        desktop::setTitle(box, box.item(0)->text());
+        QVERIFY(box.windowTitle().size() < 10'000);
         QCOMPARE(errorNumberOf([&list] { list.ListItems(2).setSubItem(0, Value()); }), 94);
         QCOMPARE(errorNumberOf([&list] { list.ListItems(2).setSubItem(0, Value(QByteArray())); }), 13);
         QCOMPARE(errorNumberOf([&list] { list.ListItems(0); }), 35600);
@@ -321,7 +329,14 @@ private Q_SLOTS:
         QVERIFY(list.viewport()->rect().contains(place));
         QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, place);
         QCOMPARE(list.Text(), u"Ohio"_s); // a pick is not taken back
-        list.setSelected(1, false);
+        int step = 0;
+        const Qt::Key keys[] = {Qt::Key_Down, Qt::Key_Up, Qt::Key_End, Qt::Key_PageDown, Qt::Key_Home};
+        for (const int chosen : {1, 1, 2, 2, 0}) {
+            list.clearSelection(); // Qt's current line stays, which nobody has chosen
+            QTest::keyClick(&list, keys[step++]);
+            QCOMPARE(list.ListIndex(), chosen);
+        }
+        list.setSelected(0, false);
         QCOMPARE(list.ListIndex(), -1);
     }
 
@@ -365,6 +380,8 @@ private Q_SLOTS:
         QVERIFY(looks[1] != looks[0] && looks[2] != looks[1]);
         list.item(0)->setSelected(false);
         QCOMPARE(list.grab().toImage(), looks[0]); // again nobody has chosen Alabama
+        QTest::keyClick(&list, Qt::Key_A);
+        QCOMPARE(list.Text(), u"Alabama"_s); // and not the one behind it
     }
 
     void pagesTurnByTheKeyboardIntoTheirFirstBox()

@@ -137,13 +137,11 @@ void answerDialogs(QTimer &timer)
     timer.start(0);
 }
 
-// The number of failures that were reported. Each window stands in a frame of its own, for a report ends the program.
+// The exit code. Each window stands in a frame of its own, for a report ends the program.
 int openEveryWindow(std::FILE *told)
 {
-    int reports = 0;
     bool foreign = false;
     const auto report = [&](const runtime::RuntimeError &error) {
-        ++reports;
         foreign = foreign || error.number() == -1;
         std::fprintf(told, "%d %s\n", error.number(), qPrintable(error.description().left(200)));
     };

@@ -2,6 +2,7 @@
 // text whole and apart from its neighbours, and does it stand out from its ground? With TOLMARK_PICTURES set to a
 // folder it leaves a picture of each there.
 #include "events/Calendar.h"
+#include "platform/desktop/Contrast.h"
 #include "platform/desktop/Style.h"
 #include "shell/frame/MDIBaseForm.h"
 #include "shell/frame/frmLogin.h"
@@ -135,6 +136,28 @@ private Q_SLOTS:
         if (const QString pictures = qEnvironmentVariable("TOLMARK_PICTURES"); !pictures.isEmpty())
             (host ? host : window)->grab().save(pictures + u'/' + QLatin1String(QTest::currentDataTag()) + u".png"_s);
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    }
+
+    // Without the focus and with it, also where a pixel of the window is not a whole number of the screen's.
+    void everyEdgeIsWholeAndSeen()
+    {
+        for (const auto &[dark, ratio] : {std::pair(false, 1.0), {true, 1.0}, {false, 1.25}, {true, 1.5}}) {
+            setLook(9, dark);
+            QWidget window;
+            desktop::ListBox list(&window, u"list");
+            desktop::TextBox box(&window, u"box");
+            window.show();
+            QVERIFY(QTest::qWaitForWindowActive(&window));
+            for (QWidget *control : QList<QWidget *>{&list, &list, &box, &box}) {
+                QImage seen((QSizeF(control->size()) * ratio).toSize(), QImage::Format_RGB32);
+                seen.setDevicePixelRatio(ratio);
+                control->render(&seen);
+                control->setFocus(); // for the second time
+                const auto [x, y] = std::pair(seen.width() - 1, seen.height() - 1);
+                for (const auto &place : {QPoint(0, y / 2), QPoint(x / 2, 0), QPoint(x, y / 2), QPoint(x / 2, y)})
+                    QVERIFY(desktop::contrast(seen.pixelColor(place), window.palette().window().color()) >= 3);
+            }
+        }
     }
 
     void picturesStandOut()

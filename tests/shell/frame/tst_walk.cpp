@@ -1,4 +1,6 @@
 // Walks through every window by the Tab key, as somebody does who uses no mouse, and asks what a screen reader is told.
+#include "dossier/DisplayMembers.h"
+#include "dynamicforms/DisplayInformation.h"
 #include "shell/frame/MDIBaseForm.h"
 #include "shell/frame/frmLogin.h"
 #include "support/DataStoreFolder.h"
@@ -6,6 +8,7 @@
 #include "support/Stations.h"
 
 #include <QAccessible>
+#include <QGroupBox>
 #include <QMdiSubWindow>
 #include <QMenuBar>
 
@@ -174,6 +177,10 @@ QList<Keyed> keyedParts(const QWidget &window)
         if (label->isVisible() && label->buddy())
             keyed << Keyed(label->text(), QKeySequence::mnemonic(label->text()));
     }
+    for (const auto *group : window.findChildren<QGroupBox *>()) {
+        if (group->isVisible() && group->focusProxy())
+            keyed << Keyed(group->title(), QKeySequence::mnemonic(group->title()));
+    }
     for (const auto *bar : window.findChildren<QTabBar *>()) {
         for (int tab = 0; bar->isVisible() && tab < bar->count(); ++tab)
             keyed << Keyed(bar->tabText(tab), QKeySequence::mnemonic(bar->tabText(tab)));
@@ -280,6 +287,35 @@ private Q_SLOTS:
         QCOMPARE(walked.join(u' '),
                  u"frmMeeting FrmDataBaseExplorer frmFindInfo FrmDataBaseExplorer frmFindInfo frmMeeting"_s);
         QCOMPARE(frame.area().subWindowList().size(), 1);
+        desktop::showNew<DisplayMembers>([](DisplayMembers &dossier) { dossier.MemberId = 1; });
+        QTest::keyClick(focused(), Qt::Key_PageUp, Qt::ControlModifier);
+        const QWidget *notes = focused();
+        QTest::keyClick(focused(), Qt::Key_Return); // opens the first one
+        QCOMPARE(active(), u"frmMeeting"_s);
+        QTest::keyClick(focused(), Qt::Key_Escape);
+        QTRY_COMPARE(focused(), notes); // and not a stop further on
+    }
+
+    // What has a letter keeps it while pages are turned, tabs come and go and buttons change their captions.
+    void lettersStayWhileAWindowIsOpen()
+    {
+        DataStoreFolder folder;
+        CaughtErrors errors;
+        MDIBaseForm::frame().show();
+        auto *record = desktop::showNew<DisplayInformation>([](DisplayInformation &window) { window.RecordId = 2; });
+        QHash<QString, QKeySequence> letters;
+        for (const char step : QByteArray("123451e12s12341es")) { // a page, Edit, or Save
+            if (step == 'e' || step == 's')
+                (step == 'e' ? record->cmdEdit : record->cmdDelete)->click();
+            else
+                record->TabStrip1->setSelectedItem(step - '0');
+            QCoreApplication::sendPostedEvents();
+            for (const auto &[text, key] : keyedParts(*record)) {
+                QKeySequence &letter = letters[desktop::captionOf(text)];
+                QVERIFY2(letter.isEmpty() || letter == key, qPrintable(text));
+                letter = key;
+            }
+        }
     }
 };
 

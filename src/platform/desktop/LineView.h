@@ -1,0 +1,71 @@
+// What every list and tree does by the keyboard: a key that leads to a line highlights it, and Ctrl with C copies what
+// is highlighted.
+//
+// Qt keeps a current line beside the highlighted ones. Where nothing is highlighted nobody sees it, and yet Qt begins
+// at the line behind it, or does nothing where the key leads to that very line.
+#pragma once
+
+#include "platform/desktop/Control.h"
+#include "platform/desktop/CopyLines.h"
+
+#include <QAbstractItemView>
+#include <QKeyEvent>
+
+namespace desktop {
+
+// Where the view reaches beyond what its frame has room for.
+void bringLineIntoView(const QAbstractItemView &view, const QModelIndex &line);
+
+template <class View> class LineView : public ControlOf<View>
+{
+public:
+    using ControlOf<View>::ControlOf;
+
+    // With nothing highlighted the search begins at the first line.
+    void keyboardSearch(const QString &search) override
+    {
+        const QModelIndex current = this->currentIndex();
+        if (!isAnyHighlighted())
+            this->selectionModel()->clearCurrentIndex();
+        View::keyboardSearch(search);
+        if (!this->currentIndex().isValid())
+            this->selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        if (event->matches(QKeySequence::Copy))
+            return copyLines(*this);
+        const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+        const bool highlights = isPlain && leadsToALine(event->key()) && !isAnyHighlighted();
+        const bool isAStep = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+        if (!highlights || !isAStep) // a step would go on from the current line
+            View::keyPressEvent(event);
+        if (highlights && !isAnyHighlighted())
+            highlightCurrent();
+    }
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override
+    {
+        View::currentChanged(current, previous);
+        if (this->hasFocus())
+            bringLineIntoView(*this, current);
+    }
+
+    bool isAnyHighlighted() const { return this->selectionModel()->hasSelection(); }
+    // The current line, or else the first one.
+    void highlightCurrent()
+    {
+        const QModelIndex current = this->currentIndex();
+        this->setCurrentIndex(current.isValid() ? current : this->model()->index(0, 0));
+    }
+
+private:
+    static bool leadsToALine(int key)
+    {
+        return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Home || key == Qt::Key_End ||
+               key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+    }
+};
+
+} // namespace desktop
