@@ -2,6 +2,7 @@
 #include "platform/desktop/Form.h"
 #include "platform/desktop/MdiForm.h"
 #include "platform/desktop/MsgBox.h"
+#include "platform/runtime/ErrorHandling.h"
 #include "support/Dialogs.h"
 #include "support/Outcome.h"
 #include "support/ShownWork.h"
@@ -294,6 +295,22 @@ private Q_SLOTS:
             button.click();
             QCOMPARE(errors.takeNumber(), number);
         }
+    }
+
+    void everyStepGoesOnAndEndSilentlyStops()
+    {
+        int ran = 0;
+        const auto fails = [&ran] {
+            ++ran;
+            throw runtime::RuntimeError(5);
+        };
+        runtime::everyStep(fails, fails);
+        QCOMPARE(ran, 2);
+        QVERIFY(!runtime::endSilently([&fails] {
+            fails();
+            fails();
+        }));
+        QCOMPARE(ran, 3);
     }
 
     // The real report, in a process of its own: this program called again with an argument.
