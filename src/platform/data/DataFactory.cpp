@@ -1,6 +1,6 @@
 #include "platform/data/DataFactory.h"
 
-#include "platform/data/engine/Cursor.h"
+#include "platform/data/engine/Database.h"
 #include "platform/runtime/ProviderError.h"
 
 using namespace Qt::Literals::StringLiterals;

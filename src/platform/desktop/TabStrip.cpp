@@ -1,6 +1,7 @@
 #include "platform/desktop/TabStrip.h"
 
 #include "platform/desktop/Keys.h"
+#include "platform/desktop/PlainText.h"
 #include "platform/runtime/RuntimeError.h"
 
 #include <QSignalBlocker>
@@ -67,7 +68,7 @@ void TabStrip::select(int index)
 void TabStrip::add(const QString &key, const QString &caption, const QString &toolTip)
 {
     const QSignalBlocker quiet(this);
-    setTabToolTip(addTab(withoutMnemonic(caption)), toolTip);
+    setTabToolTip(addTab(withoutMnemonic(caption.left(mostShown))), toolTip);
     m_tabs.push_back({key, caption, toolTip});
     if (count() == 1)
         m_selected = 1;

@@ -117,6 +117,9 @@ private Q_SLOTS:
         tree.Nodes.Add(nullptr, u"key"_s, box.item(0)->text());
         for (const QAbstractItemView *view : QList<QAbstractItemView *>{&box, &tree})
             QVERIFY(view->sizeHintForColumn(0) < 100'000); // pixels
+        desktop::TabStrip tabs(nullptr, u"tabs");
+        tabs.add(u"key"_s, box.item(0)->text(), {});
+        QVERIFY(tabs.tabText(0).size() < 10'000);
         desktop::setTitle(box, box.item(0)->text());
         QVERIFY(box.windowTitle().size() < 10'000);
         QCOMPARE(errorNumberOf([&list] { list.ListItems(2).setSubItem(0, Value()); }), 94);

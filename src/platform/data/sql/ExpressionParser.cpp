@@ -2,6 +2,7 @@
 
 #include "platform/data/sql/Checks.h"
 #include "platform/data/sql/Literal.h"
+#include "platform/data/sql/SyntaxError.h"
 
 #include <array>
 #include <optional>

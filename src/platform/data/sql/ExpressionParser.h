@@ -6,7 +6,6 @@
 
 #include "platform/data/sql/Ast.h"
 #include "platform/data/sql/Lexer.h"
-#include "platform/data/sql/SyntaxError.h"
 
 namespace sql {
 

@@ -1,6 +1,7 @@
 #include "platform/data/sql/StatementParser.h"
 
 #include "platform/data/sql/ExpressionParser.h"
+#include "platform/data/sql/SyntaxError.h"
 
 #include <algorithm>
 #include <utility>
