@@ -2,6 +2,7 @@
 // does not wait. The argument is the folder of the data file.
 #include "benchmarks/Painted.h"
 #include "platform/desktop/ErrorReport.h"
+#include "platform/desktop/Style.h"
 #include "platform/runtime/Application.h"
 #include "platform/runtime/Clock.h"
 #include "shell/frame/frmLogin.h"
@@ -14,6 +15,7 @@ int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
     QApplication::setWindowIcon(QIcon(u":/icons/tolmark.svg"_s));
+    desktop::Style::install();
     desktop::setErrorReport([](const runtime::RuntimeError &error) {
         std::fprintf(stderr, "%s\n", error.description().toLocal8Bit().constData());
         std::_Exit(EXIT_FAILURE);

@@ -3,6 +3,7 @@
 // "dossier, notes" of tests/support/Stations.cpp, "images/main-window.png" the main window as it is delivered and
 // "images/main-window-administration.png" that of the administrator's edition.
 #include "platform/desktop/Settings.h"
+#include "platform/desktop/Style.h"
 #include "platform/runtime/Clock.h"
 #include "shell/frame/MDIBaseForm.h"
 #include "shell/frame/frmLogin.h"
@@ -12,7 +13,6 @@
 
 #include <QMdiSubWindow>
 #include <QRegularExpression>
-#include <QStyleFactory>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -21,7 +21,7 @@ namespace {
 // The windows look the same on every machine: one style, one font, one day, no blinking cursor.
 void setUpSurroundings()
 {
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    desktop::Style::install();
     QApplication::setFont(QFont(u"DejaVu Sans"_s, 9));
     QApplication::setWindowIcon(QIcon(u":/icons/tolmark.svg"_s));
     QApplication::setCursorFlashTime(0);
