@@ -40,6 +40,8 @@ protected:
         const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
         const bool highlights = isPlain && leadsToALine(event->key()) && !isAnyHighlighted();
         const bool isAStep = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+        if (highlights && !this->currentIndex().isValid()) // from nowhere Qt takes the End key to the first line
+            this->selectionModel()->setCurrentIndex(this->model()->index(0, 0), QItemSelectionModel::NoUpdate);
         if (!highlights || !isAStep) // a step would go on from the current line
             View::keyPressEvent(event);
         if (highlights && !isAnyHighlighted())

@@ -224,6 +224,9 @@ private Q_SLOTS:
         box.setFocus();
         QTest::keyClick(&box, Qt::Key_Tab);
         QCOMPARE(list.SelectedItem()->Text(), u"a"_s);
+        list.setCurrentItem(nullptr); // as after a list was filled anew
+        QTest::keyClick(&list, Qt::Key_End);
+        QCOMPARE(list.SelectedItem()->Text(), u"b"_s);
         list.clearSelection();
         list.setCurrentItem(&list.ListItems(2), 0, QItemSelectionModel::NoUpdate);
         QTest::keyClick(&list, Qt::Key_Tab);
