@@ -166,7 +166,7 @@ void Form::closeEvent(QCloseEvent *event)
     QWidget::closeEvent(event);
     MdiForm *frame = m_shared && outer() != this ? MdiForm::frame() : nullptr;
     if (frame) // after the close, which is still under way
-        QMetaObject::invokeMethod(frame, &MdiForm::childHidden, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(frame, &MdiForm::childClosed, Qt::QueuedConnection);
 }
 
 } // namespace desktop

@@ -216,6 +216,7 @@ void MdiForm::showChild(Form &form)
         host = new ChildWindow;
         host->setWidget(&form);
         m_area->addSubWindow(host);
+        connect(host, &QObject::destroyed, this, &MdiForm::childClosed, Qt::QueuedConnection);
         if (start)
             start->setFocus();
         host->setAttribute(Qt::WA_DeleteOnClose, form.testAttribute(Qt::WA_DeleteOnClose));
@@ -236,9 +237,11 @@ void MdiForm::showChild(Form &form)
     m_area->setActiveSubWindow(host);
 }
 
-// Qt activates another child only when a window is deleted, not when one is hidden.
-void MdiForm::childHidden()
+// Qt activates none when a window is hidden, nor when one is deleted while a hidden one was active before it.
+void MdiForm::childClosed()
 {
+    if (const QMdiSubWindow *active = m_area->activeSubWindow(); active && !active->isHidden())
+        return;
     const QList<QMdiSubWindow *> others = openChildren(QMdiArea::ActivationHistoryOrder);
     if (!others.isEmpty())
         m_area->setActiveSubWindow(others.constLast());

@@ -43,8 +43,8 @@ public:
     void Move(double left, double top, double width, double height);
 
     void showChild(Form &form);
-    // A shared window has closed: the one that was active before it comes back.
-    void childHidden();
+    // A child has closed: the one that was active before it comes back, unless another one is active.
+    void childClosed();
     // Undoes the maximising of a child.
     void restoreChild(QMdiSubWindow &host);
     QMdiArea &area();

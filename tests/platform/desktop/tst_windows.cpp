@@ -162,6 +162,23 @@ private Q_SLOTS:
         QTRY_COMPARE(second->activations, 2);
     }
 
+    void whoWasActiveBeforeComesBack()
+    {
+        Frame frame;
+        frame.Show();
+        QVERIFY(QTest::qWaitForWindowActive(&frame));
+        QList<Window *> windows;
+        for (const bool isShared : {false, false, true}) {
+            windows << new Window(Window::Place::InFrame, isShared);
+            windows.constLast()->Show();
+        }
+        for (const int before : {1, 0}) { // behind the shared one, which is hidden, and the second, which is deleted
+            windows[before + 1]->Unload();
+            QTRY_VERIFY(frame.area().activeSubWindow());
+            QTRY_COMPARE(frame.area().activeSubWindow()->widget(), windows[before]);
+        }
+    }
+
     void aSharedChildComesBackIntoTheFrame()
     {
         Frame frame;
