@@ -42,8 +42,8 @@ constexpr double aboveAndBelowPanes = 1720;
 constexpr double splitterBesideHeadline = 425;
 constexpr double rightOfList = 200;
 
-// The bar is two pixels wide. The gap to its left answers the pointer as a part of it, so that the mouse meets it
-// easily.
+// The bar is two pixels wide. The two pixels on either side of it answer the pointer as a part of it, so that the mouse
+// meets it easily.
 class Grip : public QWidget
 {
 public:
