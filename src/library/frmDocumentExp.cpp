@@ -6,6 +6,7 @@
 #include "platform/runtime/ErrorHandling.h"
 
 #include <QAction>
+#include <QMenu>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -128,7 +129,7 @@ void frmDocumentExp::SetMenuColours()
     QPalette colours(background, background);
     colours.setColor(QPalette::Base, background);
     m_menuBar->setPalette(colours);
-    for (PopupMenu *menu : m_menuBar->findChildren<PopupMenu *>())
+    for (QMenu *menu : m_menuBar->findChildren<QMenu *>())
         menu->setPalette(colours);
 }
 
