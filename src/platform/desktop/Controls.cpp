@@ -384,7 +384,8 @@ void PictureBox::PSet(double x, double y)
         m_points << QPointF(x, y);
 }
 
-// All points by one call: there are tens of thousands.
+// All points by one call: there are tens of thousands. Each stands where a control of its place has its corner, which a
+// fraction of a pixel would leave to the version of Qt.
 void PictureBox::paintEvent(QPaintEvent *event)
 {
     QFrame::paintEvent(event);
@@ -397,7 +398,7 @@ void PictureBox::paintEvent(QPaintEvent *event)
     painter.setPen(palette().color(QPalette::WindowText));
     const double toTwips = twips(1);
     for (QPointF &point : m_points)
-        point /= toTwips;
+        point = (point / toTwips).toPoint();
     painter.drawPoints(m_points.constData(), int(m_points.size()));
     m_points.clear();
 }
