@@ -36,7 +36,7 @@ private Q_SLOTS:
     {
         BoxAnswers none; // an unexpected one would wait for an answer
         QPointer<FrmAddEditMember> window = desktop::showNew<FrmAddEditMember>();
-        QApplication::setActiveWindow(window);
+        window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(window));
         QCOMPARE(QApplication::focusWidget(), child(*window, "txtMemberFirstName"));
         type({u"Ann"_s, u"B"_s, u"Cole"_s, u"1 Main"_s, u"Flat 2"_s, u"Salem"_s, u"Virg"_s, u"97301"_s, u"555-1"_s,

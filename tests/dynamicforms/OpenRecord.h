@@ -57,7 +57,7 @@ public:
     QString texts() const
     {
         QStringList all;
-        for (const desktop::TextBox *each : m_window->Frame1->findChildren<desktop::TextBox *>()) {
+        for (const QLineEdit *each : m_window->Frame1->findChildren<QLineEdit *>()) {
             if (each->isVisible())
                 all << each->text();
         }

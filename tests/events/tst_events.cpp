@@ -77,7 +77,7 @@ private Q_SLOTS:
     {
         const UnitedStates region;
         QPointer<FrmAddEvent> window = desktop::showNew<FrmAddEvent>();
-        QApplication::setActiveWindow(window);
+        window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(window));
         const auto type = [](const QString &text) {
             QTest::keyClicks(QApplication::focusWidget(), text);

@@ -33,7 +33,7 @@ DisplayMembers &dossier()
 // A box that could not be shown is not there.
 void type(const OpenRecord &record, const QString &field, const QString &text)
 {
-    for (auto *box : record->Frame1->findChildren<desktop::TextBox *>()) {
+    for (auto *box : record->Frame1->findChildren<QLineEdit *>()) {
         if (box->toolTip() == field)
             box->setText(text);
     }

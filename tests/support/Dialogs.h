@@ -142,11 +142,13 @@ private:
     QList<runtime::RuntimeError> m_errors;
 };
 
-// The one child of that name; a missing one fails the test with the names that there are.
+// The one child of that name; a missing one fails the test with the names that there are. By a cast, for Qt finds only
+// classes with a meta object of their own.
 template <class Widget = QWidget> Widget *child(const QObject &parent, const char *name)
 {
-    if (auto *found = parent.findChild<Widget *>(QString::fromLatin1(name)))
-        return found;
+    for (QObject *each : parent.findChildren<QObject *>(QString::fromLatin1(name)))
+        if (auto *found = dynamic_cast<Widget *>(each))
+            return found;
     QStringList names;
     for (const QObject *each : parent.findChildren<QObject *>())
         names << each->objectName();

@@ -95,11 +95,15 @@ private Q_SLOTS:
 
     void refusesWhatIsTooComplex()
     {
-        for (const QString &statement :
-             {u"SELECT * FROM Kinds WHERE Id = 1"_s + u" OR Id = 1"_s.repeated(1199),
-              u"SELECT * FROM Kinds WHERE Id = "_s + u"(1 + "_s.repeated(150) + u'1' + QString(150, u')'),
-              u"SELECT Id"_s + u", Id"_s.repeated(2999) + u" FROM Kinds"_s})
-            QCOMPARE(errorOf([&] { run(statement); }), u"-2147217900 Query is too complex."_s);
+        const QString tooComplex = u"-2147217900 Query is too complex."_s;
+        const auto nested = [](int depth) {
+            return u"SELECT * FROM Kinds WHERE Id = "_s + u"(1 + "_s.repeated(depth) + u'1' + QString(depth, u')');
+        };
+        for (const QString &statement : {u"SELECT * FROM Kinds WHERE Id = 1"_s + u" OR Id = 1"_s.repeated(1199),
+                                         nested(250), u"SELECT Id"_s + u", Id"_s.repeated(2999) + u" FROM Kinds"_s})
+            QCOMPARE(errorOf([&] { run(statement); }), tooComplex);
+        // Below the dialect's own limit it depends on the version of SQLite.
+        QVERIFY((QStringList{QString(), tooComplex}).contains(errorOf([&] { run(nested(150)); })));
     }
 
     void comparesOnlyLikeWithLike()

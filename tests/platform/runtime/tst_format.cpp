@@ -54,11 +54,11 @@ private Q_SLOTS:
         const Value negative(Currency::fromScaled(-5'000));
         for (const auto &[region, ofPositive, ofNegative] :
              {std::tuple(u"en_GB"_s, u"£1,234,567.90"_s, u"-£0.50"_s),
-              std::tuple(u"de_DE"_s, u"1.234.567,90\u00a0€"_s, u"-0,50\u00a0€"_s),
+              std::tuple(u"fr_TN"_s, u"1\u202f234\u202f567,895\u00a0DT"_s, u"-0,500\u00a0DT"_s),
               std::tuple(u"pt_BR"_s, u"R$\u00a01.234.567,90"_s, u"R$\u00a0-0,50"_s),
               std::tuple(u"ja_JP"_s, u"￥1,234,568"_s, u"-￥1"_s),
               std::tuple(u"hi_IN"_s, u"₹12,34,567.90"_s, u"₹-0.50"_s),
-              std::tuple(u"ar_KW"_s, u"١٬٢٣٤٬٥٦٧٫٨٩٥\u00a0د.ك.\u200f"_s, u"\u061c-٠٫٥٠٠\u00a0د.ك.\u200f"_s)}) {
+              std::tuple(u"ur_IN"_s, u"₹۱٬۲۳۴٬۵۶۷٫۹۰"_s, u"\u200e-\u200e₹۰٫۵۰"_s)}) {
             QLocale::setDefault(QLocale(region));
             QCOMPARE(runtime::FormatCurrency(positive), ofPositive);
             QCOMPARE(runtime::FormatCurrency(negative), ofNegative);

@@ -85,7 +85,6 @@ private Q_SLOTS:
              {std::tuple(u"en_US"_s, u"10:05:33 PM"_s, u"10:05 PM"_s),
               std::tuple(u"da_DK"_s, u"22.05.33"_s, u"22.05"_s),
               std::tuple(u"fr_CA"_s, u"22 h 05 min 33 s"_s, u"22 h 05"_s),
-              std::tuple(u"bg_BG"_s, u"22:05:33 ч."_s, u"22:05 ч."_s),
               std::tuple(u"nds_DE"_s, u"Kl. 22.05.33"_s, u"Kl. 22.05"_s),
               std::tuple(u"ko_KR"_s, u"오후 10:05:33"_s, u"오후 10:05"_s)}) {
             QLocale::setDefault(QLocale(region));

@@ -4,13 +4,13 @@
 //   endurance WINDOWS
 #include "Child.h"
 #include "explorers/FrmEventExplorer.h"
-#include "platform/desktop/StatusBar.h"
 #include "platform/runtime/Clock.h"
 #include "support/Stations.h"
 
 #include <QAbstractButton>
 #include <QLabel>
 #include <QPixmapCache>
+#include <QStatusBar>
 #include <QTest>
 #include <QTimeZone>
 
@@ -96,7 +96,7 @@ void ticksFrom(const QDateTime &begin, int seconds, const std::function<void(con
     QDateTime now = begin;
     runtime::setClock([&now] { return now; });
     const auto *explorer = desktop::showNew<FrmEventExplorer>();
-    const desktop::StatusBar *bar = explorer->findChild<desktop::StatusBar *>();
+    const auto *bar = explorer->findChild<QStatusBar *>();
     for (int second = 0; second < seconds; ++second, now = begin.addSecs(second)) {
         for (QTimer *timer : bar->findChildren<QTimer *>()) {
             QTimerEvent due(timer->timerId());
@@ -120,7 +120,7 @@ void tellsTheTime()
             require(false, u"%1 is told as %2"_s.arg(now.toString(Qt::ISODate), texts.join(u", ")));
     };
     constexpr int aDay = 86'400;
-    ticksFrom(QDateTime(QDate(2027, 12, 31), QTime(12, 0), Qt::UTC), aDay, shows);
+    ticksFrom(QDateTime(QDate(2027, 12, 31), QTime(12, 0), QTimeZone::utc()), aDay, shows);
     ticksFrom(QDateTime(QDate(2027, 3, 28), QTime(1, 59, 50), QTimeZone("Europe/Berlin")), 20, shows);
     ticksFrom(QDateTime(QDate(2027, 10, 31), QTime(1, 59, 50), QTimeZone("Europe/Berlin")), 3620, shows);
 }

@@ -88,7 +88,7 @@ private Q_SLOTS:
     {
         BoxAnswers none;
         QPointer<frmNewUser> window = desktop::showNew<frmNewUser>();
-        QApplication::setActiveWindow(window);
+        window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(window));
         const auto press = [](int key) { QTest::keyClick(QApplication::focusWidget(), Qt::Key(key)); };
         for (const QString &text : {u"Ann"_s, u"B"_s, u"O'Hara"_s, u"ann@x.org"_s}) {
@@ -166,7 +166,7 @@ private Q_SLOTS:
         desktop::MdiForm frame(u"frame");
         frame.resize(900, 700);
         frame.Show();
-        QApplication::setActiveWindow(&frame);
+        frame.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&frame));
         (new desktop::Form(desktop::Form::Place::InFrame, u"Other"))->Show();
         QMdiSubWindow &other = *frame.area().subWindowList().constLast();
@@ -256,7 +256,7 @@ private Q_SLOTS:
         QVERIFY2(off.manhattanLength() <= 2, qPrintable(u"%1, %2"_s.arg(off.x()).arg(off.y())));
         frmOptions &window = *openOptions(u"7"_s);
         QVERIFY(window.picOptions(0)->geometry().bottom() < window.cmdOK->y());
-        QApplication::setActiveWindow(&frame);
+        frame.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&frame));
         QCOMPARE(QApplication::focusWidget(), window.txtOldPassword);
         QSignalSpy clicks(window.tbsOptions, &desktop::TabStrip::Click);
