@@ -17,7 +17,7 @@ enum class Fault {
     StoreMemory, // an allocation of SQLite
     OwnMemory    // a new in our own code; what Qt and the standard library allocate by themselves does not fail
 };
-// In an optimised build Qt's own code cannot be told from ours any more.
+// In the release build Qt's functions are put into ours, and cannot be told from them any more.
 #ifdef NDEBUG
 inline constexpr std::array allFaults{Fault::IoError, Fault::FullDisk, Fault::Kill, Fault::StoreMemory};
 #else
