@@ -41,9 +41,9 @@ int importAll(const QCommandLineParser &given)
     }
     progress.finish();
     if (imported.faults.isEmpty()) {
-        say((options.isDryRun ? u"%1: %2 members can be imported; nothing was changed"_s : u"%1: %2 members imported"_s)
-                .arg(options.isDryRun ? csv : file)
-                .arg(imported.members));
+        const QString members = imported.members == 1 ? u"1 member"_s : u"%1 members"_s.arg(imported.members);
+        say((options.isDryRun ? u"%1: %2 can be imported; nothing was changed"_s : u"%1: %2 imported"_s)
+                .arg(options.isDryRun ? csv : file, members));
         return 0;
     }
     QByteArray list = "row,column,value,reason\r\n";
@@ -52,11 +52,12 @@ int importAll(const QCommandLineParser &given)
             {QString::number(fault.row), fault.column, datafile::withoutFormula(fault.value), fault.reason});
     std::fwrite(list.constData(), 1, std::size_t(list.size()), stdout);
     const datafile::CellFault &first = imported.faults.first();
+    const qsizetype count = imported.faults.size();
     throw runtime::RuntimeError(runtime::TypeMismatch,
-                                u"%1: row %2%3: %4; %5 faults in all, nothing was imported"_s.arg(
+                                u"%1: row %2%3: %4; %5, nothing was imported"_s.arg(
                                     csv, QString::number(first.row),
                                     first.column.isEmpty() ? QString() : u", column "_s + first.column, first.reason,
-                                    QString::number(imported.faults.size())));
+                                    count == 1 ? u"no other fault"_s : u"%1 faults in all"_s.arg(count)));
 }
 
 } // namespace

@@ -29,6 +29,8 @@ class tst_NewMember : public StoreTest
 {
     Q_OBJECT
 private Q_SLOTS:
+    // In milliseconds: on a busy machine, too, the letters that are typed into a list are one text.
+    void initTestCase() { QApplication::setKeyboardInputInterval(60'000); }
     void init() { open(DataFolder::Content::Empty); }
     void cleanup() { close(); }
 

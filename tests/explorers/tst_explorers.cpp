@@ -218,6 +218,13 @@ private Q_SLOTS:
             QCOMPARE(explorer.list().Left(), width + 45 + 30 + 25);
             QCOMPARE(explorer.list().Width(), std::abs(width + 45 + 30 + 25 + 200 - explorer.window().Width()));
         }
+        const QPointF besideBar(0, 5); // two pixels to the left of it
+        auto *grip = child<QWidget>(explorer.window(), "Grip");
+        QMouseEvent drag(QEvent::MouseMove, besideBar, grip->mapToGlobal(besideBar), Qt::NoButton, Qt::LeftButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(grip, &drag);
+        width -= 30;
+        QCOMPARE(explorer.tree().Width(), width);
         Q_EMIT bar->MouseMove(3, -300, 0); // two buttons
         Q_EMIT bar->MouseMove(0, -300, 0); // none
         QCOMPARE(explorer.tree().Width(), width);

@@ -1,11 +1,13 @@
 #include "proof/Faults.h"
 
 #include <csignal>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
 #include <new>
 #include <sqlite3.h>
+#include <sys/mman.h>
 
 // The linker's names for where the program's own code begins and ends.
 extern "C" const char __executable_start;
@@ -21,14 +23,29 @@ bool isCounting = false;
 bool came = false;
 sqlite3_mem_methods memory;
 
+// What dladdr takes long to tell. It is in memory that all children share, so that what one has asked the next ones
+// know.
+struct Known
+{
+    const void *caller;
+    bool isOurs;
+};
+constexpr std::size_t mostCallers = 1 << 16;
+Known *callers = nullptr;
+
 // Qt's hash, whose code is compiled into ours, promises not to throw, so that memory that is refused to it ends the
 // process. An optimised build cannot tell it from ours.
 bool isOurs(const void *caller)
 {
     if (caller < &__executable_start || caller >= &etext)
         return false;
-    Dl_info its;
-    return dladdr(caller, &its) == 0 || !its.dli_sname || !std::strstr(its.dli_sname, "QHashPrivate");
+    Known &known = callers[reinterpret_cast<std::uintptr_t>(caller) % mostCallers];
+    if (known.caller != caller) {
+        Dl_info its;
+        known.isOurs = dladdr(caller, &its) == 0 || !its.dli_sname || !std::strstr(its.dli_sname, "QHashPrivate");
+        known.caller = caller;
+    }
+    return known.isOurs;
 }
 
 } // namespace
@@ -64,6 +81,8 @@ qint64 callsSoFar(Fault fault)
 
 void installFaults()
 {
+    callers = static_cast<Known *>(
+        mmap(nullptr, mostCallers * sizeof(Known), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
     sqlite3_config(SQLITE_CONFIG_GETMALLOC, &memory);
     sqlite3_mem_methods failing = memory;
     failing.xMalloc = [](int size) { return isDue(Fault::StoreMemory) ? nullptr : memory.xMalloc(size); };

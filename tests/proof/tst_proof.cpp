@@ -135,6 +135,7 @@ int main(int argc, char **argv)
         qputenv("TMPDIR", "/dev/shm"); // thousands of files are synced
     installFaults();
     const QApplication application(argc, argv);
+    QFontMetrics(QApplication::font()).horizontalAdvance(u'x'); // or each child would look for the fonts anew
     tst_Proof tests;
     return QTest::qExec(&tests, argc, argv);
 }

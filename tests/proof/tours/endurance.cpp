@@ -5,6 +5,7 @@
 #include "Child.h"
 #include "explorers/FrmEventExplorer.h"
 #include "platform/desktop/StatusBar.h"
+#include "platform/desktop/Style.h"
 #include "platform/runtime/Clock.h"
 #include "support/Stations.h"
 
@@ -131,6 +132,7 @@ int main(int argc, char **argv)
 {
     printNoRemarks();
     QApplication application(argc, argv);
+    desktop::Style::install();
     QApplication::setQuitOnLastWindowClosed(false);
     const DataStoreFolder folder;
     desktop::setSettingsFile(folder.path(u"settings"_s));

@@ -6,6 +6,7 @@
 // is none of the run-time's, a changed byte in the data file, or a new file beside it.
 #include "Child.h"
 #include "platform/data/engine/Database.h"
+#include "platform/desktop/Style.h"
 #include "support/Stations.h"
 
 #include <random>
@@ -196,6 +197,7 @@ int main(int argc, char **argv)
 {
     printNoRemarks();
     QApplication application(argc, argv);
+    desktop::Style::install();
     QApplication::setQuitOnLastWindowClosed(false);
     const unsigned first = argc > 1 ? QByteArray(argv[1]).toUInt() : 1;
     const unsigned count = argc > 2 ? QByteArray(argv[2]).toUInt() : 100;

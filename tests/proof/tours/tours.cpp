@@ -7,6 +7,7 @@
 // five seconds of work without an end, or a report that nothing explains.
 #include "Child.h"
 #include "platform/desktop/Printer.h"
+#include "platform/desktop/Style.h"
 #include "support/Stations.h"
 
 #include <QAbstractButton>
@@ -201,6 +202,7 @@ int main(int argc, char **argv)
 {
     printNoRemarks();
     QApplication application(argc, argv);
+    desktop::Style::install();
     const Desktop desktop;
     unsigned seed = argc > 1 ? QByteArray(argv[1]).toUInt() : 1;
     const qsizetype wanted = argc > 2 ? QByteArray(argv[2]).toInt() : 2000;

@@ -1,6 +1,7 @@
 // Walks through every window by the Tab key, as somebody does who uses no mouse, and asks what a screen reader is told.
 #include "dossier/DisplayMembers.h"
 #include "dynamicforms/DisplayInformation.h"
+#include "platform/desktop/Style.h"
 #include "shell/frame/MDIBaseForm.h"
 #include "shell/frame/frmLogin.h"
 #include "support/DataStoreFolder.h"
@@ -221,6 +222,7 @@ class tst_Walk : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void initTestCase() { desktop::Style::install(); }
     void cleanup() { closeStations(); }
 
     void everyStopHasANameAndAPlaceInTheOrder_data()
