@@ -6,7 +6,6 @@
 #include <QStringDecoder>
 
 #include <algorithm>
-#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 

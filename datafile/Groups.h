@@ -4,7 +4,8 @@
 
 #include "platform/data/engine/Database.h"
 
-#include <QStringList>
+#include <QList>
+#include <QString>
 
 namespace datafile {
 

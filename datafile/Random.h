@@ -5,6 +5,7 @@
 #include <QtGlobal>
 
 #include <cstddef>
+#include <iterator>
 #include <random>
 
 namespace datafile {

@@ -5,7 +5,6 @@
 #include <QCommandLineParser>
 #include <QList>
 #include <QString>
-#include <QStringList>
 
 #include <exception>
 #include <utility>

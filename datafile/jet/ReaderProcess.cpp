@@ -1,5 +1,6 @@
 #include "datafile/jet/ReaderProcess.h"
 
+#include "datafile/Progress.h"
 #include "datafile/jet/TableReader.h"
 #include "platform/runtime/RuntimeError.h"
 

@@ -2,8 +2,6 @@
 // or writes too much.
 #pragma once
 
-#include "datafile/Progress.h"
-
 #include <QByteArray>
 #include <QProcess>
 #include <QString>

@@ -13,13 +13,13 @@
 
 #include <cerrno>
 #include <cstdlib>
-#include <cstring>
 #include <functional>
 #include <glib.h> // before mdbtools.h, which includes it as C
 #include <mdbtools.h>
 #include <memory>
 #include <new>
 #include <unistd.h>
+#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -6,7 +6,6 @@
 #include "platform/runtime/RuntimeError.h"
 
 #include <algorithm>
-#include <array>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -6,7 +6,6 @@
 #include "platform/desktop/MsgBox.h"
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/Format.h"
-#include "platform/runtime/NumberText.h"
 #include "shell/store/CLsDataBaseConnection.h"
 
 #include <array>

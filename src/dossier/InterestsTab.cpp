@@ -2,7 +2,6 @@
 
 #include "dossier/RowDeletion.h"
 #include "platform/desktop/ErrorReport.h"
-#include "platform/desktop/MsgBox.h"
 
 #include <array>
 #include <utility>

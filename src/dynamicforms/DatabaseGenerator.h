@@ -8,7 +8,6 @@
 #pragma once
 
 #include "dynamicforms/DesignSurface.h"
-#include "parts/FieldGrid.h"
 #include "platform/desktop/Form.h"
 #include "platform/desktop/ImageList.h"
 #include "platform/desktop/Toolbar.h"

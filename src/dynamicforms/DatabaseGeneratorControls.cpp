@@ -1,5 +1,6 @@
 // The controls of the designer and where they lie.
 #include "dynamicforms/DatabaseGenerator.h"
+#include "parts/FieldGrid.h"
 #include "platform/desktop/Twips.h"
 
 #include <QHBoxLayout>

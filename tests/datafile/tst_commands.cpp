@@ -32,8 +32,6 @@ QString outcomeOfTool(const QStringList &arguments, const QString &folder)
 
 datafile::Imported importInto(const DataFolder &folder, const QByteArray &csv, datafile::ImportOptions options = {})
 {
-    if (!QFile::exists(folder.file()))
-        datafile::createDataFile(folder.file());
     folder.write(u"f.csv"_s, csv);
     datafile::Progress progress({});
     return datafile::importMembers(folder.file(), folder.path(u"f.csv"_s), options, progress);
@@ -124,8 +122,7 @@ private Q_SLOTS:
         for (const char *count : {"SELECT count(*) FROM MemberInformation", "SELECT count(*) FROM MemberInterest"})
             QCOMPARE(rowsOf(copy, count), rowsOf(source, count));
 
-        datafile::Progress progress({});
-        datafile::backUp(folder.file(), folder.path(u"backup.mdb"_s), progress); // while both have it open
+        datafile::backUp(folder.file(), folder.path(u"backup.mdb"_s), m_progress); // while both have it open
         QCOMPARE(QFileInfo(folder.path(u"backup.mdb"_s)).size(), QFileInfo(folder.file()).size());
     }
 
@@ -135,8 +132,7 @@ private Q_SLOTS:
         datafile::createSampleFile(folder.path(u"copy.mdb"_s));
         folder.write(u"Tolmark.mdb"_s, {}); // cut off, with changes that SQLite would put into any file there
         folder.write(u"Tolmark.mdb-journal"_s, "of the old file");
-        datafile::Progress progress({});
-        const QString old = datafile::restore(folder.path(u"copy.mdb"_s), folder.file(), progress);
+        const QString old = datafile::restore(folder.path(u"copy.mdb"_s), folder.file(), m_progress);
         QVERIFY2(QRegularExpression(u"/Tolmark \\d{4}-\\d\\d-\\d\\d \\d{6}\\.mdb$"_s).match(old).hasMatch(),
                  qPrintable(old));
         QCOMPARE(contentOf(old), QByteArray());
@@ -147,9 +143,8 @@ private Q_SLOTS:
 
     void restoreRefuses()
     {
-        const DataFolder folder(DataFolder::Content::None);
+        const DataFolder folder(DataFolder::Content::Empty);
         datafile::createSampleFile(folder.path(u"copy.mdb"_s));
-        datafile::createDataFile(folder.file());
         const QByteArray before = contentOf(folder.file());
         const QStringList names = folder.names();
         const QStringList arguments{u"restore"_s, u"copy.mdb"_s, u"Tolmark.mdb"_s};
@@ -162,17 +157,15 @@ private Q_SLOTS:
             idle.execute("BEGIN IMMEDIATE");
             QVERIFY(outcomeOfTool(arguments, folder.folder()).contains(u"file already in use"_s));
         }
-        datafile::Progress progress({});
         folder.write(u"text"_s, "no copy");
-        QVERIFY(errorNumberOf([&] { datafile::restore(folder.path(u"text"_s), folder.file(), progress); }) != 0);
+        QVERIFY(errorNumberOf([&] { datafile::restore(folder.path(u"text"_s), folder.file(), m_progress); }) != 0);
         QCOMPARE(contentOf(folder.file()), before);
         QCOMPARE(folder.names(), names + QStringList{u"text"_s});
     }
 
     void exportHasEveryValue()
     {
-        const DataFolder folder(DataFolder::Content::None);
-        datafile::createSampleFile(folder.file());
+        const DataFolder folder;
         folder.execute(
             "CREATE TABLE \"a/b\" (\"x,y\" TEXT, Amount CURRENCY, Day DATETIME, Flag BOOLEAN, Size DOUBLE, Bytes BLOB);"
             "INSERT INTO \"a/b\" VALUES ('=1+1', 1234.5, '2003-05-01 00:00:00', -1, 0.1, x'00'),"
@@ -181,8 +174,7 @@ private Q_SLOTS:
             "('''+', 1, 'soon', 1, 3, 1);"
             "INSERT INTO Attachments (MemberId, AttachmentsName, AttachmentVersion, Attachments) VALUES "
             "(7, '../a.txt', 1, x'414200'), (7, '../A.TXT', 1, x'43'), (7, 'gone', 1, NULL)");
-        datafile::Progress progress({});
-        datafile::exportFile(folder.file(), folder.path(u"out"_s), progress);
+        datafile::exportFile(folder.file(), folder.path(u"out"_s), m_progress);
         QCOMPARE(contentOf(folder.path(u"out/a_b.csv"_s)),
                  QByteArray("\"x,y\",Amount,Day,Flag,Size\r\n"
                             "'=1+1,1234.5,2003-05-01,Yes,0.1\r\n"
@@ -199,7 +191,7 @@ private Q_SLOTS:
 
     void exportComesBackEqual()
     {
-        const DataFolder folder(DataFolder::Content::None);
+        const DataFolder folder(DataFolder::Content::Empty);
         datafile::createSampleFile(folder.path(u"from.mdb"_s));
         data::Database from;
         from.open(folder.path(u"from.mdb"_s));
@@ -207,8 +199,7 @@ private Q_SLOTS:
                      "char(13, 10) "
                      "WHERE MemberId = 1; DELETE FROM MemberInformation WHERE MemberId = 2; "
                      "UPDATE Contributions SET ContributionAmount = '922337203685477.5807 exact'");
-        datafile::Progress progress({});
-        datafile::exportFile(folder.path(u"from.mdb"_s), folder.path(u"out"_s), progress);
+        datafile::exportFile(folder.path(u"from.mdb"_s), folder.path(u"out"_s), m_progress);
         QVERIFY(contentOf(folder.path(u"out/Contributions.csv"_s)).contains(",922337203685477.5807,"));
         const datafile::Imported imported = importInto(folder, contentOf(folder.path(u"out/MemberInformation.csv"_s)));
         QCOMPARE(imported.members, 63);
@@ -236,7 +227,7 @@ private Q_SLOTS:
 
     void spreadsheetsAreRead()
     {
-        const DataFolder folder(DataFolder::Content::None);
+        const DataFolder folder(DataFolder::Content::Empty);
         QFETCH(QByteArray, csv);
         const bool hasMore = csv.contains("A,B,C,D");
         const datafile::Imported imported =
@@ -248,7 +239,7 @@ private Q_SLOTS:
     // A different value in each column.
     void everyColumnIsStored()
     {
-        const DataFolder folder(DataFolder::Content::None);
+        const DataFolder folder(DataFolder::Content::Empty);
         const QByteArray header =
             "MemberId,MemberType,Active,FirstName,MiddleName,LastName,AddressOne,AddressTwo,City,State,"
             "Zip,HomePhone,CellPhone,EMailAddress,EmployerName,EmployerAddressOne,EmployerAddressTwo,"
@@ -301,7 +292,7 @@ private Q_SLOTS:
 
     void faultsAreTold()
     {
-        const DataFolder folder(DataFolder::Content::None);
+        const DataFolder folder(DataFolder::Content::Empty);
         QFETCH(QByteArray, csv);
         QFETCH(QString, fault);
         QStringList faults;
@@ -317,8 +308,7 @@ private Q_SLOTS:
 
     void importIsAllOrNothing()
     {
-        const DataFolder folder(DataFolder::Content::None);
-        datafile::createSampleFile(folder.file());
+        const DataFolder folder;
         const QByteArray before = contentOf(folder.file());
         const QByteArray good = "MemberId,LastName\n900,Bell\n,Åse\n";
         QCOMPARE(importInto(folder, good, {.isDryRun = true}).members, 2);
@@ -330,6 +320,9 @@ private Q_SLOTS:
         folder.execute("UPDATE sqlite_sequence SET seq = 32767 WHERE name = 'MemberInformation'");
         QCOMPARE(importInto(folder, "Last Name\nBell\n").faults.size(), 1); // no 16-bit number is left
     }
+
+private:
+    datafile::Progress m_progress{{}};
 };
 
 QTEST_GUILESS_MAIN(tst_commands)

@@ -2,8 +2,8 @@
 #include "datafile/Check.h"
 #include "datafile/Schema.h"
 #include "datafile/Upgrade.h"
-#include "platform/runtime/RuntimeError.h"
 #include "support/DataFolder.h"
+#include "support/Outcome.h"
 
 #include <QTest>
 
@@ -65,8 +65,7 @@ private Q_SLOTS:
         const QString path = makeOldFile(folder, change);
         QVERIFY(datafile::faultsOf(path).value(0).contains(u"tolmark-datafile upgrade "_s + path));
 
-        datafile::Progress progress({});
-        const QString old = datafile::upgrade(path, progress);
+        const QString old = datafile::upgrade(path, m_progress);
         datafile::createDataFile(folder.path(u"new.mdb"_s));
         QCOMPARE(layoutOf(path), layoutOf(folder.path(u"new.mdb"_s)));
         QCOMPARE(datafile::faultsOf(path), QStringList());
@@ -99,13 +98,7 @@ private Q_SLOTS:
         QFETCH(QString, reason);
         const QString path = makeOldFile(folder, change);
         const QByteArray before = contentOf(path);
-        QString told;
-        try {
-            datafile::Progress progress({});
-            datafile::upgrade(path, progress);
-        } catch (const runtime::RuntimeError &error) {
-            told = error.description();
-        }
+        const QString told = errorOf([&] { datafile::upgrade(path, m_progress); });
         QVERIFY2(told.contains(reason), qPrintable(told));
         QCOMPARE(contentOf(path), before);
         QCOMPARE(folder.names(), QStringList{u"Tolmark.mdb"_s});
@@ -113,15 +106,15 @@ private Q_SLOTS:
 
     void presentFileIsLeftAlone()
     {
-        const DataFolder folder(DataFolder::Content::None);
-        const QString path = folder.file();
-        datafile::createDataFile(path);
-        const QByteArray before = contentOf(path);
-        datafile::Progress progress({});
-        QCOMPARE(datafile::upgrade(path, progress), QString());
-        QCOMPARE(contentOf(path), before);
+        const DataFolder folder(DataFolder::Content::Empty);
+        const QByteArray before = contentOf(folder.file());
+        QCOMPARE(datafile::upgrade(folder.file(), m_progress), QString());
+        QCOMPARE(contentOf(folder.file()), before);
         QCOMPARE(folder.names(), QStringList{u"Tolmark.mdb"_s});
     }
+
+private:
+    datafile::Progress m_progress{{}};
 };
 
 QTEST_GUILESS_MAIN(tst_upgrade)

@@ -6,7 +6,6 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
-#include <cerrno>
 #include <filesystem>
 #include <optional>
 #include <system_error>

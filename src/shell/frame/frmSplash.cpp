@@ -4,7 +4,6 @@
 
 #include <QEvent>
 #include <QIcon>
-#include <QScreen>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;

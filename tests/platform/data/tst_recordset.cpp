@@ -283,6 +283,31 @@ private Q_SLOTS:
         QVERIFY(rows[u"Name"].Value().isNull());
         QCOMPARE(m_folder->rows("SELECT * FROM Strict"), (QStringList{u"1|first"_s, u"2|second"_s}));
     }
+
+    // Each call continues a series; another field ends it, another recordset does not.
+    void bytesComeAndGoInChunks()
+    {
+        Recordset rows = opened(u"select * from Attachments where AttachmentsName = 'none'"_s);
+        data::Field content = rows[u"Attachments"];
+        rows.AddNew();
+        content.AppendChunk("dropped");
+        rows[u"AttachmentsName"].setValue(u"a"_s);
+        for (const char *chunk : {"one,", "two"})
+            content.AppendChunk(chunk);
+        rows.Update();
+        QVERIFY(!opened(u"select * from Attachments"_s)[u"AttachmentsName"].Value().isNull());
+        QCOMPARE(content.ActualSize(), 7);
+        for (const char *chunk : {"one,", "two"})
+            QCOMPARE(content.GetChunk(4), Value(QByteArray(chunk)));
+        QVERIFY(content.GetChunk(4).isNull());
+        QVERIFY(!rows[u"AttachmentsName"].Value().isNull());
+        QCOMPARE(content.GetChunk(9), Value(QByteArray("one,two")));
+        content.AppendChunk("new"); // begins anew
+        rows.Update();
+        QCOMPARE(content.Value(), Value(QByteArray("new")));
+        QCOMPARE(errorOf([&] { rows[u"AttachmentsName"].AppendChunk("x"); }),
+                 u"3219 Operation is not allowed in this context."_s);
+    }
 };
 
 QTEST_GUILESS_MAIN(RecordsetTest)

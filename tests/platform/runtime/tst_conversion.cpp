@@ -1,4 +1,8 @@
+// Numbers, amounts, dates and texts: read from each other, compared and shown.
+#include "platform/runtime/Clock.h"
 #include "platform/runtime/Conversion.h"
+#include "platform/runtime/DateDiff.h"
+#include "platform/runtime/Format.h"
 #include "support/Outcome.h"
 #include "support/UnitedStates.h"
 
@@ -42,6 +46,12 @@ class ConversionTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup()
+    {
+        QLocale::setDefault(QLocale::c());
+        runtime::setClock({});
+    }
+
     void converts_data()
     {
         QTest::addColumn<Conversion>("convert");
@@ -154,7 +164,128 @@ private Q_SLOTS:
                                                 {text("1,234.5"), "error 13"}})
             QCOMPARE(outcomeOf([convert = toDouble, &value = value] { return convert(value); }),
                      QString::fromLatin1(number));
-        QLocale::setDefault(QLocale::c());
+    }
+
+    void fillsWithZeros()
+    {
+        for (const auto &[value, text] :
+             {std::pair(Value(qint16(5)), "05"), std::pair(Value(qint32(-5)), "-05"), std::pair(Value(0.4999), "00"),
+              std::pair(Value(Currency::fromScaled(std::numeric_limits<qint64>::max() - 5'807)), "922337203685477"),
+              std::pair(Value(u" (7) "_s), "-07"), std::pair(Value(u"noon"_s), "noon"),
+              std::pair(Value(QByteArray("7")), "error 13")})
+            QCOMPARE(outcomeOf([&shown = value] { return runtime::Format(shown, u"00"); }), QString::fromLatin1(text));
+        QCOMPARE(runtime::Format(Value(2.5), u"0"), u"3"_s); // half goes away from zero
+        QCOMPARE(runtime::Format(Value(-0.4), u"0"), u"-0"_s);
+        for (const QString &pattern : {u"#0"_s, QString()})
+            QCOMPARE(errorNumberOf([&] { runtime::Format(Value(qint16(5)), pattern); }), 5);
+    }
+
+    void writesAmounts()
+    {
+        const auto amount = [](qint64 scaled) { return Value(Currency::fromScaled(scaled)); };
+        for (const auto &[value, text] :
+             {std::pair(Value(1234.5), "$1,234.50"), std::pair(Value(-1234.5), "($1,234.50)"),
+              std::pair(Value(qint32(1'000'000)), "$1,000,000.00"),
+              std::pair(amount(10'050), "$1.01"), // half goes away from zero
+              std::pair(amount(-10'050), "($1.01)"), std::pair(amount(9'999'950), "$1,000.00"),
+              std::pair(amount(-49), "$0.00"),
+              std::pair(amount(std::numeric_limits<qint64>::max()), "$922,337,203,685,477.58"),
+              std::pair(amount(std::numeric_limits<qint64>::min()), "($922,337,203,685,477.58)"),
+              std::pair(amount(9'007'199'254'740'993'149), "$900,719,925,474,099.31"), // a double would move it
+              std::pair(Value(u"$1,200.505"_s), "$1,200.51"), std::pair(Value(1e15), "error 6"),
+              std::pair(Value(u"abc"_s), "error 13")})
+            QCOMPARE(outcomeOf([&shown = value] { return runtime::FormatCurrency(shown); }), QString::fromLatin1(text));
+    }
+
+    void writesAmountsOfOtherRegions()
+    {
+        const Value positive(Currency::fromScaled(12'345'678'950));
+        const Value negative(Currency::fromScaled(-5'000));
+        for (const auto &[region, ofPositive, ofNegative] :
+             {std::tuple(u"en_GB"_s, u"£1,234,567.90"_s, u"-£0.50"_s),
+              std::tuple(u"fr_TN"_s, u"1\u202f234\u202f567,895\u00a0DT"_s, u"-0,500\u00a0DT"_s),
+              std::tuple(u"pt_BR"_s, u"R$\u00a01.234.567,90"_s, u"R$\u00a0-0,50"_s),
+              std::tuple(u"ja_JP"_s, u"￥1,234,568"_s, u"-￥1"_s),
+              std::tuple(u"hi_IN"_s, u"₹12,34,567.90"_s, u"₹-0.50"_s),
+              std::tuple(u"ur_IN"_s, u"₹۱٬۲۳۴٬۵۶۷٫۹۰"_s, u"\u200e-\u200e₹۰٫۵۰"_s)}) {
+            QLocale::setDefault(QLocale(region));
+            QCOMPARE(runtime::FormatCurrency(positive), ofPositive);
+            QCOMPARE(runtime::FormatCurrency(negative), ofNegative);
+        }
+    }
+
+    void readsDates()
+    {
+        const UnitedStates region;
+        runtime::setClock([] { return QDateTime(QDate(2003, 5, 17), QTime(14, 30)); });
+        const auto read = [](const QString &text) {
+            return text + u": "_s + outcomeOf([&] { return runtime::toDate(Value(text)).toIsoText(); });
+        };
+        for (const auto &[written, moment] :
+             {std::pair(u"1/31/2001"_s, u"2001-01-31 00:00:00"_s), std::pair(u"31/1/2001"_s, u"2001-01-31 00:00:00"_s),
+              std::pair(u"1-31-01"_s, u"2001-01-31 00:00:00"_s), std::pair(u"1/1/29"_s, u"2029-01-01 00:00:00"_s),
+              std::pair(u"1/1/30"_s, u"1930-01-01 00:00:00"_s), std::pair(u"2001-01-31"_s, u"2001-01-31 00:00:00"_s),
+              std::pair(u"2001-01-31 17:04:09"_s, u"2001-01-31 17:04:09"_s),
+              std::pair(u"1/31"_s, u"2003-01-31 00:00:00"_s), std::pair(u"Jan 31, 2001"_s, u"2001-01-31 00:00:00"_s),
+              std::pair(u"31 january 01"_s, u"2001-01-31 00:00:00"_s),
+              std::pair(u"March 3"_s, u"2003-03-03 00:00:00"_s), std::pair(u"1/1/100"_s, u"0100-01-01 00:00:00"_s),
+              std::pair(u"12/31/9999"_s, u"9999-12-31 00:00:00"_s), std::pair(u"10:05"_s, u"1899-12-30 10:05:00"_s),
+              std::pair(u"5 PM"_s, u"1899-12-30 17:00:00"_s), std::pair(u"12:00 am"_s, u"1899-12-30 00:00:00"_s),
+              std::pair(u"12:30PM"_s, u"1899-12-30 12:30:00"_s)})
+            QCOMPARE(read(written), written + u": "_s + moment);
+        for (const QString &written :
+             {u""_s, u" "_s, u"2/29/2001"_s, u"13/32/2001"_s, u"0/1/2001"_s, u"2001-31-01x"_s, u"1/2/3/4"_s, u"Jan"_s,
+              u"Janus 3 2001"_s, u"25:00"_s, u"10:60"_s, u"13 PM"_s, u"10:00 11:00"_s, u"Monday, January 1, 2001"_s,
+              u"noon"_s, u"the first dry weekend"_s})
+            QCOMPARE(read(written), written + u": error 13"_s);
+    }
+
+    void countsDays()
+    {
+        for (const auto &[serial, moment] : {std::pair(36922.5, u"2001-01-31 12:00:00"_s),
+                                             std::pair(-1.75, u"1899-12-29 18:00:00"_s), // forward from midnight
+                                             std::pair(-657434.0, u"0100-01-01 00:00:00"_s),
+                                             std::pair(2958465.0 + 86399.0 / 86400, u"9999-12-31 23:59:59"_s)}) {
+            QCOMPARE(Date::fromSerial(serial).toIsoText(), moment);
+            QCOMPARE(Date::fromSerial(serial).toSerial(), serial);
+        }
+        for (const double beyond : {2958465.9999999, 2958466.0, -657435.0})
+            QCOMPARE(errorNumberOf([&] { Date::fromSerial(beyond); }), 6);
+    }
+
+    void comesBackFromTheStoresForm()
+    {
+        const auto read = [](const QString &text) {
+            const auto date = Date::fromIsoText(text);
+            return date ? date->toIsoText() : u"no date"_s;
+        };
+        QCOMPARE(read(u"2001-01-31T17:04:09"_s), u"2001-01-31 17:04:09"_s);
+        QCOMPARE(read(u"2001-01-31"_s), u"2001-01-31 00:00:00"_s);
+        for (const QString &text : {QString(), u"2001-01"_s, u"2001-02-30"_s, u"1/31/2001"_s, u"2001-01-31 25:00:00"_s,
+                                    u"2001-01-31x"_s, u"2001-01-31 "_s, u"0099-12-31"_s, u"2001-01-31 5 PM"_s})
+            QCOMPARE(read(text), u"no date"_s);
+    }
+
+    void countsBoundaries()
+    {
+        for (const auto &[interval, from, to, count] :
+             {std::tuple(u"n"_s, u"2001-01-31 10:00:59"_s, u"2001-01-31 10:01:00"_s, u"1"_s),
+              std::tuple(u"s"_s, u"2001-01-31 10:00:50"_s, u"2001-01-31 10:01:10"_s, u"20"_s),
+              std::tuple(u"n"_s, u"2001-01-31 10:01:00"_s, u"2001-01-31 10:00:59"_s, u"-1"_s),
+              std::tuple(u"N"_s, u"2001-01-31 23:00:00"_s, u"2001-02-02 01:00:00"_s, u"1560"_s),
+              std::tuple(u"n"_s, u"1899-12-29 23:59:59"_s, u"1899-12-30 00:00:01"_s, u"1"_s),
+              std::tuple(u"h"_s, u"2001-01-31 10:59:59"_s, u"2001-01-31 11:00:00"_s, u"1"_s),
+              std::tuple(u"d"_s, u"1899-12-29 18:00:00"_s, u"1899-12-30 06:00:00"_s, u"1"_s),
+              std::tuple(u"m"_s, u"2000-12-31"_s, u"2001-01-01"_s, u"1"_s),
+              std::tuple(u"yyyy"_s, u"2000-12-31 23:59:59"_s, u"2001-01-01"_s, u"1"_s),
+              std::tuple(u"s"_s, u"1970-01-01"_s, u"2038-01-19 03:14:07"_s, u"2147483647"_s),
+              std::tuple(u"s"_s, u"1970-01-01"_s, u"2038-01-19 03:14:08"_s, u"error 6"_s),
+              std::tuple(u"s"_s, u"2038-01-19 03:14:08"_s, u"1970-01-01"_s, u"-2147483648"_s),
+              std::tuple(u"minutes"_s, u"2001-01-31"_s, u"2001-01-31"_s, u"error 5"_s)}) {
+            const Date first = *Date::fromIsoText(from);
+            const Date second = *Date::fromIsoText(to);
+            QCOMPARE(outcomeOf([&, &unit = interval] { return runtime::DateDiff(unit, first, second); }), count);
+        }
     }
 };
 

@@ -5,6 +5,8 @@
 #include "platform/data/sql/Literal.h"
 #include "platform/data/sql/SqlText.h"
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace sql {
