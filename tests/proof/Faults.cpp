@@ -34,7 +34,7 @@ constexpr std::size_t mostCallers = 1 << 16;
 Known *callers = nullptr;
 
 // Qt's hash, whose code is compiled into ours, promises not to throw, so that memory that is refused to it ends the
-// process. An optimised build cannot tell it from ours.
+// process.
 bool isOurs(const void *caller)
 {
     if (caller < &__executable_start || caller >= &etext)
