@@ -20,7 +20,8 @@ ExplorerPanes::ExplorerPanes(desktop::Form &window, const ExplorerTexts &texts)
     TreClassView->setAccessibleName(u"Groups"_s);
     LstStudenInformation->setSelectionMode(QAbstractItemView::ExtendedSelection);
     Toolbar1->setIconSize(QSize(20, 20) * desktop::letterScale());
-    Toolbar1->addButton({}, texts.deleteButton, texts.deleteButton, QIcon(texts.deleteImage));
+    ImageList1->add(u"Delete"_s, texts.deleteImage);
+    Toolbar1->addButton({}, texts.deleteButton, texts.deleteButton, ImageList1->icon(u"Delete"_s));
     placeBars();
     QWidget *button = Toolbar1->widgetForAction(Toolbar1->actions().constFirst());
     desktop::setTabOrder({button, LblMemberListing, TreClassView, LstStudenInformation});

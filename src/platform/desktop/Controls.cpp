@@ -355,7 +355,6 @@ ComboBox::ComboBox(QWidget *parent, QAnyStringView name) : ControlOf(parent, nam
 {
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setStyleSheet(QStringLiteral("combobox-popup: 0")); // a list with a bar beside it, not one as high as the screen
     if (auto *list = qobject_cast<QListView *>(view()))
         list->setUniformItemSizes(true);
 }

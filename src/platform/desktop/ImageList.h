@@ -13,14 +13,12 @@ public:
     ImageList(QObject *parent, QAnyStringView name) : QObject(parent) { setObjectName(name.toString()); }
 
     void add(const QString &key, const QString &file);
-    QIcon icon(const QString &key) const { return QIcon(m_files.value(key)); }
-    // A tree node's picture: as it is, selected, and expanded. An empty key shows the first one in its place. Nodes of
-    // the same pictures share one icon: the sources are read once.
+    QIcon icon(const QString &key) const;
+    // A tree node's picture: as it is, selected, and expanded. An empty key shows the first one in its place.
     QIcon nodeIcon(const QString &image, const QString &selectedImage, const QString &expandedImage) const;
 
 private:
     QHash<QString, QString> m_files;
-    mutable QHash<QStringList, QIcon> m_nodeIcons; // by their three keys
 };
 
 } // namespace desktop

@@ -7,10 +7,13 @@
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QStyleOption>
 #include <QToolButton>
 
 #include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace desktop {
 
@@ -81,14 +84,25 @@ Qt::ArrowType arrowOf(QStyle::PrimitiveElement element)
     return element == QStyle::PE_IndicatorArrowLeft ? Qt::LeftArrow : Qt::RightArrow;
 }
 
+QPixmap coloured(QPixmap picture, const QColor &colour)
+{
+    const QString key = u"coloured %1 %2"_s.arg(picture.cacheKey()).arg(colour.rgba());
+    if (QPixmapCache::find(key, &picture))
+        return picture;
+    QPainter painter(&picture);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(picture.rect(), colour);
+    painter.end();
+    QPixmapCache::insert(key, picture);
+    return picture;
+}
+
 // The picture of a selected line in the colour of its text: its own colours are not seen on every selection.
 QIcon onSelection(const QStyleOptionViewItem &line, qreal pixelRatio)
 {
     const QIcon::State state = line.state & QStyle::State_Open ? QIcon::On : QIcon::Off;
-    QPixmap picture = line.icon.pixmap(line.decorationSize, pixelRatio, QIcon::Selected, state);
-    QPainter painter(&picture);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(picture.rect(), line.palette.color(QPalette::HighlightedText));
+    const QPixmap picture = coloured(line.icon.pixmap(line.decorationSize, pixelRatio, QIcon::Selected, state),
+                                     line.palette.color(QPalette::HighlightedText));
     QIcon icon;
     icon.addPixmap(picture, QIcon::Selected, state);
     return icon;
@@ -149,6 +163,12 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWi
     default:
         return usual;
     }
+}
+
+int Style::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                     QStyleHintReturn *returned) const
+{
+    return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
 // What Fusion would draw with lines that are next to invisible on a dark window, and faint on a light one.

@@ -24,6 +24,9 @@ public:
     using QProxyStyle::polish;
     // Pictures, title bars, boxes for ticks and scroll bars grow with the letters.
     int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override;
+    // The list of a combo box has a bar beside it, and is not as high as the screen.
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *returned) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override;
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,

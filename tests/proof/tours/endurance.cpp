@@ -133,6 +133,7 @@ int main(int argc, char **argv)
     printNoRemarks();
     QApplication application(argc, argv);
     desktop::Style::install();
+    QApplication::setWindowIcon(QIcon(u":/icons/tolmark.svg"_s)); // without one, Qt makes one for each child window
     QApplication::setQuitOnLastWindowClosed(false);
     const DataStoreFolder folder;
     desktop::setSettingsFile(folder.path(u"settings"_s));
