@@ -43,7 +43,7 @@ QString numberText(double number, int digits)
 
 QString dateText(const Date &date)
 {
-    if (date.isTimeOnly() && date.hasTime())
+    if (date.isTimeOnly()) // midnight too
         return longTimeText(date.time());
     const QString day = shortDateText(date.day());
     return date.hasTime() ? day + u' ' + longTimeText(date.time()) : day;
@@ -55,10 +55,7 @@ bool textAsBoolean(const QString &text)
         return true;
     if (text.compare(u"False", Qt::CaseInsensitive) == 0)
         return false;
-    const auto number = parseDouble(text);
-    if (!number)
-        throw RuntimeError(TypeMismatch);
-    return *number != 0.0;
+    return toDouble(Value(text)) != 0.0;
 }
 
 } // namespace

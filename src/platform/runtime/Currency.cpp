@@ -45,7 +45,8 @@ std::optional<Decimal> readDecimal(QStringView text)
     if (at < text.size() && (text[at] == u'-' || text[at] == u'+'))
         number.negative = text[at++] == u'-';
     bool pointSeen = false;
-    for (; at < text.size() && (text[at].isDigit() || (text[at] == u'.' && !pointSeen)); ++at) {
+    const auto isDigit = [](QChar sign) { return sign >= u'0' && sign <= u'9'; };
+    for (; at < text.size() && (isDigit(text[at]) || (text[at] == u'.' && !pointSeen)); ++at) {
         if (text[at] == u'.') {
             pointSeen = true;
             number.pointAt = number.digits.size();

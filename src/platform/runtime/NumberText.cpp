@@ -15,7 +15,7 @@ std::optional<QString> plainRadixNumber(QStringView text)
         return std::nullopt;
     const QChar mark = text[1].toUpper();
     const int base = mark == u'H' ? 16 : mark == u'O' ? 8 : 0;
-    if (base == 0 || !text[2].isLetterOrNumber())
+    if (base == 0 || !text[2].isLetterOrNumber() || text.contains(u'x', Qt::CaseInsensitive)) // Qt reads 0x too
         return std::nullopt;
     bool ok = false;
     const quint32 bits = text.sliced(2).toUInt(&ok, base);
@@ -24,7 +24,6 @@ std::optional<QString> plainRadixNumber(QStringView text)
     return QString::number(bits <= 0xffff ? qint32(qint16(bits)) : qint32(bits));
 }
 
-// Takes off what may stand round the digits: sign, currency sign and brackets, each at most once.
 struct Trimmings
 {
     QStringView rest;
@@ -32,6 +31,7 @@ struct Trimmings
     bool valid = true;
 };
 
+// Takes off what may stand round the digits: sign, currency sign and brackets, each at most once.
 Trimmings trimmed(QStringView text, const QString &currencySign)
 {
     Trimmings out{text.trimmed()};
@@ -42,7 +42,6 @@ Trimmings trimmed(QStringView text, const QString &currencySign)
         out.rest = out.rest.sliced(1, out.rest.size() - 2).trimmed();
     }
     for (bool again = true; again && !out.rest.isEmpty();) {
-        again = true;
         const auto signAt = [&](QChar c) { return c == u'-' || c == u'+'; };
         if (!sign && signAt(out.rest.front())) {
             out.negative = out.rest.front() == u'-';

@@ -85,6 +85,7 @@ private Q_SLOTS:
                  {text("0.0"), "False"},
                  {Value(Date()), "False"}, // midnight of day 0
                  {text("Yes"), "error 13"},
+                 {text("1e999"), "error 6"},
                  {text(""), "error 13"}});
         addRows("amount", toAmount,
                 {{text("$1,200.50"), "1200.5"},
@@ -110,7 +111,7 @@ private Q_SLOTS:
                  {day, "9/18/1989"},
                  {Value(Date(QDate(2001, 1, 31), QTime(10, 5))), "1/31/2001 10:05:00 AM"},
                  {Value(Date(QDate(1899, 12, 30), QTime(17, 4, 9))), "5:04:09 PM"},
-                 {Value(Date()), "12/30/1899"},
+                 {Value(Date()), "12:00:00 AM"},
                  {bytes, "error 13"},
                  {Value(), "error 94"}});
     }
@@ -137,9 +138,9 @@ private Q_SLOTS:
             QCOMPARE(runtime::IsNumeric(Value(written)), number != u"error 6");
         }
         for (const QString &written :
-             {u""_s,    u" "_s,           u"-"_s,   u"$"_s,        u"()"_s,   u"."_s,     u"&H"_s,
-              u"&HG"_s, u"&H100000000"_s, u"1e"_s,  u"1e 3"_s,     u"--5"_s,  u"1.2.3"_s, u"1.2,3"_s,
-              u",5"_s,  u"5%"_s,          u"1 2"_s, u"1/2/2001"_s, u"True"_s, u"abc"_s,   u"5x"_s}) {
+             {u""_s,       u" "_s,           u"-"_s,        u"$"_s,    u"()"_s,  u"."_s,     u"&H"_s,    u"&HG"_s,
+              u"&H0x1F"_s, u"&H100000000"_s, u"1e"_s,       u"1e 3"_s, u"--5"_s, u"1.2.3"_s, u"1.2,3"_s, u",5"_s,
+              u"5%"_s,     u"1 2"_s,         u"1/2/2001"_s, u"True"_s, u"abc"_s, u"5x"_s}) {
             QCOMPARE(written + u": "_s + outcomeOf([&] { return toDouble(Value(written)); }),
                      written + u": error 13"_s);
             QVERIFY(!runtime::IsNumeric(Value(written)));
