@@ -37,20 +37,23 @@ MemberContext contextOf(const data::Database &file, const CsvForm &form)
     return context;
 }
 
-// Numbers that are taken, by the file or by an earlier row, and members for whom no number is left.
-void checkNumbers(const data::Database &file, const QList<MemberRow> &rows, QList<CellFault> &faults)
+// Rows without a number get those behind the highest one, of the file and of all rows. Numbers that are taken, by the
+// file or by an earlier row, are faults, and so are members for whom no number is left.
+void giveNumbers(const data::Database &file, QList<MemberRow> &rows, QList<CellFault> &faults)
 {
     QSet<qint32> taken;
-    data::Statement ids = file.prepare("SELECT MemberId FROM MemberInformation");
-    while (ids.step())
-        taken.insert(qint32(ids.integer(0)));
     data::Statement sequence =
         file.prepare("SELECT coalesce(max(seq), 0) FROM sqlite_sequence WHERE name = 'MemberInformation'");
     sequence.step();
     qint64 highest = sequence.integer(0);
-    for (const MemberRow &row : rows)
+    data::Statement ids = file.prepare("SELECT MemberId FROM MemberInformation");
+    while (ids.step()) {
+        taken.insert(qint32(ids.integer(0)));
+        highest = qMax(highest, ids.integer(0));
+    }
+    for (const MemberRow &row : std::as_const(rows))
         highest = qMax<qint64>(highest, row.id.value_or(0));
-    for (const MemberRow &row : rows) {
+    for (MemberRow &row : rows) {
         if (row.row == 0)
             continue; // told already
         if (row.id && taken.contains(*row.id))
@@ -61,6 +64,8 @@ void checkNumbers(const data::Database &file, const QList<MemberRow> &rows, QLis
             taken.insert(*row.id);
         else if (++highest > highestMember)
             faults.append({row.row, u"MemberId"_s, {}, u"no number up to %1 is left"_s.arg(highestMember)});
+        else
+            row.id = qint32(highest);
     }
 }
 
@@ -161,7 +166,7 @@ Imported importMembers(const QString &path, const QString &csv, const ImportOpti
             continue; // spreadsheets leave empty rows behind the last one
         rows << readMemberRow(cells, i + 1, fields, sheet.rows.first(), context, imported.faults);
     }
-    checkNumbers(file, rows, imported.faults);
+    giveNumbers(file, rows, imported.faults);
     std::stable_sort(imported.faults.begin(), imported.faults.end(),
                      [](const CellFault &a, const CellFault &b) { return a.row < b.row; });
     imported.members = rows.size();
