@@ -175,12 +175,15 @@ QStringList processesUsing(const QString &file)
     if (stat(QFile::encodeName(file).constData(), &data) != 0)
         return {};
     const QString folder = QFileInfo(QFileInfo(file).canonicalFilePath()).absolutePath();
+    const QString replaced = u" (deleted)"_s; // the kernel's word where another file has taken the program's name
     QStringList users;
     for (const QString &number : QDir(u"/proc"_s).entryList({u"[0-9]*"_s}, QDir::Dirs)) {
         const QString process = u"/proc/"_s + number;
         if (number.toLongLong() == getpid())
             continue;
-        const QString program = QFile::symLinkTarget(process + u"/exe"_s);
+        QString program = QFile::symLinkTarget(process + u"/exe"_s);
+        if (program.endsWith(replaced))
+            program.chop(replaced.size());
         if (program == folder + u"/Tolmark"_s || isOpenIn(process, data))
             users << u"%1 (process %2)"_s.arg(QFileInfo(program).fileName(), number);
     }
