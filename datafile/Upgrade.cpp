@@ -91,9 +91,9 @@ struct Step
 // In order. The first one serves every older file, since a file of version 1 may lack a column too.
 constexpr std::array steps{Step{1, addWhatIsMissing}, Step{2, coverDocumentsAndNames}};
 
+// Ends the transaction in which the file was copied.
 void runSteps(data::Database &file, Progress &progress)
 {
-    file.execute("BEGIN IMMEDIATE");
     const int before = versionOf(file);
     for (const Step &step : steps)
         if (step.version == 1 || step.version > before)
@@ -139,6 +139,7 @@ QString upgrade(const QString &path, Progress &progress)
         refuse(findingOfVersion(file, path));
     refuseFileInUse(path);
     QString old = datedName(QFileInfo(path).canonicalFilePath());
+    file.execute("BEGIN IMMEDIATE"); // nobody changes the file after it was copied
     backUp(path, old, progress);
     try {
         runSteps(file, progress);
