@@ -3,6 +3,7 @@
 #include "platform/runtime/CodePage.h"
 #include "platform/runtime/RuntimeError.h"
 
+#include <QRegularExpression>
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -18,7 +19,7 @@ bool beginsLikeFormula(QStringView text)
     return !text.isEmpty() && u"=+-@\t\r"_s.contains(text.at(0));
 }
 
-// Apostrophes that stand before what begins like a formula, and how many they are.
+// How many apostrophes stand before a text that begins like a formula; -1 before any other text.
 qsizetype apostrophesBeforeFormula(const QString &text)
 {
     qsizetype count = 0;
@@ -212,7 +213,8 @@ CsvFile readCsv(const QByteArray &bytes, const CsvForm &form)
     if (text.startsWith(u"sep="_s) && text.size() > 4) { // a first line by which some spreadsheets tell the separator
         if (file.form.separator.isNull())
             file.form.separator = text.at(4);
-        text.remove(0, text.indexOf(u'\n') + 1);
+        static const QRegularExpression line(u"^[^\r\n]*(\r\n|\r|\n|$)"_s);
+        text.remove(line);
     }
     if (file.form.separator.isNull())
         file.form.separator = mostFrequentSeparator(text);

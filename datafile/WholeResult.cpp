@@ -33,18 +33,22 @@ QString existingFolderOf(const QString &path)
     return folder;
 }
 
+[[noreturn]] void failUnlessTaken(const QString &path)
+{
+    const int reason = errno;
+    refuseTakenPath(path);
+    errno = reason;
+    failToWrite(path);
+}
+
 // For file systems that cannot rename without replacing: takes the name with an empty file or folder, which fails where
 // anything stands, and lets the result replace that.
 void claimAndReplace(const QString &from, const QString &to)
 {
-    if (QFileInfo(from).isDir()) {
-        if (!QDir().mkdir(to))
-            failToWrite(to);
-    } else {
-        QFile claim(to);
-        if (!claim.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-            failToWrite(to);
-    }
+    const bool isClaimed =
+        QFileInfo(from).isDir() ? QDir().mkdir(to) : QFile(to).open(QIODevice::WriteOnly | QIODevice::NewOnly);
+    if (!isClaimed)
+        failUnlessTaken(to);
     if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0) {
         const int reason = errno;
         QFileInfo(to).isDir() ? QDir().rmdir(to) : QFile::remove(to);
@@ -88,10 +92,7 @@ void renameWithoutReplacing(const QString &from, const QString &to)
         return;
     if (errno == EINVAL || errno == ENOSYS)
         return claimAndReplace(from, to);
-    const int reason = errno;
-    refuseTakenPath(to);
-    errno = reason;
-    failToWrite(to);
+    failUnlessTaken(to);
 }
 
 WholeResult::WholeResult(const QString &path)
