@@ -117,6 +117,19 @@ private Q_SLOTS:
         QCOMPARE(handlesOn(m_folder->file()), 0);
     }
 
+    // It holds a password.
+    void aStatementOnTheUsersDoesNotWait()
+    {
+        const auto bytesAfter = [this](const QString &condition) {
+            query(m_folder->file(), u"SELECT * FROM "_s + condition);
+            return sqlite3_memory_used();
+        };
+        bytesAfter(u"Security"_s); // from here on the file is open
+        const auto first = bytesAfter(u"Security WHERE UserPassword = 'aaaa'"_s);
+        QCOMPARE(bytesAfter(u"Security WHERE UserPassword = 'bbbb'"_s), first);
+        QVERIFY(bytesAfter(u"MemberType WHERE MemberType = 'aaaa'"_s) > first);
+    }
+
     void meetsTheFileAsItIs()
     {
         const QByteArray toFair = "UPDATE MemberType SET MemberType = 'Fair' WHERE MemberTypeId = 5";

@@ -89,8 +89,8 @@ void provideCollation(void *, sqlite3 *handle, int, const char *name)
         sqlite3_create_collation_v2(handle, name, SQLITE_UTF8, handle, compareForSqlite, nullptr);
 }
 
-// Numbers have the text that a field of a text column would give them. `number` keeps that of a broken one, which
-// SQLite would write differently; all else is a view of SQLite's own text.
+// A number is compared by the text that a field of a text column shows for it. SQLite would write one with a fraction
+// differently; that text is kept in `number`. Any other value is a view of SQLite's own text.
 QByteArrayView textOf(sqlite3_value *value, QByteArray &number)
 {
     if (sqlite3_value_type(value) == SQLITE_FLOAT)
@@ -167,10 +167,8 @@ void Database::openWith(const QString &path, int flags)
     const QByteArray name = flags & SQLITE_OPEN_MEMORY ? path.toUtf8() : systemName(path);
     // Without locks round each call: a connection belongs to the one thread.
     const int code = sqlite3_open_v2(name.constData(), &handle, flags | SQLITE_OPEN_NOMUTEX, nullptr);
-    m_handle = std::make_shared<Handle>(handle, path); // also of a failed open
-    m_path = path;
-    m_hasLike = false;
-    m_handle->check(code);
+    const auto opened = std::make_shared<Handle>(handle, path); // also of a failed open
+    opened->check(code);
     sqlite3_extended_result_codes(handle, 1);
     sqlite3_busy_timeout(handle, busyTimeout);
     sqlite3_collation_needed(handle, nullptr, provideCollation);
@@ -178,7 +176,10 @@ void Database::openWith(const QString &path, int flags)
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
     // What a message calls saved outlasts a loss of power right after it: the deletion of the journal is synced too.
-    execute("PRAGMA synchronous = EXTRA");
+    opened->check(sqlite3_exec(handle, "PRAGMA synchronous = EXTRA", nullptr, nullptr, nullptr));
+    m_handle = opened;
+    m_path = path;
+    m_hasLike = false;
 }
 
 void Database::open(const QString &path)
@@ -259,9 +260,9 @@ void Database::change(const std::function<void()> &steps)
     }
 }
 
-Statement Database::prepare(QByteArrayView sql) const
+Statement Database::prepare(QByteArrayView sql, Reuse reuse) const
 {
-    return Statement(m_handle, sql);
+    return Statement(m_handle, sql, reuse);
 }
 
 qint64 Database::lastInsertRowId() const
@@ -286,8 +287,8 @@ std::optional<Database::ColumnFacts> Database::factsOf(const char *table, const 
     int isKey = 0;
     const int code = sqlite3_table_column_metadata(m_handle->get(), "main", table, column, &facts.declaredType, nullptr,
                                                    nullptr, &isKey, nullptr);
-    if (code != SQLITE_OK && code != SQLITE_ERROR) // which says that there is none
-        m_handle->setFailed();
+    if (code != SQLITE_ERROR) // which says that there is none
+        m_handle->check(code);
     facts.isKey = isKey != 0;
     return code == SQLITE_OK ? std::optional(facts) : std::nullopt;
 }
@@ -314,7 +315,7 @@ Database::Blob Database::openBlob(const QByteArray &table, const QByteArray &col
     sqlite3_blob *handle = nullptr;
     const int code =
         sqlite3_blob_open(m_handle->get(), "main", table.constData(), column.constData(), rowId, 0, &handle);
-    if (code != SQLITE_ERROR) // what has no bytes to open
+    if (code != SQLITE_ERROR) // a Null, a number, or a row that is gone: there are no bytes to open
         m_handle->check(code);
     return Blob(handle);
 }
@@ -369,7 +370,7 @@ void Database::copyTo(Database &target, const std::function<void(int done, int a
         if (isHeld && ++waits <= mostWaits)
             sqlite3_sleep(waitMilliseconds);
         else if (code != SQLITE_OK && code != SQLITE_DONE)
-            throw StoreError(code, QString::fromUtf8(sqlite3_errstr(code)), target.m_path);
+            throw StoreError(code, QString::fromUtf8(sqlite3_errstr(code)), isHeld ? m_path : target.m_path);
         else
             waits = 0;
         const int all = sqlite3_backup_pagecount(backup.get());

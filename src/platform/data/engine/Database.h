@@ -1,6 +1,7 @@
-// One open SQLite file: the only owner of a sqlite3 handle. Its statements are in SQLite's own SQL, not in the dialect.
+// One open SQLite file. Its statements are in SQLite's own SQL, not in the dialect; its Handle is shared with them.
 //
-// Every failing call raises StoreError. A failed open closes what it had opened.
+// A failing call raises StoreError; open and create also raise the provider's errors for paths. A failed open leaves
+// nothing open.
 #pragma once
 
 #include "platform/data/engine/Handle.h"
@@ -75,7 +76,7 @@ public:
     private:
         Database &m_file;
     };
-    Statement prepare(QByteArrayView sql) const;
+    Statement prepare(QByteArrayView sql, Reuse reuse = Reuse::Allowed) const;
 
     qint64 lastInsertRowId() const;
     // How many rows the last INSERT, UPDATE or DELETE changed.

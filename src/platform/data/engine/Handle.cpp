@@ -40,7 +40,8 @@ void Handle::check(int code)
         fail(code);
 }
 
-// Grows with each change that was written to the file, by this handle or, once a lock was taken since, by another.
+// Changes with each write to the file: at once for a write of this handle, and for one of another handle when this one
+// has taken a lock since.
 unsigned Handle::version() const
 {
     unsigned version = 0;
@@ -48,9 +49,9 @@ unsigned Handle::version() const
     return version;
 }
 
-Handle::Prepared Handle::prepare(QByteArrayView sql)
+Handle::Prepared Handle::prepare(QByteArrayView sql, Reuse reuse)
 {
-    const bool isKept = sqlite3_get_autocommit(m_handle) != 0;
+    const bool isKept = reuse == Reuse::Allowed && sqlite3_get_autocommit(m_handle) != 0;
     Prepared prepared{.version = isKept ? version() : 0};
     if (!m_waiting.empty() && m_waiting.back().version != prepared.version && isKept)
         forgetStatements();
@@ -70,7 +71,8 @@ Handle::Prepared Handle::prepare(QByteArrayView sql)
 void Handle::giveBack(Prepared prepared) noexcept
 {
     sqlite3_reset(prepared.statement); // before the version is read: it may complete a change
-    if (m_hasFailed || sqlite3_get_autocommit(m_handle) == 0 || prepared.version != version()) {
+    if (m_hasFailed || prepared.version == 0 || sqlite3_get_autocommit(m_handle) == 0 ||
+        prepared.version != version()) {
         sqlite3_finalize(prepared.statement);
         return;
     }

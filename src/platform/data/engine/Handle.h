@@ -15,6 +15,9 @@ struct sqlite3_stmt;
 
 namespace data {
 
+// Whether a statement may wait for its next use. One with a secret in its text may not.
+enum class Reuse { Allowed, Never };
+
 class Handle
 {
 public:
@@ -39,7 +42,7 @@ public:
         unsigned version = 0; // of the file, when it was prepared; 0 for one that will not be kept
         int bytes = 0;        // that it takes; 0 until it has waited
     };
-    Prepared prepare(QByteArrayView sql);
+    Prepared prepare(QByteArrayView sql, Reuse reuse);
     void giveBack(Prepared prepared) noexcept;
 
     // Readies the handle to wait, open, for another connection: from then on its memory is that of the file's

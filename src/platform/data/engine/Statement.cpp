@@ -25,9 +25,9 @@ void Statement::GiveBack::operator()(sqlite3_stmt *) const noexcept
     handle->giveBack(prepared);
 }
 
-Statement::Statement(std::shared_ptr<Handle> handle, QByteArrayView sql)
+Statement::Statement(std::shared_ptr<Handle> handle, QByteArrayView sql, Reuse reuse)
 {
-    const Handle::Prepared prepared = handle->prepare(sql);
+    const Handle::Prepared prepared = handle->prepare(sql, reuse);
     m_statement = {prepared.statement, GiveBack{std::move(handle), prepared}};
     m_columnCount = sqlite3_column_count(prepared.statement);
 }

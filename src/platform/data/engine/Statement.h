@@ -18,7 +18,7 @@ class Statement
 {
 public:
     Statement() = default;
-    Statement(std::shared_ptr<Handle> handle, QByteArrayView sql);
+    Statement(std::shared_ptr<Handle> handle, QByteArrayView sql, Reuse reuse);
     Statement(Statement &&) noexcept = default;
     Statement &operator=(Statement &&) noexcept = default;
     ~Statement() = default;

@@ -24,7 +24,7 @@ bool exceedsLimit(const QString &message)
            message.startsWith(u"too many ") || message.startsWith(u"at most ");
 }
 
-// Raises the error anew in the dialect's own words; one that has none there stays as it is.
+// Raises the error in the dialect's own words. One for which the dialect has none is raised as it is.
 [[noreturn]] void raiseDialectError(const StoreError &error)
 {
     const QString &message = error.description();
@@ -65,7 +65,7 @@ Statement prepareChecked(Database &database, const sql::Translation &translation
     if (translation.callsLike)
         database.provideLike();
     try {
-        Statement statement = database.prepare(sql);
+        Statement statement = database.prepare(sql, translation.mayBeKept ? Reuse::Allowed : Reuse::Never);
         if (translation.key)
             statement.bind(1, qint64(translation.key->number));
         return statement;

@@ -16,14 +16,6 @@ namespace {
 constexpr qsizetype mostKeptBytes = 1 << 20;
 constexpr qsizetype longestKept = 2000; // characters
 
-// A statement on the users' table may hold a password, which must not stay in memory.
-bool mayBeKept(const Tree &tree, const QString &text)
-{
-    return text.size() <= longestKept &&
-           std::none_of(tree.sources.begin(), tree.sources.end(),
-                        [](const Source &source) { return isSame(source.table, u"Security"); });
-}
-
 // A rough figure that is not too small: the text twice, as the key and in the literals, and the SQL.
 qsizetype bytesOf(const QString &text, const Translation &translation)
 {
@@ -38,7 +30,10 @@ Translation translate(const QString &text)
 {
     Tree tree;
     parse(text, tree);
-    return writeStatement(tree, text.size());
+    Translation translation = writeStatement(tree, text.size());
+    translation.mayBeKept =
+        std::ranges::none_of(tree.sources, [](const Source &source) { return isSame(source.table, u"Security"); });
+    return translation;
 }
 
 std::shared_ptr<const Translation> cachedTranslation(const QString &text)
@@ -46,10 +41,8 @@ std::shared_ptr<const Translation> cachedTranslation(const QString &text)
     thread_local QCache<QString, std::shared_ptr<const Translation>> kept(mostKeptBytes);
     if (const auto *known = kept.object(text))
         return *known;
-    Tree tree;
-    parse(text, tree);
-    auto translation = std::make_shared<const Translation>(writeStatement(tree, text.size()));
-    if (mayBeKept(tree, text))
+    auto translation = std::make_shared<const Translation>(translate(text));
+    if (translation->mayBeKept && text.size() <= longestKept)
         kept.insert(text, new std::shared_ptr(translation), bytesOf(text, *translation));
     return translation;
 }

@@ -1,7 +1,7 @@
 // One statement of the store's SQL dialect, turned into SQLite's SQL.
 //
 // The dialect is read whole into a tree and written anew; what is not understood raises the dialect's own error, never
-// a half-translated statement. Whether tables and columns exist is not known here: the data room asks the open file.
+// a half-translated statement. Whether tables and columns exist is not known here: the engine asks the open file.
 #pragma once
 
 #include "platform/runtime/Value.h"
@@ -31,14 +31,14 @@ struct ComputedColumn
 };
 
 // What INSERT or UPDATE stores into a column. The n-th assignment stands in the SQL as the parameter ?n, so that the
-// data room can convert the literal to the column's type before it is bound.
+// engine can convert the literal to the column's type before it is bound.
 struct Assignment
 {
     QString column;
     runtime::Value literal;
 };
 
-// A column compared with a literal; the data room refuses unlike types (a number column with a text and the reverse).
+// A column compared with a literal; the engine refuses unlike types (a number column with a text and the reverse).
 struct Comparison
 {
     ColumnReference column;
@@ -84,6 +84,8 @@ struct Translation
     std::optional<KeyNumber> key;      // not where there are LIKE ranges, which move it
     // The SQL calls store_like(PATTERN, VALUE), which the connection has to provide.
     bool callsLike = false;
+    // False for a statement on the table Security: it may hold a password, which must not stay in memory.
+    bool mayBeKept = true;
 };
 
 // Raises the dialect's error for a text that is no statement of it.
