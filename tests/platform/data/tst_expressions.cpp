@@ -35,8 +35,9 @@ private Q_SLOTS:
             {u"W LIKE 'x@%'"_s, u"3"_s},
             {u"W LIKE W"_s, u"1 2 3 5"_s},
             {u"NOT (W LIKE '%')"_s, u""_s},
-            {u"Yes <> F"_s, u"2 5"_s}, // 1 is Yes too, as another tool writes it
-            {u"R \\ 1 = 2"_s, u"1"_s}, // rounds first
+            {u"(W LIKE '%') = No"_s, u""_s}, // a Null is neither
+            {u"Yes <> F"_s, u"2 5"_s},       // 1 is Yes too, as another tool writes it
+            {u"R \\ 1 = 2"_s, u"1"_s},       // rounds first
             {u"W & N = 'SMITH1'"_s, u"1"_s},
             {u"W & Null = ''"_s, u"4 5"_s},
             {u"W + 'x' = 'smithx'"_s, u"1"_s},

@@ -330,7 +330,8 @@ void Cursor::appendChunk(int column, const QByteArray &bytes)
 {
     if (m_source.columns()[size_t(column)].type != ColumnType::Binary)
         throw provider::objectError(provider::NotAllowedInContext, "ADODB.Field");
-    if (m_seriesColumn == column && m_editMode != Edit::None && m_changes[size_t(column)]) {
+    const std::optional<Value> &pending = m_changes[size_t(column)];
+    if (m_seriesColumn == column && m_editMode != Edit::None && pending && pending->is<QByteArray>()) {
         QByteArray whole = std::move(*m_changes[size_t(column)]).get<QByteArray>();
         whole += bytes;
         m_changes[size_t(column)] = Value(std::move(whole));

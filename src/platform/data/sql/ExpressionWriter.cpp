@@ -99,10 +99,8 @@ void ExpressionWriter::write(Node node)
     case ExpressionKind::Negation:
         return negation(expression);
     case ExpressionKind::Not:
-        ++m_negations;
         m_sql += "NOT ";
         operand(expression.first);
-        --m_negations;
         return;
     case ExpressionKind::IsNull:
         operand(expression.first);
@@ -272,29 +270,24 @@ void ExpressionWriter::concatenation(const Expression &node)
 
 void ExpressionWriter::like(const Expression &node)
 {
-    if (!node.affirmed) {
-        ++m_negations;
+    if (!node.affirmed)
         m_sql += "NOT (";
-    }
     if (isText(node.second)) {
         likePattern(node, at(node.second));
     } else {
         likeCall(node);
     }
-    if (!node.affirmed) {
-        --m_negations;
+    if (!node.affirmed)
         m_sql += ')';
-    }
 }
 
 void ExpressionWriter::likePattern(const Expression &node, const Expression &pattern)
 {
     const LikePattern parts = analyzedPattern(textValue(pattern.text));
-    if (parts.kind == PatternKind::Any) { // for Null it is neither true nor false, which a Not would show
+    if (parts.kind == PatternKind::Any) { // true, or Null for a Null
+        m_sql += '(';
         operand(node.first);
-        m_sql += m_negations ? " = " : " IS NOT NULL";
-        if (m_negations)
-            operand(node.first);
+        m_sql += " IS NOT NULL OR NULL)";
         return;
     }
     if (parts.kind == PatternKind::Literal) {

@@ -49,7 +49,6 @@ private:
     const Tree &m_tree;
     Translation &m_out;
     QByteArray &m_sql;
-    int m_negations = 0; // how many Nots enclose the expression that is being written
 };
 
 } // namespace sql

@@ -33,8 +33,8 @@ enum class TokenKind {
     Greater,
     GreaterOrEqual,
     // Faults; the parser raises an error of its own for most of them.
-    UnclosedText,
-    BadName, // a bracket or backquote that is not closed, or an opening bracket inside brackets
+    UnclosedText, // or one with a zero character in it
+    BadName,      // the same of a bracket or backquote, or an opening bracket inside brackets
     BadNumber,
     BadDate, // "#" that is not closed
     StrayBracket,

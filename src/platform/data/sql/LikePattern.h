@@ -15,7 +15,8 @@ enum class PatternKind {
 struct LikePattern
 {
     PatternKind kind = PatternKind::Mixed;
-    // In lower case; both empty when no index can help, and `beyond` alone for a pattern that begins outside ASCII.
+    // In lower case. Both are empty when no index can help; only `beyond` is for a pattern that begins outside ASCII,
+    // whose range has no upper end.
     QString lowest;
     QString beyond;
 };

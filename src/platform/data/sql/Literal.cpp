@@ -12,7 +12,7 @@ namespace sql {
 
 namespace {
 
-// One to four numbers with the separator between them, as in "1/31/2001" or "10:05"; empty when the text is anything
+// One to three numbers with the separator between them, as in "1/31/2001" or "10:05"; empty when the text is anything
 // else.
 QVarLengthArray<int, 4> numbersBetween(QStringView text, QChar separator)
 {
@@ -88,7 +88,7 @@ std::optional<runtime::Date> dateValue(QStringView literal)
     const QDate day = dayOf(blank < 0 ? text : text.first(blank));
     const QStringView rest = !day.isValid() ? text : blank < 0 ? QStringView() : text.sliced(blank).trimmed();
     const QTime time = rest.isEmpty() && day.isValid() ? QTime(0, 0) : timeOf(rest);
-    if (!time.isValid() || (day.isValid() && day.year() < 100))
+    if (!time.isValid() || (day.isValid() && (day.year() < 100 || day.year() > 9999)))
         return std::nullopt;
     return day.isValid() ? runtime::Date(day, time) : runtime::Date::timeAlone(time);
 }

@@ -1,6 +1,7 @@
 #include "platform/data/sql/StatementParser.h"
 
 #include "platform/data/sql/ExpressionParser.h"
+#include "platform/data/sql/Literal.h"
 #include "platform/data/sql/SyntaxError.h"
 
 #include <algorithm>
@@ -78,7 +79,7 @@ void StatementParser::select()
     m_tree.kind = StatementKind::Select;
     m_tree.distinct = m_in.accept(Keyword::Distinct);
     if (m_in.accept(Keyword::Top)) {
-        if (!m_in.token().is(TokenKind::Number))
+        if (!m_in.token().is(TokenKind::Number) || !numberValue(m_in.token().text, false).is<qint32>())
             throw faultInList();
         m_tree.top = m_in.token().text;
         m_in.advance();
