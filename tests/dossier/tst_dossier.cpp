@@ -229,6 +229,10 @@ private Q_SLOTS:
             }
             QCOMPARE(shown.join(u", "_s), items);
             popup.close();
+            const QPoint beside = view.viewport()->rect().bottomLeft();
+            QTest::mouseClick(view.viewport(), Qt::RightButton, {}, beside);
+            QCOMPARE(view.SelectedItem().get(), &view.ListItems(2)); // on which this menu works too
+            popup.close();
             view.ListItems.Clear();
             QTest::mouseClick(view.viewport(), Qt::RightButton, {}, second);
             QVERIFY(!popup.isVisible());

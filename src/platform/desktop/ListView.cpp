@@ -234,6 +234,13 @@ void ListView::mouseDoubleClickEvent(QMouseEvent *event)
         Q_EMIT DblClick();
 }
 
+QItemSelectionModel::SelectionFlags ListView::selectionCommand(const QModelIndex &index, const QEvent *event) const
+{
+    const auto *click = dynamic_cast<const QMouseEvent *>(event);
+    const bool isForMenu = click && click->button() == Qt::RightButton;
+    return isForMenu && !index.isValid() ? QItemSelectionModel::NoUpdate : LineView::selectionCommand(index, event);
+}
+
 void ListView::mouseReleaseEvent(QMouseEvent *event)
 {
     QTreeWidget::mouseReleaseEvent(event);

@@ -113,8 +113,7 @@ public:
 Q_SIGNALS:
     // The header's place, from 1.
     void ColumnClick(int index);
-    // On a line, which is selected by then. In a list without lines the handler hears of it too; beside the lines of
-    // another nobody does.
+    // On a line, which is selected by then. Also in a list without lines; not beside the lines of one that has some.
     void DblClick();
     // The release of a key whose press came to this list too.
     void KeyUp(int keyCode);
@@ -126,6 +125,8 @@ Q_SIGNALS:
 
 protected:
     bool viewportEvent(QEvent *event) override;
+    // A right click beside the lines leaves the selection: the menu that it opens works on the selected line.
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
