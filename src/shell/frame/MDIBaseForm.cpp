@@ -224,12 +224,12 @@ void MDIBaseForm::mnuAddNewUser_Click()
 
 void MDIBaseForm::mnuNewRecord_Click()
 {
-    desktop::reportOutOfMemoryOnly([] { FrmEventExplorer::NewMemberInformation(); });
+    FrmEventExplorer::NewMemberInformation();
 }
 
 void MDIBaseForm::mnuOpenRecord_Click()
 {
-    desktop::reportOutOfMemoryOnly([] { desktop::showNew<frmOpenRecord>(); });
+    desktop::showNew<frmOpenRecord>();
 }
 
 void MDIBaseForm::mnuWhoAmI_Click()
