@@ -64,10 +64,10 @@ void Label::mouseReleaseEvent(QMouseEvent *event)
 
 void Label::keyPressEvent(QKeyEvent *event)
 {
-    if (m_clickable && (event->key() == Qt::Key_Space || keyCode(*event) == vbKeyReturn))
-        Q_EMIT Click();
-    else
+    if (!m_clickable || (event->key() != Qt::Key_Space && keyCode(*event) != vbKeyReturn))
         QLabel::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        Q_EMIT Click();
 }
 
 void Label::paintEvent(QPaintEvent *event)
@@ -207,7 +207,7 @@ OptionButton::OptionButton(QWidget *parent, QAnyStringView name) : ButtonOf(pare
     connect(this, &QRadioButton::toggled, this, [this, choices](bool on) {
         if (!on)
             return;
-        for (QAbstractButton *choice : choices->buttons()) // Qt itself sees to this only where the focus comes
+        for (QAbstractButton *choice : choices->buttons()) // Qt does so only when the focus enters the group
             choice->setFocusPolicy(choice == this ? Qt::StrongFocus : Qt::ClickFocus);
         Q_EMIT Click();
     });
@@ -227,7 +227,10 @@ void Frame::setBuddy(QWidget *box)
 
 TabbedDialog::TabbedDialog(QWidget *parent, QAnyStringView name) : ControlOf(parent, name)
 {
-    onPageKeys(this, [this](int pages) { turnTo((currentIndex() + pages + count()) % count()); });
+    onPageKeys(this, [this](int pages) {
+        if (count() > 0)
+            turnTo((currentIndex() + pages + count()) % count());
+    });
 }
 
 void TabbedDialog::turnTo(int page)
@@ -383,8 +386,8 @@ void PictureBox::PSet(double x, double y)
         m_points << QPointF(x, y);
 }
 
-// All points by one call: there are tens of thousands. Each stands where a control of its place has its corner, which a
-// fraction of a pixel would leave to the version of Qt.
+// All points by one call: there are tens of thousands. They are rounded to whole pixels as the corners of the controls
+// are; versions of Qt differ in where they draw a point at a fraction of a pixel.
 void PictureBox::paintEvent(QPaintEvent *event)
 {
     QFrame::paintEvent(event);

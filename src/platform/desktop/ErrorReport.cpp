@@ -47,6 +47,8 @@ runtime::RuntimeError currentError()
         return runtime::RuntimeError(runtime::OutOfMemory);
     } catch (const std::exception &error) {
         return {-1, QString::fromLocal8Bit(error.what())};
+    } catch (...) {
+        return {-1, u"Unknown error"_s};
     }
 }
 

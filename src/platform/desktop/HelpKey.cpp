@@ -41,6 +41,8 @@ bool HelpKey::eventFilter(QObject *, QEvent *event)
     const auto *key = static_cast<QKeyEvent *>(event);
     if (key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier)
         return false;
+    if (key->isAutoRepeat())
+        return true;
     const QWidget *modal = QApplication::activeModalWidget(); // it gets all keys, also before it has the focus
     Q_EMIT pressed(windowsAround(modal ? modal : QApplication::focusWidget()));
     return true;

@@ -19,7 +19,7 @@ struct Release
     void operator()(void *reply) const noexcept { std::free(reply); }
 };
 
-// The modifiers that the X server holds down; negative on a display of another kind.
+// The modifier keys that the X server has as held down, locks included; negative on a display of another kind.
 int serverModifiers()
 {
     const auto *x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
@@ -71,9 +71,9 @@ bool KeyboardState::eventFilter(QObject *watched, QEvent *event)
     // A key event visits the window and then its widgets; it counts once, at the window.
     if (event->type() == QEvent::KeyPress && watched->isWindowType()) {
         const auto *key = static_cast<QKeyEvent *>(event);
-        const bool server = serverModifiers() >= 0;
         if (key->isAutoRepeat())
             return false;
+        const bool server = serverModifiers() >= 0;
         if (key->key() == Qt::Key_Insert && key->modifiers() == Qt::NoModifier)
             take(m_capsLock, m_numLock, !m_insert);
         else if (key->key() == Qt::Key_CapsLock && !server)

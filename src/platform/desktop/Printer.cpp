@@ -107,6 +107,7 @@ void printOnPaper(const QString &text)
 {
     const QPrinterInfo printer = QPrinterInfo::defaultPrinter();
     const QTemporaryDir folder; // gone at the end: the server has a copy
+    raisePrinterErrorUnless(folder.isValid());
     const QString pages = folder.filePath(u"pages.pdf"_s);
     printToFile(text, pages, printer.defaultPageSize());
     raisePrinterErrorUnless(submit(printer.printerName(), pages) > 0);

@@ -26,12 +26,12 @@ Panel::Panel(StatusBar *bar, Style style, int number) : QLabel(bar), m_style(sty
     setMinimumWidth(fontMetrics().horizontalAdvance(u"CAPS"_s) + 8);
     if (style == Style::Time || style == Style::Date) {
         auto *timer = new QTimer(this);
-        connect(timer, &QTimer::timeout, this, &Panel::update);
+        connect(timer, &QTimer::timeout, this, &Panel::refresh);
         timer->start(clockInterval);
     } else if (style != Style::Text) {
-        connect(&KeyboardState::instance(), &KeyboardState::changed, this, &Panel::update);
+        connect(&KeyboardState::instance(), &KeyboardState::changed, this, &Panel::refresh);
     }
-    update();
+    refresh();
 }
 
 void Panel::setPanelWidth(double width)
@@ -39,9 +39,8 @@ void Panel::setPanelWidth(double width)
     setFixedWidth(pixels(width));
 }
 
-void Panel::update()
+void Panel::refresh()
 {
-    const KeyboardState &keyboard = KeyboardState::instance();
     const auto show = [this](const QString &text, bool on) {
         setText(text);
         setEnabled(on); // a toggle that is off is drawn in grey
@@ -50,11 +49,11 @@ void Panel::update()
     case Style::Text:
         break;
     case Style::CapsLock:
-        return show(u"CAPS"_s, keyboard.capsLock());
+        return show(u"CAPS"_s, KeyboardState::instance().capsLock());
     case Style::NumLock:
-        return show(u"NUM"_s, keyboard.numLock());
+        return show(u"NUM"_s, KeyboardState::instance().numLock());
     case Style::Insert:
-        return show(u"INS"_s, keyboard.insert());
+        return show(u"INS"_s, KeyboardState::instance().insert());
     case Style::Time:
         return setText(runtime::shortTimeText(runtime::clockNow().time()));
     case Style::Date:
@@ -65,7 +64,7 @@ void Panel::update()
 StatusBar::StatusBar(QWidget *parent, QAnyStringView name) : DockedBar(parent, name)
 {
     setSizeGripEnabled(false);
-    setAutoFillBackground(true); // a window that is made smaller lets it come over its rows
+    setAutoFillBackground(true); // in a small window the bar lies over rows of the list
 }
 
 void StatusBar::addPanel(Panel::Style style)

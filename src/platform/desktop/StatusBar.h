@@ -23,7 +23,7 @@ public:
     void setPanelWidth(double width);
 
 private:
-    void update();
+    void refresh();
 
     Style m_style;
 };
