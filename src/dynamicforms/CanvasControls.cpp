@@ -23,7 +23,6 @@ template <class ControlType> void reportMove(ControlType &control, const QMouseE
 
 CanvasLabel::CanvasLabel(QWidget *parent, QAnyStringView name) : Label(parent, name)
 {
-    setTextFormat(Qt::PlainText);
     setElides();
     setAutoFillBackground(true);
 }

@@ -117,7 +117,7 @@ void DisplayInformation::loadForm()
     for (; !rows.Eof(); rows.MoveNext())
         TabStrip1->add({}, runtime::toText(rows[u"TabNam"].Value()), runtime::toText(rows[u"TabDescription"].Value()));
     if (EditMode != u"New")
-        addTabs({u"Attachments"_s, u"Resources"_s, u"Conferences/Meetings"_s});
+        addTabs({attachmentsList, resourcesList, eventsList});
     rows.Close();
     rows =
         openRows(connection, u"SELECT *, TabInfo.TabNam, TabInfo.TabDescription FROM FieldInfo INNER JOIN TabInfo ON "
@@ -137,10 +137,10 @@ void DisplayInformation::Form_Activate()
     Session::current().ActiveRecordId = QString::number(RecordId);
 }
 
-void DisplayInformation::addTabs(const QStringList &captions)
+void DisplayInformation::addTabs(std::initializer_list<std::reference_wrapper<const RecordList>> lists)
 {
-    for (const QString &caption : captions)
-        TabStrip1->add({}, caption, {});
+    for (const RecordList &list : lists)
+        TabStrip1->add({}, list.caption.toString(), {});
 }
 
 QStringList DisplayInformation::captions() const
@@ -301,14 +301,14 @@ void DisplayInformation::saveEdited()
     m_page.requireWhole();
     savePerson(pages(), RecordId);
     endEditing();
-    addTabs({u"Attachments"_s, u"Resources"_s});
+    addTabs({attachmentsList, resourcesList});
 }
 
 void DisplayInformation::cmdCancel_Click()
 {
     if (EditMode == u"Edit") {
         endEditing();
-        addTabs({u"Attachments"_s, u"Resources"_s, u"Conferences/Meetings"_s});
+        addTabs({attachmentsList, resourcesList, eventsList});
         m_page.setLocked(true);
     }
     cmdCancel->setVisible(false);

@@ -15,6 +15,9 @@
 #include "platform/desktop/PopupMenu.h"
 #include "platform/desktop/TabStrip.h"
 
+#include <functional>
+#include <initializer_list>
+
 class DisplayInformation : public desktop::Form
 {
     Q_OBJECT
@@ -62,7 +65,7 @@ private:
     void setUpMenu();
     void connectHandlers();
     void loadForm();
-    void addTabs(const QStringList &captions);
+    void addTabs(std::initializer_list<std::reference_wrapper<const RecordList>> lists);
     QStringList captions() const;
     void showList(const RecordList &list);
 

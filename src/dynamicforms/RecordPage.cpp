@@ -39,7 +39,6 @@ void RecordPage::showField(const FieldRow &row)
 {
     Label &label = *Label1.Load(Label1.Count());
     TextBox &box = *Text1.Load(Text1.Count());
-    label.setTextFormat(Qt::PlainText);
     label.setElides();
     box.setAccessibleName(row.RowFieldName);
     QWidget::setTabOrder(Text1(Text1.Count() - 2), &box);
