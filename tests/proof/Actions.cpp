@@ -156,7 +156,7 @@ const QList<Action> &actions()
              window.txtEventPurpose->setText(u"Dues"_s);
              window.cmdSave->click();
          }},
-        {"rename and move in the library",
+        {"add and rename in the library",
          [](auto &) {
              OpenLibrary library;
              for (const char *item : {"mnuAddCat", "mnuAddlib"})
