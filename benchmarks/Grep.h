@@ -1,4 +1,4 @@
-// The floor of the search: grep as a program of its own, and the processor time that it takes.
+// The floor of the search: grep as a program of its own.
 #pragma once
 
 #include "benchmarks/Files.h"
@@ -9,22 +9,8 @@
 
 #include <fcntl.h>
 #include <spawn.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <vector>
-
-// Of this process and of those that it has waited for.
-inline double processorSeconds()
-{
-    double seconds = 0;
-    for (const auto who : {RUSAGE_SELF, RUSAGE_CHILDREN}) {
-        rusage usage{};
-        getrusage(who, &usage);
-        for (const timeval &spent : {usage.ru_utime, usage.ru_stime})
-            seconds += double(spent.tv_sec) + double(spent.tv_usec) * 1e-6;
-    }
-    return seconds;
-}
 
 // In how many lines of all the files the phrase stands, whatever its case: LC_ALL=C grep -ci -a.
 inline int grepCount(const QString &phrase, const QStringList &paths)

@@ -31,7 +31,7 @@ inline void appendFloor(const raw::File &file, const QByteArray &content)
     insert.step();
 }
 
-// The file's last row holds the value.
+// The file's one row holds the value.
 inline QByteArray readOurs(data::Connection &connection)
 {
     data::Recordset attachments;

@@ -1,4 +1,5 @@
 // The member explorer at work: the real window, its controls found by their names and their signals raised.
+#include "benchmarks/EndOnErrors.h"
 #include "benchmarks/Files.h"
 #include "benchmarks/RawStore.h"
 #include "benchmarks/Statements.h"
@@ -165,10 +166,7 @@ BENCHMARK(listFloorWithQuery)->Name("list_2000_query/floor")->Unit(benchmark::kM
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
-    desktop::setErrorReport([](const runtime::RuntimeError &error) {
-        std::fprintf(stderr, "%s\n", error.description().toLocal8Bit().constData());
-        std::abort();
-    });
+    endOnErrors();
     files::organisation();
     runtime::App::setPath(files::folder());
     benchmark::Initialize(&argc, argv);

@@ -1,6 +1,8 @@
 // Forms at run time: the designer's canvas, the tables that it makes and the pages of the record window, beside bare Qt
 // and SQLite's own statements.
+#include "benchmarks/EndOnErrors.h"
 #include "benchmarks/Files.h"
+#include "benchmarks/ProcessFigure.h"
 #include "benchmarks/RawStore.h"
 #include "datafile/Schema.h"
 #include "dynamicforms/DatabaseGenerator.h"
@@ -18,7 +20,6 @@
 #include <QPainter>
 
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <memory>
 #include <utility>
 
@@ -201,13 +202,12 @@ QString tableName(int table)
 // Runs make on a new empty file each time and counts only that.
 template <class Make> void measureOnNewFile(benchmark::State &state, Make make)
 {
-    using Clock = std::chrono::steady_clock;
     for ([[maybe_unused]] auto _ : state) {
         const QString path = newEmpty();
         runtime::App::setPath(QFileInfo(path).path());
-        const auto began = Clock::now();
+        const double began = processorSeconds();
         make(path);
-        state.SetIterationTime(std::chrono::duration<double>(Clock::now() - began).count());
+        state.SetIterationTime(processorSeconds() - began);
         const raw::File file(path.toUtf8());
         const raw::Statement count(file, "SELECT count(*) FROM pragma_table_info('Table 50')");
         count.step();
@@ -278,10 +278,7 @@ BENCHMARK(generateFloor)->Name("generate/floor")->UseManualTime()->Unit(benchmar
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
-    desktop::setErrorReport([](const runtime::RuntimeError &error) {
-        std::fprintf(stderr, "%s\n", error.description().toLocal8Bit().constData());
-        std::abort();
-    });
+    endOnErrors();
     runtime::App::setPath(QFileInfo(forms()).path());
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

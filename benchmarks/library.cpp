@@ -1,4 +1,5 @@
 // The document library at work: it opens as a browser, and lists the documents of a node that has many.
+#include "benchmarks/EndOnErrors.h"
 #include "benchmarks/Files.h"
 #include "benchmarks/RawStore.h"
 #include "library/frmDocumentExp.h"
@@ -133,10 +134,7 @@ BENCHMARK(listFloor)->Name("library_click/floor")->Unit(benchmark::kMillisecond)
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
-    desktop::setErrorReport([](const runtime::RuntimeError &error) {
-        std::fprintf(stderr, "%s\n", error.description().toLocal8Bit().constData());
-        std::abort();
-    });
+    endOnErrors();
     runtime::App::setPath(QFileInfo(files::library()).path());
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

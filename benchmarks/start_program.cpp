@@ -1,7 +1,7 @@
 // The program's start, up to its main window with the tree of groups painted. The clock runs so fast that the splash
 // does not wait. The argument is the folder of the data file.
+#include "benchmarks/EndOnErrors.h"
 #include "benchmarks/Painted.h"
-#include "platform/desktop/ErrorReport.h"
 #include "platform/desktop/Style.h"
 #include "platform/runtime/Application.h"
 #include "platform/runtime/Clock.h"
@@ -16,10 +16,7 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     QApplication::setWindowIcon(QIcon(u":/icons/tolmark.svg"_s));
     desktop::Style::install();
-    desktop::setErrorReport([](const runtime::RuntimeError &error) {
-        std::fprintf(stderr, "%s\n", error.description().toLocal8Bit().constData());
-        std::_Exit(EXIT_FAILURE);
-    });
+    endOnErrors();
     runtime::App::setPath(QString::fromLocal8Bit(argc == 2 ? argv[1] : "."));
     runtime::setClock([seconds = 0]() mutable {
         constexpr int stride = 4;

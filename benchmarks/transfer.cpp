@@ -2,6 +2,7 @@
 // writing and grep.
 #include "benchmarks/Files.h"
 #include "benchmarks/Grep.h"
+#include "benchmarks/ProcessFigure.h"
 #include "benchmarks/RawFiles.h"
 #include "benchmarks/RawStore.h"
 #include "benchmarks/StoredLargeFile.h"
