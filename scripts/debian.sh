@@ -1,6 +1,6 @@
 # shellcheck shell=bash
 # A Debian in a folder, and commands in it. Sourced after lib.sh by the scripts that need one, as root; they set `debian`,
-# the folder. What apt says goes into the file beside it that has the same name and the end ".log".
+# the folder. What apt says goes into "$debian.log".
 
 # become_root [ARGUMENT...]: starts the script anew as root, with its arguments.
 become_root() {
