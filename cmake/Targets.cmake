@@ -35,7 +35,7 @@ function(tolmark_test name)
     add_executable(${name} ${test_SOURCES})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE ${test_LINKS} Qt6::Test tolmark_options)
-    # Its own code runs once; to optimise it would take longer.
+    # The code of a test runs once: to optimise it would cost more time than it saves.
     target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-O0>)
     # In no region, which counts as United States English, unless TOLMARK_REGION names one: see scripts/regions.
     add_test(NAME ${name} COMMAND ${PROJECT_SOURCE_DIR}/scripts/in-region $<TARGET_FILE:${name}>)

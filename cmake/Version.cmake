@@ -1,5 +1,5 @@
-# What the version brings with it. It stands in project(); CHANGELOG.md has the day of it and what it brings, so that no
-# version can go out without an entry there.
+# The version stands in project(). CHANGELOG.md must have an entry for it, from which the packages take their date and
+# notes.
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/CHANGELOG.md)
 file(READ ${PROJECT_SOURCE_DIR}/CHANGELOG.md changes)
 string(REPLACE "." "\\." version_pattern ${PROJECT_VERSION})

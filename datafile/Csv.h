@@ -23,8 +23,7 @@ struct CsvCell
 using CsvRow = QList<CsvCell>;
 
 // A text as a cell that a spreadsheet shows as it is, and the text of such a cell. A text begins like a formula with
-// "=",
-// "+", "-", "@", a tab or a carriage return.
+// one of the signs = + - @ or with a tab or a carriage return.
 QString withoutFormula(const QString &text);
 QString withFormula(const QString &cell);
 

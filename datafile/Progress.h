@@ -1,7 +1,7 @@
 // How far a long piece of work has come, and whether the person at the keyboard wants it to stop.
 //
-// On a terminal a line of standard error tells how far it is, from one second after the beginning on: in percent, or in
-// seconds while a single statement runs, of which nobody knows how long it takes. Ctrl-C does not end the process at
+// On a terminal a line of standard error tells how far it is, from one second after the beginning on: in percent once
+// that is known, before it in seconds. Ctrl-C does not end the process at
 // once: the work stops at its next report, by an exception, so that everything unfinished is taken away.
 #pragma once
 

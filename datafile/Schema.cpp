@@ -22,7 +22,7 @@ void fillNewFile(const QString &path, const std::function<void(data::Database &)
 {
     data::Database file;
     file.create(path);
-    // A file that fails is thrown away, so there is nothing to roll back; its one commit reaches the disk.
+    // A file that fails is thrown away, so there is nothing to roll back; its commits reach the disk.
     file.execute("PRAGMA journal_mode = OFF; PRAGMA synchronous = FULL; BEGIN");
     createTables(file);
     file.execute(builtIn(u"seed.sql"_s));

@@ -16,7 +16,7 @@ namespace datafile {
 // The empty organisation.
 void createDataFile(const QString &path);
 
-// The empty organisation, filled further within the same transaction.
+// The empty organisation, filled further. `fill` begins within a transaction and may commit it and begin others.
 void createDataFile(const QString &path, const std::function<void(data::Database &)> &fill);
 
 // Tables and indexes alone, in an open and empty file.

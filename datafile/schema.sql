@@ -111,7 +111,7 @@ CREATE INDEX Attachments_AttachmentExtension ON Attachments (AttachmentExtension
 
 -- Events and notes ---------------------------------------------------------------------------------------------------
 
--- Dates and times are kept as they were typed.
+-- Start and end are texts, kept as they were typed.
 CREATE TABLE EventInformation (
     EventIdentification INTEGER PRIMARY KEY AUTOINCREMENT,
     EventDate DATETIME DEFAULT (strftime('%Y-%m-%d 00:00:00', 'now', 'localtime')),

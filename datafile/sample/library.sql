@@ -32,7 +32,7 @@ INSERT INTO "Personal Information" (PersonalInformationId, Active, "Title", "Fir
     (5, 1, '', 'Shane', '', 'Oakes', '', '', '', '', '', '', '', '', '', ''),
     (6, 0, 'Mrs.', 'Wanda', 'K.', 'Tillman', '1 Ferry Road', '', 'Augusta', 'Maine', '04330', '207-555-0174', '', '', '', 'Left in 2002');
 
--- A page with its fields as the designer saves them, and the table as the designer generates it.
+-- A page with its fields as the designer saves them, and a table like the one that the designer generates.
 INSERT INTO TabInfo (TabId, TabNam, TabDescription) VALUES (2, 'Volunteer Profile', 'What a volunteer likes to do');
 
 INSERT INTO FieldInfo (TabId, FieldDisplayOrder, FieldName, FieldDescription,

@@ -1,5 +1,5 @@
 # Packs the portable folder so that the same files give the same bytes: sorted, owned by nobody in particular, of one
-# time, and in blocks of a fixed size, by which xz's result does not hang on the number of processors.
+# time, and in blocks of a fixed size, so that xz's result does not depend on the number of processors.
 set(archive "${CPACK_TEMPORARY_DIRECTORY}/${CPACK_PACKAGE_FILE_NAME}.tar.xz")
 set(time "$ENV{SOURCE_DATE_EPOCH}")
 if(time STREQUAL "")

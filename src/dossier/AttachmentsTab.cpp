@@ -158,7 +158,7 @@ void AttachmentsTab::lstAttachement_OLEDragDrop(const desktop::DataObject &dropp
                     desktop::vbInformation);
 }
 
-// Enter views the selected attachment, as the first thing that is done with one.
+// Enter views the selected attachment, so that the keyboard needs no menu for it.
 void AttachmentsTab::lstAttachement_KeyUp(int keyCode)
 {
     if (keyCode == desktop::vbKeyReturn && lstAttachement->SelectedItem())

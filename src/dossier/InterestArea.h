@@ -17,7 +17,7 @@ public:
     desktop::CommandButton *CMdInterestCancel;
 
 protected:
-    // The heirs make the buttons.
+    // Derived classes make the buttons.
     InterestArea(QWidget *parent, const QString &caption, std::span<const ListedColumn> columns);
 
     void addBoxes();

@@ -1,7 +1,7 @@
 // The label and the box that a user arranges on a canvas: they report the mouse, the focus and the keys.
 //
-// Each fills its own background. So Qt repaints the canvas where one goes away, but not where one comes: a repaint
-// draws the grid, which sets the counter of the rows.
+// Each fills its own background, so that showing one does not repaint the canvas below it: a repaint draws the grid,
+// and that sets the counter which decides where the next field is stored.
 #pragma once
 
 #include "platform/desktop/Controls.h"

@@ -129,7 +129,8 @@ void DesignSurface::gatherAll(int index)
         gatherByKey(other);
 }
 
-// As it stands after an alignment. Before any box was gathered nothing changes, so that an alignment fails as ever.
+// Leaves what an alignment leaves: nothing gathered. Before any box was gathered an alignment must fail, so that
+// nothing changes then.
 void DesignSurface::releaseGathered()
 {
     SelectedCount = 0;

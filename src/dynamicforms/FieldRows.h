@@ -30,8 +30,8 @@ class FieldRows
 {
 public:
     // One more than the position of the next row; 0 until the load begins. The designer's grid counts its columns with
-    // the same number and leaves it at the last of them. The next field is then stored at that position, and the rows
-    // above it are cut off.
+    // the same number and leaves it one beyond the last of them: 52 for the 51 columns of the usual size. The next
+    // field is then stored at position 51, counted from 0, and the rows behind it are cut off.
     qint16 RowCounter = 0;
 
     int upperBound() const;

@@ -1,8 +1,9 @@
 // Writes the designer's pages and fields in the place of the stored ones.
 //
 // Nothing is updated: the constructor deletes all stored rows of the designer's, and every page gets a new key. After a
-// failure the rows written so far are stored and the deleted ones are gone. A caption with an apostrophe is one, since
-// it breaks the statement that looks for the page's key. The errors of the data objects go to the caller.
+// failure the rows written so far are stored and the deleted ones are gone. One such failure is a caption with an
+// apostrophe, which breaks the statement that looks for the page's key. The errors of the data objects go to the
+// caller.
 #pragma once
 
 #include "platform/data/Connection.h"

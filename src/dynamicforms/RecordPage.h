@@ -34,8 +34,8 @@ public:
     void showFields(const QString &caption);
     // A Null, a missing column, row or table leaves a box as it is.
     void fillFromStore(const QString &caption, qint16 recordId);
-    // Raises the failure of the store or of memory for which boxes were left as they were when they were last filled
-    // from the store. Empty boxes must not be saved over values that could not be read.
+    // When the store or memory failed while the boxes were last filled from the store, raises that failure again. Empty
+    // boxes must not be saved over values that could not be read.
     void requireWhole() const;
     void fillFromRows(const QString &caption);
     // Takes the texts into the rows of the page. The first row of all is left out.

@@ -25,8 +25,9 @@ void readPerson(FieldRows &rows, const QStringList &captions, qint16 recordId);
 
 void savePerson(const RecordPages &pages, qint16 recordId);
 
-// Adds the person and then a row in every page's table under his new key. When [Personal Information] is such a page it
-// gets the same row a second time, which its key leaves out without an error.
+// Adds the person and then a row in every page's table under his new key. When [Personal Information] is such a page, a
+// second row with the same number is added to it: the table that comes with the data file drops that row without an
+// error (ON CONFLICT IGNORE), one that the designer generated keeps it.
 void addPerson(const RecordPages &pages);
 
 // Sets Active to 0. No row is deleted.

@@ -45,7 +45,7 @@ void FrmEventCalendar::Calendar1_Click()
 {
     const QString day = runtime::toText(Calendar1->Value());
     FrmAddEvent &event = *frmEvent();
-    event.Load(); // closed meanwhile, it would overwrite the day with its presets when it is shown again
+    event.Load(); // a window that was closed meanwhile would otherwise load later and put its presets over the day
     (ControlName == u"txtEventStartDate" ? event.txtEventStartDate : event.txtEventEndDate)->setText(day);
     Unload();
 }

@@ -9,7 +9,7 @@
 // wherever they stand in its columns.
 void takeStoredNote(frmMeeting &window, const desktop::ListItem &line, std::span<const ListedColumn> columns);
 
-// How long the note of the row took, in the words of `text`; Null while the start or the end is Null. Error 13 for a
+// How long the note of the row took, as `text` writes it; Null while the start or the end is Null. Error 13 for a
 // start or an end that is no date.
 runtime::Value durationCell(data::Recordset &note, QString (*text)(const runtime::Date &, const runtime::Date &));
 

@@ -14,8 +14,8 @@ using runtime::Value;
 
 namespace {
 
-// The stray bracket of the last tag makes the provider refuse the sort on that column; the click swallows that. Kept as
-// the list has always answered.
+// The stray bracket of the last tag makes the provider refuse the sort on that column; the click swallows that. It
+// stays, because people know the list so.
 constexpr std::array memberColumns{
     ListedColumn{.header = u"Member Id", .tag = u"MemberId", .column = u"MemberId"},
     ListedColumn{.header = u"Member Type", .tag = u"MemberType", .column = u"MemberType"},

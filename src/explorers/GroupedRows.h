@@ -13,7 +13,7 @@
 struct GroupedTable
 {
     QString name;
-    QString groupColumn;                   // a row belongs to the group with which this column begins
+    QString groupColumn;                   // a row belongs to the group with whose name its value here begins
     QString plural;                        // "Members"
     QString information;                   // headline of the list
     QString captionStart;                  // of the window that shows a group

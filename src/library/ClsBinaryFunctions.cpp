@@ -68,10 +68,10 @@ qint64 nextPlace(const ByteSearch &beginnings, QByteArrayView file, qint64 from,
 {
     for (;;) {
         const qint64 found = beginnings.next(file, from, to);
-        qint64 row = found;
-        while (row > from && beginnings.isFirst(file[row - 1]))
-            --row;
-        const bool isConsumed = (found - row) % 2 == 1;
+        qint64 runBegin = found;
+        while (runBegin > from && beginnings.isFirst(file[runBegin - 1]))
+            --runBegin;
+        const bool isConsumed = (found - runBegin) % 2 == 1;
         if (!isConsumed)
             return found;
         if (found == to)
@@ -198,9 +198,9 @@ void ClsBinaryFunctions::ScanAnyCase()
 }
 
 // Compares at each place that the rule tries, byte by byte and without going back: the byte that ends a failed
-// comparison is consumed. No comparison begins where the pattern would reach the file's last byte. What nextPlace
-// passes over are comparisons that end with their first or second byte; the last two places are left to the loop, so
-// that it ends with the byte that was compared last.
+// comparison is consumed. No comparison begins where the pattern would reach the file's last byte. nextPlace
+// passes over comparisons that fail at their first or second byte. It leaves the last two places to the loop, so that
+// ReadPosition and OneChar end as if every byte had been compared here.
 void ClsBinaryFunctions::scan(const runtime::CodePage &characters)
 {
     const QByteArrayView file = runtime::openFile(FileHandle).bytes();

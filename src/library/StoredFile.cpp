@@ -11,7 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Bytes. Below it the status bar would take a noticeable part of the time.
+// In bytes. The progress of a smaller file is not shown: the status bar would take a noticeable part of the time.
 constexpr qint64 largeFile = 8 * 1024 * 1024;
 
 } // namespace

@@ -142,8 +142,8 @@ private:
     QList<runtime::RuntimeError> m_errors;
 };
 
-// The one child of that name; a missing one fails the test with the names that there are. By a cast, for Qt finds only
-// classes with a meta object of their own.
+// The one child of that name; a missing one ends the program with the names that there are. By a cast, for Qt finds
+// only classes with a meta object of their own.
 template <class Widget = QWidget> Widget *child(const QObject &parent, const char *name)
 {
     for (QObject *each : parent.findChildren<QObject *>(QString::fromLatin1(name)))

@@ -2,7 +2,7 @@
 //
 // A catalog's connection opens when its string is set and closes with it; catalogs of one string share it, since each
 // new one would have to read all definitions of the file. Once it is closed, a table or column that was taken from it
-// still has its name, and everything else raises error 3709.
+// still has its name and type. Its columns can no more be read or added (3709), and its properties are gone (3265).
 // Other connections see what a catalog adds as soon as it is added.
 #pragma once
 

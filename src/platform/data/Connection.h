@@ -1,7 +1,7 @@
 // A connection to the data file, named by a connection string.
 //
-// Closing it closes the recordsets that were opened over it, and so does its destructor. It holds no statement and no
-// lock between two calls, so many may be open over one file. Errors of Open: 3706 without a
+// Closing it closes the recordsets that were opened over it, and so does its destructor. It runs no statement and holds
+// no lock between two calls, so many may be open over one file. Errors of Open: 3706 without a
 // provider, 3705 when open already, the provider's own for a file that is missing or of another kind.
 #pragma once
 

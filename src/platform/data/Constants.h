@@ -10,6 +10,5 @@ enum CursorTypeEnum : int { adOpenForwardOnly = 0, adOpenKeyset = 1, adOpenDynam
 enum LockTypeEnum : int { adLockReadOnly = 1, adLockPessimistic = 2, adLockOptimistic = 3, adLockBatchOptimistic = 4 };
 enum ObjectStateEnum : int { adStateClosed = 0, adStateOpen = 1 };
 enum DataTypeEnum : int { adInteger = 3, adDate = 7, adChar = 129, adVarWChar = 202 };
-enum EditModeEnum : int { adEditNone = 0, adEditInProgress = 1, adEditAdd = 2 };
 
 } // namespace data

@@ -35,7 +35,9 @@ Recordset DataFactory::CreateRecordset(const std::vector<FieldDefinition> &colum
     rows->createInMemory();
     try {
         rows->execute("CREATE TABLE Contents (" + declarations.join(u", "_s).toUtf8() + ')');
-    } catch (const StoreError &) { // no columns, or two of one name
+    } catch (const StoreError &error) { // no columns, or two of one name
+        if (error.number() == runtime::OutOfMemory)
+            throw;
         throw provider::objectError(provider::WrongArguments, "RDSServer.DataFactory");
     }
     return Recordset(std::move(rows), u"select * from Contents"_s);

@@ -1,6 +1,7 @@
 // Makes recordsets that belong to no connection: their rows live in memory, as long as the recordset.
 //
-// They begin empty, and rows are added as to any other recordset. Error 3001 without columns and for a repeated name.
+// They begin empty, and rows are added as to any other recordset. Error 3001 without
+// columns, for a repeated name and for any type but adInteger and adChar.
 #pragma once
 
 #include "platform/data/Recordset.h"

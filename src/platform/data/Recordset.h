@@ -1,10 +1,12 @@
 // The rows of a statement, read when they are first asked for and kept; through it rows are added, changed and deleted.
 //
-// It is static: it shows the rows as they were when they were first read, and its own changes. A binary field is read
-// from the file only when its Value, its size or a chunk is asked for, so that opening a table in order to append costs
-// the same whatever the table holds. A recordset that a DataFactory made holds its rows in memory. Errors: 3704 when it
-// or its connection is closed, 3021 without a current record, 3251 on rows of several tables, of groups or with
-// computed columns, 3265 for an unknown field. A failing Update keeps what was pending.
+// It is static: it shows the rows as they were when they were first read, and its own changes. Where the rows can
+// be updated, a binary field is read from the file only when its Value or a chunk is asked for, so that opening a table
+// in order to append costs the same whatever the table holds. A recordset that a DataFactory made holds its rows in
+// memory. Errors: 3704 when it or its connection is closed, 3705 and 3709 when it is opened while it is open or over a
+// closed connection, 3021 without a current record, 3251 for a change of rows that were opened for reading, that come
+// from several tables or groups or have computed columns, 3265 for an unknown field. A failing Update keeps what was
+// pending.
 #pragma once
 
 #include "platform/data/Connection.h"

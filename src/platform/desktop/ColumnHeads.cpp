@@ -45,7 +45,8 @@ void ColumnHeads::keyPressEvent(QKeyEvent *event)
         Q_EMIT sectionClicked(m_chosen);
 }
 
-// Qt elides a text that is longer than the section, and cuts one that is longer than the place it leaves in there.
+// Qt elides a text that is wider than the section, but cuts off one that is only wider than the room for text in it; so
+// it is elided here, by that room.
 void ColumnHeads::initStyleOptionForIndex(QStyleOptionHeader *option, int logicalIndex) const
 {
     QHeaderView::initStyleOptionForIndex(option, logicalIndex);

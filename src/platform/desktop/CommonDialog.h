@@ -16,7 +16,7 @@ public:
 
     QString DialogTitle; // empty: the dialog's own
     QString Filter;      // "description|pattern|description|pattern"
-    QString FileName;    // what was chosen, with its folder; before that, the name to begin with
+    QString FileName;    // what was chosen, with its folder; before ShowSave, the name to begin with
     QString FileTitle;   // what was chosen, without folder
 
     // False when the dialog ends with nothing chosen; the fields are then as before.

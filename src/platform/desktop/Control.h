@@ -1,7 +1,7 @@
 // What every control has beyond its Qt widget: its given name as objectName, a Tag, and a place in twips.
 //
 // The place is kept as the number that was set, so that 4640 stays 4640 though 309 pixels are drawn; for a control that
-// a layout places it is the pixels' worth.
+// a layout places it is reckoned from its pixels.
 #pragma once
 
 #include "platform/desktop/PlainText.h"

@@ -1,6 +1,6 @@
-// Draws what the eye tells controls apart by: their edges, the ring around the one that has the focus, the mark on the
-// selected tab, arrows. Edges are filled rectangles, since a pen loses a side where a pixel of the window is not a
-// whole number of the screen's.
+// Draws the edges of controls, the ring around the one that has the focus, the mark on the selected tab, and arrows.
+// Edges are filled rectangles, since a pen loses a side where a pixel of the window is not a whole number of the
+// screen's.
 #pragma once
 
 #include <QRect>

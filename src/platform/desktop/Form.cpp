@@ -83,8 +83,9 @@ void Form::becomeActive()
         guarded([this] { Form_Activate(); });
 }
 
-// A child in the frame hears of every activation of the frame, whichever child is the active one. A window is laid out
-// anew whenever one of its captions changes and whenever something in it comes or goes.
+// The letters are dealt again when a caption changes and when a control comes or goes: then Qt asks for a new layout. A
+// child in the frame is told of each activation of the frame, also when another child is the active one; so only a
+// window that stands alone takes that for its own.
 bool Form::event(QEvent *event)
 {
     const bool isHandled = QWidget::event(event);

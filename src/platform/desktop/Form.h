@@ -3,7 +3,8 @@
 // Its load handler runs once, at the first touch that loads it: Show, or setting its caption. Public fields set before
 // are in place by then. Setting one of its controls loads nothing: who does that from outside calls Load first, so that
 // the load handler does not wipe it out later. A failure of the load handler goes to whoever touched the window.
-// Closing a window deletes it, unless it is shared; a shared one loads again at its next touch.
+// Closing a child of the frame deletes it, unless it is shared: a shared one loads again at its next touch. A window
+// that stands alone belongs to whoever made it.
 #pragma once
 
 #include "platform/desktop/Control.h"
@@ -90,7 +91,7 @@ template <class Window, class Prepare> Window *showNew(Prepare &&prepare)
     auto window = std::make_unique<Window>();
     prepare(*window);
     window->Show();
-    return window.release(); // from here on closing deletes it
+    return window.release(); // a child of the frame: closing deletes it
 }
 
 template <class Window> Window *showNew()

@@ -114,7 +114,7 @@ void FrameKeys::goOnFrom(const QWidget *focus, int step)
         next.entry->setFocus(Qt::ShortcutFocusReason);
 }
 
-// Beside the Alt key this is the only way into a menu bar.
+// A menu bar takes no focus by setFocus(): beside the Alt key this is the only way into it.
 void FrameKeys::openFirstMenu()
 {
     QMenuBar *bar = m_frame.menuBar();

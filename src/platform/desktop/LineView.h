@@ -1,8 +1,8 @@
 // What every list and tree does by the keyboard: a key that leads to a line highlights it, and Ctrl with C copies what
 // is highlighted.
 //
-// Qt keeps a current line beside the highlighted ones. Where nothing is highlighted nobody sees it, and yet Qt begins
-// at the line behind it, or does nothing where the key leads to that very line.
+// Qt keeps a current line beside the highlighted ones, unseen when nothing is highlighted. A key would start from it:
+// Down would go to the line after it, and a key that leads to that line itself would do nothing.
 #pragma once
 
 #include "platform/desktop/Control.h"
@@ -13,7 +13,7 @@
 
 namespace desktop {
 
-// Where the view reaches beyond what its frame has room for.
+// Scrolls the main window to the line where the list reaches beyond its edge.
 void bringLineIntoView(const QAbstractItemView &view, const QModelIndex &line);
 
 template <class View> class LineView : public ControlOf<View>

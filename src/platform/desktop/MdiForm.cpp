@@ -40,8 +40,8 @@ QMargins borders(const QWidget &child)
     return {frame, title, frame, frame};
 }
 
-// A child's border and title bar. Qt's own remembers for good that the focus once came to it as by the Tab key, which
-// it does too where a page that has the focus is hidden, and hands it one stop further at each activation from then on.
+// A child's border and title bar. QMdiSubWindow stores why the focus came to it last. Once that is the Tab key, which
+// is also the reason when a page that has the focus is hidden, each later activation moves the focus one stop further.
 class ChildWindow : public QMdiSubWindow
 {
 protected:
@@ -53,7 +53,7 @@ protected:
     }
 };
 
-// How far the stretch has to move to lie within the other, its beginning first.
+// How far to scroll so that `from` to `to` lies within `seenFrom` to `seenTo`, or at least begins there.
 int wayInto(int from, int to, int seenFrom, int seenTo)
 {
     if (from < seenFrom)
@@ -63,7 +63,7 @@ int wayInto(int from, int to, int seenFrom, int seenTo)
 
 } // namespace
 
-// Draws the picture in the middle of what the child windows leave free.
+// Draws the picture in the middle of the area, behind the child windows.
 class MdiForm::Area : public QMdiArea
 {
 public:

@@ -73,9 +73,9 @@ protected:
 
 private:
     void listWindows(QMenu *menu, QActionGroup *listed);
-    // Called once everything else has happened that moves the focus: a new child gets it before it has its place.
+    // Runs from the event loop, once the focus has moved: a new child gets it before it has its place in the area.
     void showFocus();
-    // What hangs over an edge of the area comes in.
+    // Moves the child so that it lies within the area, as far as it fits.
     void bringIn(QMdiSubWindow &host);
 
     class Area;

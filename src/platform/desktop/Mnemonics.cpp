@@ -85,7 +85,7 @@ QString unmarked(QString text)
 
 enum class Among { FirstLetter, FirstLettersOfWords, AllLetters };
 
-// Those that the caption could have. Letters of other scripts are the keyboard's own.
+// The letters that the caption can have. Those of any script count: who reads the caption has a keyboard for it.
 QList<QChar> lettersFor(const QString &caption, Among among)
 {
     QList<QChar> letters;
@@ -143,7 +143,8 @@ private:
         m_before[bearer.caption] = {letter, bearer.kind != Kind::Label};
     }
 
-    // It did without and goes on to: what it took now might be wanted back while it shows.
+    // A label that has had no letter so far goes on without: one given to it now might have to be taken away again,
+    // while it shows, for a button or tab that comes back.
     bool isLabelFromBefore(const Bearer &bearer) const
     {
         return bearer.kind == Kind::Label && m_before.contains(bearer.caption);
@@ -182,7 +183,7 @@ private:
         return false;
     }
 
-    // A button keeps a letter that people guess.
+    // A button does not give up the first letter of one of its words: people try that one first.
     static bool givesWay(const Bearer &owner, QChar letter, const Bearer &asking)
     {
         if (!owner.isAsking)
@@ -208,7 +209,7 @@ private:
     }
 
     DealtLetters &m_before;
-    // Null: reserved. Qt's own containers end the process when memory is refused.
+    // Null: reserved for a menu. A std::map raises std::bad_alloc when memory is refused; Qt's hash ends the process.
     std::map<QChar, Bearer *> m_owners;
 };
 
@@ -277,7 +278,7 @@ std::vector<Bearer> bearersIn(const QWidget &window)
     return bearers;
 }
 
-// Of a menu or a bar of menus.
+// For the items of one menu, or the menus of one bar.
 void dealAmong(const QWidget &items)
 {
     runtime::everyStep([&items] {

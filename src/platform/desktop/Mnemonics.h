@@ -6,8 +6,8 @@
 // window is open: what has one in view keeps it, a caption that comes back gets its own again, and the letters of
 // buttons and tabs that are away are left to them while others do. Only a label may have to take another one, for a
 // button or tab that would go without. A button's letter is its shortcut and never stands in its text; labels, tabs and
-// menu items bear the mark in their texts, as Qt expects it. Without memory to deal with, everything keeps what it has:
-// Qt calls these where no exception may pass.
+// menu items bear the mark in their texts, as Qt expects it. When memory runs out, everything keeps the letter that it
+// has: these functions throw nothing, since Qt calls them where no exception may pass.
 #pragma once
 
 #include <QChar>

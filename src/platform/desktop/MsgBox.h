@@ -10,7 +10,7 @@ enum MsgBoxStyle : int { vbOKOnly = 0, vbYesNoCancel = 3, vbYesNo = 4, vbCritica
 enum MsgBoxResult : int { vbOK = 1, vbCancel = 2, vbYes = 6, vbNo = 7 };
 
 // Shows the text as it is and waits for the answer. Without a title of its own the box bears the application's. Esc
-// and the box's frame answer Cancel or OK; a box with Yes and No alone is answered by one of the two.
+// and the close button answer Cancel or OK; a box with Yes and No alone is answered by one of the two.
 MsgBoxResult MsgBox(const QString &prompt, int style = vbOKOnly, const QString &title = {});
 
 } // namespace desktop

@@ -1,4 +1,4 @@
-// The toolkit's own style, put right where it fails the eye.
+// The toolkit's own style, with texts, edges and pictures that can be seen in every palette.
 //
 // In every palette, the desktop's dark one too, texts, edges and selected pictures stand out from their ground; the
 // control that has the focus says so; and the title bar of a child window that is not the active one can be read.

@@ -22,7 +22,7 @@ TabStrip::TabStrip(QWidget *parent, QAnyStringView name) : ControlOf(parent, nam
     onPageKeys(parent ? parent : this, [this](int pages) { turn(pages); });
 }
 
-// A box that is unloaded with its page would take the focus along.
+// Moves the focus to the tabs: it would be lost together with a box that is unloaded with its page.
 void TabStrip::leavePage()
 {
     setFocus(Qt::ShortcutFocusReason);

@@ -11,7 +11,7 @@ namespace desktop {
 Toolbar::Toolbar(QWidget *parent, QAnyStringView name) : DockedBar(parent, name)
 {
     setMovable(false);
-    layout()->setContentsMargins(4, 2, 4, 2); // a bar of a given height has no more to spare beside its buttons
+    layout()->setContentsMargins(4, 2, 4, 2); // narrow, so that the buttons fit into a bar of a given height
     setContextMenuPolicy(Qt::PreventContextMenu);
     connect(this, &QToolBar::actionTriggered, this, &Toolbar::ButtonClick);
 }

@@ -98,7 +98,8 @@ Node &Nodes::Add(Node *parent, const QString &key, const QString &text)
 void Nodes::Remove(int index)
 {
     Node *removed = &(*this)(index);
-    if (standsUnder(m_tree->SelectedItem().get(), removed)) // Qt then selects a neighbour of it
+    if (standsUnder(m_tree->SelectedItem().get(),
+                    removed)) // made current first, so that Qt selects its neighbour when it goes
         m_tree->setCurrentItem(removed);
     std::erase_if(m_nodes, [this, removed](const Node *node) {
         const bool goes = standsUnder(node, removed);

@@ -45,7 +45,7 @@ private:
 qint16 FreeFile();
 // For reading and writing a missing file is made, and one that stands there keeps what it holds. Error 52 for a number
 // outside 1 to 511, 55 for one that is taken, 53 for reading a missing file, 76 in a missing folder, 75 where the
-// system refuses and for what is no plain file.
+// system refuses and for what is no plain file, 67 when the process may open no more.
 void OpenBinary(const QString &path, qint16 handle, BinaryAccess access);
 BinaryFile &openFile(qint16 handle);
 void CloseFile(qint16 handle);

@@ -101,7 +101,7 @@ int monthOfName(const QString &name)
     for (int month = 1; month <= 12; ++month) {
         for (const QLocale &names : {locale, english}) {
             for (const auto form : {QLocale::LongFormat, QLocale::ShortFormat}) {
-                // The point of a short form has parted it from the year already.
+                // A short name may end in a point ("janv."), which in the typed text was taken for a separator.
                 if (name == comparable(names.monthName(month, form).remove(u'.')))
                     return month;
             }

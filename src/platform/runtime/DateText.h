@@ -3,8 +3,8 @@
 // What the region's own forms wrote (Regional.h) is read first and to the same value, also without its marks for the
 // direction of writing and with plain blanks. Beside them people type: a day by numbers in the regional order (the
 // other order is tried when that is impossible), as "yyyy-mm-dd", or with the name of a month, its pieces parted by
-// "/", "-", "." or blanks; two digits of a year mean 2000 to 2029 and 1930 to 1999, and a missing year is this one; a
-// time as "h:nn", "h:nn:ss" or "5 PM". Day and time come in either order.
+// "/", "-", ".", "," or blanks; two digits of a year mean 2000 to 2029 and 1930 to 1999, and a missing year is this
+// one; a time as "h:nn", "h:nn:ss" or "5 PM". Day and time come in either order.
 //
 // Where a region parts times by a point, "10.05" and "10.05.33" are times, though a day could be typed so.
 #pragma once

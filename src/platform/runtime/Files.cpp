@@ -59,7 +59,7 @@ QString Dir(const QString &pattern)
     const QString folder = pattern.first(end + 1);
     QString filter = pattern.sliced(end + 1);
     if (filter == u"*.*")
-        filter = u"*"_s; // the classic pattern for every name, with a dot or without
+        filter = u"*"_s; // "*.*" means every name, also one without a dot
     running() = Enumeration{folder, namesIn(folder, filter)};
     return nextName();
 }

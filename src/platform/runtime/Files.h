@@ -18,8 +18,8 @@ bool folderExists(const QString &path);
 // Makes one folder. Error 75: something of that name stands there or it may not be made; 76: there is no folder to make
 // it in.
 void MkDir(const QString &path);
-// Deletes one file; of a link to one the link alone. Error 53: there is none; 70: another program holds it; 75: it may
-// not be deleted.
+// Deletes one file; where the path is a link, the link alone. Error 53: there is none; 70: another program holds it;
+// 75: it may not be deleted.
 void Kill(const QString &path);
 
 // The name itself. Error 75 for one that could lead out of a folder or that no file can bear: empty, "." or "..", with

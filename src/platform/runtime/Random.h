@@ -1,5 +1,5 @@
 // The run-time's random generator: 24 bits of state, the same sequence in every process until it is reseeded. Good
-// enough to pick a tip, and no stronger than that.
+// enough to pick a tip. It also makes the first passwords of new users, which they are to change.
 //
 // A test fixes the sequence by Rnd(-1); Randomize without a number takes the clock of Clock.h.
 #pragma once

@@ -12,8 +12,8 @@ namespace runtime {
 QLocale regional();
 
 // The forms themselves, as QLocale words them: the day by numbers with four digits of the year, the time with seconds
-// and without. Where the region's short time has none, they stand behind its minutes, parted as these are; a region
-// that parts them by words has its long time instead, without the zone.
+// and without. The time with seconds is the region's short time with the seconds behind the minutes, set off by the
+// same sign; where words part hours and minutes it is the region's long time without the zone.
 QString shortDateForm();
 QString longTimeForm();
 QString shortTimeForm();

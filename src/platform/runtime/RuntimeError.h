@@ -1,7 +1,9 @@
-// The one exception of the house: a failure of the run-time, of the data store or of a control, known by its number.
+// The one class of exceptions that handlers meet: a failure of the run-time, of the data store or of a control, known
+// by its number.
 //
-// Numbers of the run-time are small (6, 13, 94 ...), those of the data objects lie above 3000, those of the store's
-// provider are large negative numbers. The description is the text that the user sees in the report.
+// Numbers of the run-time are small (6, 13, 94 ...), those of the data objects lie from 3001 to 3709, those of
+// lists and trees from 35600 on, those of the store's provider are large negative numbers. The description is the text
+// that the user sees in the report.
 #pragma once
 
 #include <QByteArray>

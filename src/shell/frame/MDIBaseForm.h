@@ -22,8 +22,8 @@ public:
     // The one window of this kind, made at its first use.
     static MDIBaseForm &frame();
 
-    // The session's user. The setters take any value and keep it as text; a Null raises error 94, but for the middle
-    // name, for which it is usual.
+    // The session's user. The setters take any value and keep it as text. A Null raises error 94, except in the middle
+    // name, where it is usual and becomes one blank.
     const QString &UFirstName() const { return m_session.UFirstName; }
     const QString &UMiddleName() const { return m_session.UMiddleName; }
     const QString &ULastName() const { return m_session.ULastName; }

@@ -1,4 +1,4 @@
-// What belongs to the running program and not to one window: who is logged in, and the two marks of the main window's
+// What belongs to the running program and not to one window: who is logged in, and the two flags of the main window's
 // resizing. The main window offers the user's properties under its own name; the windows below it use this object.
 #pragma once
 

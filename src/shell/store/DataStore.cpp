@@ -21,7 +21,7 @@ QString connectionValueOf(QString path)
 
 QString dataStoreConnectionString()
 {
-    const QString file = runtime::App::Path() + QDir::separator() + u"Tolmark.mdb"_s;
+    const QString file = runtime::App::Path() + u"/Tolmark.mdb"_s;
     return u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s + connectionValueOf(file) + u';';
 }
 

@@ -159,7 +159,7 @@ void frmNewUser::CmdPassword_Click()
     showGenerated(password);
 }
 
-// A label without a text is nothing to be read aloud.
+// An empty label is hidden, so that a screen reader does not stop at it.
 void frmNewUser::showGenerated(const QString &password)
 {
     lblGeneratedPassword->setText(password);

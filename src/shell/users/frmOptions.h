@@ -32,7 +32,7 @@ public:
     desktop::CommandButton *cmdApply;
 
     void tbsOptions_Click();
-    // Of every key that a control of the window gets.
+    // Ctrl+Tab selects the next tab, and after the last one the first; any other key does nothing.
     void Form_KeyDown(int keyCode, int shift);
     void cmdOK_Click();
     void cmdCancel_Click();

@@ -1,5 +1,5 @@
 // Opens, works in and closes windows, every kind in turn: memory and handles stay as they are after the first rounds.
-// Then a day of the clock in the status bar, second by second, and the night in which summer time begins.
+// Then a day of the clock in the status bar, second by second, and both changes of summer time.
 //
 //   endurance WINDOWS
 #include "Child.h"

@@ -47,7 +47,8 @@ int compareAscii(QByteArrayView a, QByteArrayView b)
     return sign(a.size() - b.size());
 }
 
-// In containers of the standard library, which raise std::bad_alloc where Qt's would go on with a null pointer.
+// In containers of the standard library, which raise std::bad_alloc when memory is refused. Some of Qt's go on with a
+// null pointer then, others end the process.
 std::u32string foldedCharacters(QByteArrayView text)
 {
     QStringDecoder fromUtf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
@@ -170,8 +171,8 @@ bool matchesLike(QByteArrayView pattern, QByteArrayView text)
     const std::u32string characters = foldedCharacters(text);
     size_t part = 0;
     size_t at = 0;
-    std::optional<size_t>
-        runPart; // the last run so far; it takes one character more when what follows it does not match
+    // The last run so far; it takes one character more when what follows it does not match.
+    std::optional<size_t> runPart;
     size_t runAt = 0;
     while (at < characters.size()) {
         if (part < parts.size() && parts[part].kind == PatternElement::Kind::Run) {

@@ -27,7 +27,7 @@ enum class ColumnType : int {
 ColumnType columnTypeOfDeclaration(QByteArrayView declaration);
 
 // The file keeps an amount as a number, with which every tool can reckon. One of more digits than a number has room for
-// (it needs more than some 900 thousand million and a fraction) is kept as a text, which this word behind the digits
+// (it needs more than some 550 thousand million and a fraction) is kept as a text, which this word behind the digits
 // prevents from becoming a number.
 inline constexpr QByteArrayView exactAmountMark = " exact";
 // An amount from what an amount's column holds as text, with the word or without it; empty when it is none.

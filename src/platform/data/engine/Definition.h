@@ -30,8 +30,8 @@ struct TableDefinition
     QString type = QStringLiteral("TABLE");
     bool isStored = false;
     std::weak_ptr<Database> catalog;
-    std::vector<std::shared_ptr<ColumnDefinition>>
-        columns; // of a table that is not stored; those of a stored one are read from the file
+    // Of a table that is not stored; those of a stored one are read from the file.
+    std::vector<std::shared_ptr<ColumnDefinition>> columns;
 };
 
 bool isSameName(const QString &a, const QString &b);

@@ -1,8 +1,8 @@
 // A translated SELECT over an open file: what columns it has, how its rows are read, counted, changed and found again.
 //
-// The constructor prepares the statement, which checks its text; it runs when rows are asked for. The value of a binary
-// column is not read with the rows, nor is its length: readBinary() and binarySize() read them. So rows whose other
-// columns an index holds are read from the index alone.
+// The constructor prepares the statement, which checks its text; it runs when rows are asked for. Where the
+// rows can be updated, the value of a binary column is not read with them, nor is its length: readBinary() and
+// binarySize() read them. So rows whose other columns an index holds are read from the index alone.
 #pragma once
 
 #include "platform/data/engine/ColumnType.h"
@@ -66,8 +66,8 @@ public:
     struct Added
     {
         qint64 rowId;
-        bool
-            isNew; // false where a trigger of the table ignored the insertion; `rowId` is then the row that has its key
+        // False where a trigger of the table ignored the insertion; `rowId` is then the row that has its key.
+        bool isNew;
     };
     Added insertRow(const Changes &changes);
     // Both raise error 3021 when the row is gone. An update of the key column gives the row another identity, which is

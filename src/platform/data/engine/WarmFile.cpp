@@ -63,7 +63,7 @@ std::unique_ptr<Database> WarmFile::takeUp(const Look &now)
             last.file->refreshSchema();
             return std::move(last.file);
         } catch (const StoreError &error) {
-            if (error.isInUse()) // it has been waited for
+            if (error.isInUse()) // opening the file anew would wait for its lock a second time
                 throw;
         }
     }
@@ -74,7 +74,8 @@ void WarmFile::giveBack(std::unique_ptr<Database> file, const Look &opened) noex
 {
     if (file->path() != m_path || m_waiting.size() >= mostWaiting || !file->rest())
         return;
-    // The times are read after the connection's own last change. What it may do was settled when it was opened.
+    // The times are read now, after the connection's own last change. What this user may do is that of the opening:
+    // when it has changed since, the handle must not be taken up.
     std::optional<Look> now = look();
     if (!now || !now->isSameFile(opened))
         return;

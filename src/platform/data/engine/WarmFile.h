@@ -5,8 +5,8 @@
 // handle is taken up only for a file that has not been touched since, by its device, inode, size and times and by what
 // this user may do with it; else the file is opened as if nothing had waited, with the errors that this gives. Then
 // SQLite itself looks whether another program has changed rows or definitions. A handle on which any call has failed
-// does not wait. So many wait as were open at once, four at most, each with the memory that Handle::rest() allows;
-// opening another file closes them, and the end of the process does.
+// does not wait. As many handles wait as were open at the same time, but no more than four, each with the memory that
+// Handle::rest() allows; opening another file closes them, and the end of the process does.
 #pragma once
 
 #include "platform/data/engine/Database.h"
@@ -20,7 +20,7 @@
 
 namespace data {
 
-class WarmFile : public std::enable_shared_from_this<WarmFile>
+class WarmFile
 {
 public:
     // A file opened as by Database::open(), with its errors. The last reference to it gives it back.
