@@ -161,7 +161,7 @@ QByteArray longValue(const JetFile &file, QByteArrayView bytes)
     return value;
 }
 
-// Those of the catalog are forms, reports and the like, which nobody asks for.
+// The long values of the catalog describe forms and reports, which are not imported.
 enum class LongValues { Read, PassOver };
 
 class JetTable

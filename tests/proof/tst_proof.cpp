@@ -1,8 +1,9 @@
 // Every action under every failure of a file or of memory, under losses of power and kills.
 //
 // In the environment: PROOF_POINTS is how many failures of each kind are tried with an action, evenly spread over its
-// calls (without it a single one of any kind); PROOF_PARTS how many random remains at each point of a loss of power;
-// PROOF_KILLS how many kills; PROOF_SEED what chance begins with. scripts/proof sets them.
+// calls (without it a single one of any kind); PROOF_PARTS how many random parts of what was not synced are left at
+// each point of a loss of power; PROOF_KILLS how many kills; PROOF_SEED what chance begins with. scripts/proof sets
+// them.
 #include "proof/Trial.h"
 
 #include <QApplication>

@@ -68,7 +68,7 @@ private:
 //
 // "AutoIncrement" is for one adInteger column of a new table: the file numbers the rows from 1 and gives out no number
 // twice. The column is no key: it takes a number set by hand, a repeated one too.
-// "Default" is an expression: Date(), Time() or Now() (brackets, a "=" before and, for the first two, a "$" as you
+// "Default" is an expression: Date(), Time() or Now() (parentheses, a "=" before and, for the first two, a "$" as you
 // like), which take the moment of each insert and need an adDate column, or a number or a text in quotes that the
 // column can hold. Anything else is refused when the column is stored.
 class Properties

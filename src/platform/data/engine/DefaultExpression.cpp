@@ -74,14 +74,14 @@ QByteArray storedLiteral(const Database &file, ColumnType type, const runtime::V
     return quote.text(0).toByteArray();
 }
 
-// The function is called without arguments; its brackets may be missing.
+// The function is called without arguments; its parentheses may be missing.
 QByteArray momentSql(const QString &expression, const Tokens &tokens, ColumnType type, const QString &place)
 {
     const bool hasMark = tokens.size() > 1 && tokens[1].text == u"$";
     const QString function = tokens[0].text.toString() + (hasMark ? u"$"_s : QString());
-    const Tokens brackets(tokens.begin() + (hasMark ? 2 : 1), tokens.end());
-    const bool isOpen = !brackets.empty() && brackets[0].is(TokenKind::LeftParenthesis);
-    const bool isWhole = brackets.empty() || (isOpen && brackets.size() == 2 && brackets[1].text == u")");
+    const Tokens parentheses(tokens.begin() + (hasMark ? 2 : 1), tokens.end());
+    const bool isOpen = !parentheses.empty() && parentheses[0].is(TokenKind::LeftParenthesis);
+    const bool isWhole = parentheses.empty() || (isOpen && parentheses.size() == 2 && parentheses[1].text == u")");
     const auto *const known = std::find_if(moments.begin(), moments.end(), [&](const Moment &moment) {
         return function.compare(moment.function, Qt::CaseInsensitive) == 0;
     });

@@ -43,10 +43,10 @@ private:
 
     ExpressionParser m_in;
     Tree &m_tree;
-    int m_brackets = 0; // of the FROM clause
+    int m_parentheses = 0; // of the FROM clause
 };
 
-constexpr int mostBrackets = 50;
+constexpr int mostParentheses = 50;
 
 // The dialect's one text for whatever is wrong with the list of a SELECT.
 runtime::RuntimeError faultInList()
@@ -129,7 +129,7 @@ void StatementParser::fromClause()
         throw faultIn(Clause::From);
 }
 
-// The dialect joins two sources; a join of three has brackets round the first two or the last two.
+// The dialect joins two sources; a join of three has parentheses round the first two or the last two.
 Node StatementParser::join(bool enclosed)
 {
     const Node left = joined();
@@ -160,7 +160,7 @@ JoinKind StatementParser::joinKind()
     return kind;
 }
 
-// A third table that is joined without brackets is read as part of this condition and is refused here: the dialect
+// A third table that is joined without parentheses is read as part of this condition and is refused here: the dialect
 // calls it a missing operator.
 void StatementParser::endJoinCondition(bool enclosed)
 {
@@ -172,11 +172,11 @@ void StatementParser::endJoinCondition(bool enclosed)
     m_in.failBehindExpression();
 }
 
-// One side of a join: a table with its alias, or a join in brackets.
+// One side of a join: a table with its alias, or a join in parentheses.
 Node StatementParser::joined()
 {
     if (m_in.accept(TokenKind::LeftParenthesis)) {
-        if (++m_brackets > mostBrackets)
+        if (++m_parentheses > mostParentheses)
             throw syntaxError(u"Query is too complex."_s);
         const Node node = join(true);
         if (!m_in.accept(TokenKind::RightParenthesis))
