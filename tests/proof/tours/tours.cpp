@@ -31,8 +31,9 @@ constexpr int longestTour = 400; // acts
 
 // The failures to which random acts may lead: a value outside of its type (6), of another type (13), no line chosen
 // (91), a Null (94), no file chosen for an upload (424), an action that the row's state forbids (3021, 3219), a node
-// loaded over its old one (35602), a text longer than its column (...887), an apostrophe in a statement (...900).
-constexpr std::array explained{6, 13, 91, 94, 424, 3021, 3219, 35602, -2147217887, -2147217900};
+// loaded over its old one (35602), an amount too large (...833), a text longer than its column (...887), an apostrophe
+// in a statement (...900).
+constexpr std::array explained{6, 13, 91, 94, 424, 3021, 3219, 35602, -2147217833, -2147217887, -2147217900};
 
 class Tour
 {
