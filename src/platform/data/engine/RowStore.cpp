@@ -18,22 +18,6 @@ Value wholeNumber(qint64 number, ColumnType type)
     return Value(double(number));
 }
 
-// Most texts are short and plain ASCII, for which this loop is faster than QString::fromUtf8.
-QString fromUtf8(QByteArrayView text)
-{
-    QString units(text.size(), Qt::Uninitialized);
-    QChar *out = units.data();
-    uchar seen = 0;
-    for (qsizetype at = 0; at < text.size(); ++at) {
-        const auto byte = uchar(text[at]);
-        seen |= byte;
-        out[at] = QLatin1Char(char(byte));
-    }
-    if (seen >= 0x80)
-        return QString::fromUtf8(text);
-    return units;
-}
-
 } // namespace
 
 const RowStore::Cell *RowStore::takeRow(const Statement &statement)
@@ -105,7 +89,7 @@ Value RowStore::textValue(QByteArrayView text, ColumnType type) const
             return Value(*amount);
     }
     // What another tool wrote into a column of another kind comes back as the text that it is.
-    return Value(fromUtf8(text));
+    return Value(QString::fromUtf8(text));
 }
 
 Value RowStore::value(qsizetype row, int column, ColumnType type) const
