@@ -69,7 +69,7 @@ void AssignedEventsTab::setUpEntry()
     cmdEventCancel = m_area.addEndingButton(u"cmdEventCancel", u"Cancel"_s);
     butCloseEvent = m_area.addCloseButton(u"butCloseEvent", u"Close"_s);
     m_area.beginBrowsing();
-    lblEventActualTimeFinished->show(); // kept so: it hides with the others from the end of the first entry on
+    lblEventActualTimeFinished->show(); // users know it so; the end of the first entry hides it too
 }
 
 void AssignedEventsTab::setUpMenu()

@@ -18,7 +18,7 @@ class DisplayMembers : public desktop::Form, public Dossier
 public:
     DisplayMembers();
 
-    // The same field as MemberId. Error 6 or 13 for what is no 16-bit number.
+    // The same field as MemberId. Error 6, 13 or 94 for what is no 16-bit number.
     runtime::Value MemberIdentification() const { return runtime::Value(MemberId); }
     void setMemberIdentification(const runtime::Value &id);
 

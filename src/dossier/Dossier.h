@@ -1,5 +1,5 @@
 // What the tabs of one dossier share: the key of the member, and the command sequence that runs the statements of their
-// actions. Each action opens the sequence, uses it and closes it.
+// actions. An action that uses the sequence opens it and closes it again.
 #pragma once
 
 #include "shell/store/CommandSequence.h"

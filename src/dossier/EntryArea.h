@@ -31,7 +31,7 @@ public:
         return {label, box};
     }
     void addWidget(QWidget &widget);
-    // Covered by the box of the last row and never enabled.
+    // Adds a control that the box of the last row covers; it is never enabled.
     void addUnderLastBox(QWidget &widget);
     // Adds a row with a button that begins an entry; enabled while browsing.
     desktop::CommandButton *addBeginningButton(QAnyStringView name, const QString &caption);
@@ -43,7 +43,7 @@ public:
     // Makes another control enabled while entering and disabled while browsing.
     void useWhileEntering(QWidget &widget) { m_entering << &widget; }
 
-    // The state at start. Unlike browse() it leaves the focus alone.
+    // Sets the state at start, which is that of browsing. Unlike browse() it leaves the focus alone.
     void beginBrowsing();
     // Puts the focus into the first box.
     void enter();

@@ -19,7 +19,7 @@ public:
     void addButtons(std::initializer_list<desktop::CommandButton *> buttons) { m_grid.addButtons(buttons); }
     void setFocusToFirst();
 
-    // Gives each box the text of its column, in the order of the table. A Null leaves its box as it was.
+    // Gives each box the text of its column, in the order of `fields`. A Null leaves its box as it was.
     void show(data::Recordset &row) const;
     // What stands in the box of that column. Error 35600 for a column that has no box here.
     QString text(QStringView column) const;

@@ -1,5 +1,5 @@
-// What is kept of a member and of his employer, each field said once: the dossier shows and changes it, the entry of a
-// new member asks for it. The rows stand in the order of the boxes.
+// The fields of a member and of an employer, described once for the dossier and for the entry of a new member, in the
+// order of their boxes.
 #pragma once
 
 #include <QStringView>
@@ -12,7 +12,7 @@ struct MemberField
     QStringView label;
     QStringView boxInDossier = {}; // the name of its box; empty: the dossier has none
     QStringView boxInEntry = {};   // the same in the entry of a new member
-    QStringView labelInEntry = {}; // where it is another
+    QStringView labelInEntry = {}; // the label there, where it differs
     bool isState = false;          // the list of states in the place of a text box
 };
 

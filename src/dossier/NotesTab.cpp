@@ -39,7 +39,7 @@ constexpr std::array noteColumns{
 QString durationText(const runtime::Date &start, const runtime::Date &end)
 {
     const qint32 seconds = runtime::DateDiff(u"s", start, end);
-    return hoursAndMinutes(start, end) + u':' + runtime::Format(Value(seconds - 60 * (seconds / 60)), u"00");
+    return hoursAndMinutes(start, end) + u':' + runtime::Format(Value(seconds % 60), u"00");
 }
 
 NotesTab::NotesTab(QWidget *parent, Dossier &dossier)
@@ -72,7 +72,7 @@ void NotesTab::setUpContent()
     whole->addLayout(buttons);
 }
 
-// A stored note cannot be changed, so the item for that is hidden; its handler is kept for the day it can.
+// A stored note cannot be changed, so the item for that is hidden. Its handler only shows the note's key.
 void NotesTab::setUpMenu()
 {
     QAction *edit = MnuMeetingNotesOptions->addItem(u"mnuEditNotes", u"Edit Note"_s);

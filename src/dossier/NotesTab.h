@@ -38,5 +38,5 @@ private:
 
 // "HH:MM:SS". Hours and minutes count the changes of the minute, the seconds are the remainder of the difference in
 // seconds: from 10:00:50 to 10:01:10 it is "00:01:20". Kept so because users compare it with what they noted before. An
-// end before the start gives a sign to each part.
+// end before the start gives a sign to each part that is not 0.
 QString durationText(const runtime::Date &start, const runtime::Date &end);

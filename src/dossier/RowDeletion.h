@@ -14,7 +14,7 @@ struct RowDeletion
     enum class Order { MessageThenRefresh, RefreshThenMessage };
 
     QStringView warning;
-    QStringView statement; // up to the key; the key and a closing bracket are added
+    QStringView statement; // up to the key; the key and a closing parenthesis are added
     QStringView confirmation;
     Order order;
 };

@@ -24,8 +24,8 @@ public:
 
     // Update leaves the city and the state as they are stored, whatever is shown.
     static Design member();
-    // The first row where a member has two; Update writes both, all columns but the state and the extension. Without a
-    // row it stores nothing and reports success all the same.
+    // Of two employer rows the first is shown, but Update writes both. It leaves the state and the extension as they
+    // are stored. Without a row it stores nothing and still reports success.
     static Design employer();
 
     desktop::CommandButton *butUpdate;

@@ -6,7 +6,8 @@
 
 #include "platform/desktop/Controls.h"
 
-// button: the sum of the buttons that are held; shift: of Shift, Ctrl and Alt; x and y in twips of the control itself.
+// button: the bits of the mouse buttons that are held; shift: those of Shift, Ctrl and Alt; x and y in twips of the
+// control itself.
 class CanvasLabel : public desktop::Label
 {
     Q_OBJECT

@@ -2,9 +2,10 @@
 // tables of the data store are made.
 //
 // What is drawn lives in memory until the layout is saved; closing the window drops it without a question. Loading, the
-// grid, the pages and the width end silently at the first failure. On a data file without fields of the designer's, two
-// actions end the program: moving the pointer over the canvas before a grid size is selected (error 13), and changing
-// the page (error 9).
+// grid, the pages and the width end silently at the first failure. On a data file without fields of the designer's,
+// these end the program: moving the pointer over the canvas before a grid size is selected (error 13); and, with error
+// 9, changing the page, saving several pages, whose stored rows are deleted by then, and generating a table that
+// exists.
 #pragma once
 
 #include "dynamicforms/DesignSurface.h"

@@ -122,7 +122,7 @@ void DesignSurface::showFields()
         Text2.Unload(index);
     }
     for (int k = 0; k < m_rows.upperBound(); ++k) {
-        const FieldRow row = m_rows[k]; // a copy: setting the text of a holder below writes into the rows
+        const FieldRow row = m_rows[k]; // a copy: the order's hidden box, set below, writes into the row
         if (m_tabs.SelectedCaption() != row.RowTabNam)
             continue;
         const int index = Label1.Count();
@@ -176,8 +176,9 @@ void DesignSurface::keepFields()
     });
 }
 
-// The names go into the row at RowCounter - 1, the places into the row at the control's index. These are different rows
-// whenever the other pages have fields or the grid has moved the counter; both numberings are the designer's rule.
+// The names go into the row at RowCounter - 1, the places into the row at the control's index. With a single page that
+// is the row behind; fields on other pages or the grid move the two further apart. Both numberings are the designer's
+// rule.
 void DesignSurface::addField(const QString &name, const QString &description)
 {
     FieldRow &row = m_rows.next();

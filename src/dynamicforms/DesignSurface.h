@@ -21,7 +21,7 @@
 // The nearest grid line, upwards from the middle.
 float snappedToGrid(float x, qint16 step);
 
-// A control of the canvas, by so many twips. Its place is kept as a single.
+// Moves a control by x and y twips. Its place is kept in single precision.
 void moveBy(desktop::Control &control, float x, float y);
 
 class DesignSurface
@@ -35,7 +35,7 @@ public:
     desktop::ControlArray<desktop::TextBox> Text2; // hidden: each holds the display order of its field
 
     bool ObjectsLocked = false;
-    // The box whose width the window edits.
+    // Called when a box gets the focus or is dragged: the window then edits its width.
     std::function<void(int index)> onBoxChosen;
     // How far an arrow key moves a field, in twips.
     std::function<double()> keyStep;
@@ -48,11 +48,12 @@ public:
     // Takes the places and the orders of the selected page into the rows. The first row of all is left out. Error 9
     // while there has never been a row.
     void keepFields();
-    // Puts a new field under the last one of the selected page. Error 9 for a counter that names no row.
+    // Puts a new field under the last one of the selected page. Error 9 when the counter is 0, or when the page has
+    // more controls than the counter says.
     void addField(const QString &name, const QString &description);
 
-    // The boxes that Shift-clicks or keys gathered take over what the first of them has. Error 9 before any was
-    // gathered, 340 for one that is gone. None is gathered afterwards.
+    // Gives the boxes that Shift-clicks or keys gathered the top, left or width of the one that was gathered first.
+    // Error 9 before any was gathered, 340 for one that is gone. None is gathered afterwards.
     enum class Alignment { Top, Left, Width };
     void align(Alignment alignment);
     // Label and box together.
@@ -78,7 +79,7 @@ private:
     std::set<int> gathered() const;
     std::vector<desktop::Control *> movedByKey(int index, bool labelsAlone) const;
     bool staysOnCanvas(const desktop::Control &control, double x, double y) const;
-    // Screen readers tell whether the box is gathered; nothing on the canvas does.
+    // Tells screen readers whether the box is gathered; nothing on the canvas shows it.
     void describe(int index);
 
     desktop::PictureBox &m_canvas;

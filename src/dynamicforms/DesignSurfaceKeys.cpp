@@ -1,5 +1,5 @@
-// What the keys do in a box of the canvas. What they leave behind is what the mouse could have: places in twips, and
-// the same gathered boxes.
+// What the keys do in a box of the canvas. They change only what the mouse can change: places in twips, and which boxes
+// are gathered.
 #include "dynamicforms/DesignSurface.h"
 
 #include <QKeyEvent>
@@ -54,7 +54,7 @@ void DesignSurface::pressKey(int index, QKeyEvent &event)
 }
 
 // Label and box keep their distance; with Alt the label moves alone. Nothing moves when one of them would leave the
-// canvas, where no key could bring the eye to it.
+// canvas, which does not scroll.
 void DesignSurface::moveByKey(int index, QPoint direction, Qt::KeyboardModifiers held)
 {
     if (ObjectsLocked)
@@ -94,7 +94,7 @@ bool DesignSurface::staysOnCanvas(const Control &control, double x, double y) co
     return stays(control.Left(), x, m_canvas.Width()) && stays(control.Top(), y, m_canvas.Height());
 }
 
-// Of the boxes that are loaded: the indexes outlive a change of the page.
+// Only boxes that are loaded: SelectedIndexes is kept when the page changes.
 std::set<int> DesignSurface::gathered() const
 {
     std::set<int> fields;

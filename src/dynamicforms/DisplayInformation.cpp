@@ -295,7 +295,8 @@ void DisplayInformation::deletePerson()
     Unload();
 }
 
-// The boxes stay unlocked, and the list of events comes back only with the window's next opening.
+// The boxes stay unlocked, and the list of events comes back only with the window's next opening: a second Edit, which
+// takes three tabs away, then takes a page of fields along.
 void DisplayInformation::saveEdited()
 {
     m_page.requireWhole();

@@ -39,10 +39,10 @@ public:
     const FieldRow &operator[](int position) const;
     // Makes RowCounter the upper bound; rows below it stay.
     void resize();
-    // Makes room for one more row, at RowCounter - 1, and gives it to be filled. It counts once countUp has been
-    // called.
+    // Makes room for one more row, at RowCounter - 1, and gives it to be filled. The
+    // caller then calls countUp, or the next call gives the same row.
     FieldRow &next();
-    // Error 6 behind 32767.
+    // Error 6 beyond 32,767.
     void countUp();
 
 private:

@@ -11,7 +11,7 @@ struct RecordList
     QStringView statementStart; // the person's key follows
     QStringView statementEnd;
     std::span<const ListedColumn> columns;
-    QStringView command; // what the window does at the press of cmdEdit
+    QStringView command; // the caption of cmdEdit while the list is shown
 };
 
 extern const RecordList attachmentsList;

@@ -1,6 +1,6 @@
 // Turns the pages of a form into tables of the data store: a table bears its page's caption, a column its field's name.
 //
-// A table that exists, whoever made it, is never dropped, emptied or altered: it gains the columns that it lacks. What
+// A table that exists, whoever made it, is never dropped or emptied: it gains the columns that it lacks. What
 // is refused on the way to a new table (a name that stands twice, a table that exists) is passed over without a word; a
 // failure at an existing table goes to the caller.
 #pragma once

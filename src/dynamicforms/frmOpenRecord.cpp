@@ -39,8 +39,6 @@ void frmOpenRecord::Form_Load()
 
 void frmOpenRecord::cmdOpen_Click()
 {
-    if (lstPerson->ListIndex() < 0) // Ctrl with a click or a blank takes the selection away
-        return;
     desktop::showNew<DisplayInformation>([this](DisplayInformation &record) {
         record.RecordId = runtime::toInteger(m_ids[lstPerson->ListIndex()]);
         record.WindowTitle = lstPerson->Text().simplified();

@@ -50,7 +50,7 @@ void Calendar::setColours()
     weekend.setForeground(red);
     for (const auto day : {Qt::Saturday, Qt::Sunday})
         setWeekdayTextFormat(day, weekend);
-    // Qt's own pictures on these buttons keep their size whatever that of the letters.
+    // Qt's own pictures on these buttons do not grow with the letters.
     QPalette onSelection = palette();
     onSelection.setColor(QPalette::ButtonText, onSelection.color(QPalette::HighlightedText));
     for (const auto &[name, arrow] :
@@ -89,6 +89,7 @@ void Calendar::setDay(int day)
 
 void Calendar::setYear(int year)
 {
+    // The first year of the calendar is not whole.
     m_year = within(year, minimumDate().year() + 1, maximumDate().year());
     showDay();
 }

@@ -18,7 +18,7 @@ public:
     void setMonth(int month);
     void setDay(int day);
     void setYear(int year);
-    // The day that is set; as text it has the regional short form.
+    // The day that is shown; as text it has the regional short form.
     runtime::Value Value() const;
 
 Q_SIGNALS:

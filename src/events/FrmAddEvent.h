@@ -1,8 +1,8 @@
 // A new event is keyed in, or a stored one is changed: EventId decides which when it is saved.
 //
-// A value with an apostrophe breaks the statement, and as any failure that ends the program. With an empty name or
-// description nothing is saved and nothing is said. The load puts defaults into the boxes: who fills them loads the
-// window first, by setting its caption or by Load().
+// A value with an apostrophe breaks the statement, which ends the program, as every failure here does. With an empty
+// name or description nothing is saved and nothing is said. The load puts defaults into the boxes: who fills them loads
+// the window first, by setting its caption or by Load().
 #pragma once
 
 #include "platform/desktop/Controls.h"
@@ -64,6 +64,6 @@ private:
     void openCalendar(const QString &caption, const desktop::TextBox *box);
     QString insertStatement() const;
     QString updateStatement() const;
-    // Nothing calls it. It would call popNotes of an object that this window no longer has, and so raises error 424.
+    // Nothing calls it. It would call popNotes of an object that this window does not have, and so raises error 424.
     static void refreshNotes();
 };

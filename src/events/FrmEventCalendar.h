@@ -1,8 +1,8 @@
 // A month calendar that puts the clicked day into a date box of an event's window and closes.
 //
 // Its opener gives it the event's window. When that is closed by the time of the click, the click loads it again: the
-// shared one keeps the day for its next opening. Of one that was deleted by its closing, or without any, the calendar
-// makes a new one, which is not shown and is deleted with the calendar.
+// shared one keeps the day for its next opening. When the window was deleted by its closing, or none was
+// given, the calendar makes one, which is never shown and is deleted with the calendar.
 #pragma once
 
 #include "events/Calendar.h"

@@ -18,5 +18,5 @@ struct Note
 };
 
 // Adds a row to MeetingInfo. `ownerColumn` says whose note it is: MemberId of a member, PersonalInformationId of a
-// person of the record window. Error -2147217887 for a date or a time that is none.
+// person of the record window. Error -2147217887 for a text that is no date or time.
 void storeNote(QStringView ownerColumn, const runtime::Value &owner, const Note &note);

@@ -33,5 +33,5 @@ QString hoursAndMinutes(const runtime::Date &start, const runtime::Date &end)
     const qint32 minutes = runtime::DateDiff(u"n", start, end);
     const qint32 hours = minutes / 60;
     const auto part = [](qint32 number) { return runtime::Format(Value(number), u"00"); };
-    return part(hours) + u':' + part(minutes - 60 * hours);
+    return part(hours) + u':' + part(minutes % 60);
 }

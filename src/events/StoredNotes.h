@@ -13,5 +13,6 @@ void takeStoredNote(frmMeeting &window, const desktop::ListItem &line, std::span
 // start or an end that is no date.
 runtime::Value durationCell(data::Recordset &note, QString (*text)(const runtime::Date &, const runtime::Date &));
 
-// "HH:MM" by the changes of the minute. An end before the start gives parts with a sign each.
+// "HH:MM" by the changes of the minute. An end before the start gives a sign to each part that is
+// not 0: "-01:-45", "00:-30".
 QString hoursAndMinutes(const runtime::Date &start, const runtime::Date &end);

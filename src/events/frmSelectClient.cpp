@@ -25,7 +25,7 @@ frmSelectClient::frmSelectClient()
 
 void frmSelectClient::Form_Load()
 {
-    // People of the record window, not members: such a note is listed there.
+    // Offers the people of the record window, not members: the record window lists these notes.
     m_clientIds = QList<runtime::Value>(1) + listActivePeople(*lstClient);
     lstClient->setSelected(0);
     setSize(4800, 5715);

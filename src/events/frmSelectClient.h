@@ -1,4 +1,4 @@
-// Asks whom a note is about that was begun for nobody, and stores it.
+// Asks for the person of a note that was begun without one, and stores the note.
 //
 // The window that the note was written in is closed by then and nothing is stored before OK: closing this one drops the
 // note without a warning. With nobody to choose from, the load raises error 380.

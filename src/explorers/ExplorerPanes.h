@@ -28,7 +28,8 @@ public:
 
     // Adds a group: with its count in bold, or in grey when it is empty. Error 35602 for a group that the tree holds.
     desktop::Node &addGroup(const QString &name, qint32 count);
-    // The count that the text of the selected node shows, empty for a grey node. Error 91 without a selected node.
+    // The count that the text of the selected node shows, empty for a grey node; in the tree of users the node's text
+    // without blanks and parentheses. Error 91 without a selected node.
     QString countText() const;
 
     void forEachSelected(const std::function<void(const desktop::ListItem &)> &act) const;

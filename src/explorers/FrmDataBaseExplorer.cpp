@@ -14,8 +14,8 @@ using runtime::Value;
 
 namespace {
 
-// The stray bracket of the last tag makes the provider refuse the sort on that column; the click swallows that. It
-// stays, because people know the list so.
+// The last tag ends with a stray bracket, so that the sort by it fails: only the headline changes, and choosing a group
+// before another sort ends the program. It stays, because people know the list so.
 constexpr std::array memberColumns{
     ListedColumn{.header = u"Member Id", .tag = u"MemberId", .column = u"MemberId"},
     ListedColumn{.header = u"Member Type", .tag = u"MemberType", .column = u"MemberType"},

@@ -1,8 +1,8 @@
 // The members by groups of their last names: a tree of the groups on the left, the members of the chosen one on the
 // right. The way into a member's dossier, and the place where members are deleted.
 //
-// A failure of the load, the tree, the list or the deletion by the toolbar ends the program. One of a column click, of
-// a key in the list or of the splitter is passed over without a word.
+// A failure of the load, the tree, the list, a double click or the deletion by the toolbar ends the program. One of a
+// column click or of the splitter is passed over without a word, and so is one of a key in the list, but for error 7.
 #pragma once
 
 #include "explorers/GroupedRows.h"

@@ -2,7 +2,8 @@
 // way to change an event, and the place where events are deleted.
 //
 // Unlike the member explorer it passes over failures of the tree and of the list: the tree then ends at the group that
-// failed, and the list stays as it was. Only the toolbar deletes, and the panes grow with the window.
+// failed; the list stays as it was when its statement is refused, and lacks the rows behind one that cannot be read.
+// Only the toolbar deletes, and the panes grow with the window.
 #pragma once
 
 #include "explorers/GroupedRows.h"

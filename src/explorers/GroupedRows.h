@@ -1,7 +1,8 @@
 // The rows of one table by groups: the tree of the groups with the number of rows in each, the list of the chosen
 // group's rows, which the store sorts, and the deletion of the selected ones.
 //
-// It works on the panes of its window. Every failure goes to the caller: the windows differ in what they hold back.
+// It works on the panes of its window. Every failure goes to the caller: each window decides which ones it
+// reports.
 #pragma once
 
 #include "explorers/ExplorerPanes.h"
@@ -16,9 +17,9 @@ struct GroupedTable
     QString groupColumn;                   // a row belongs to the group with whose name its value here begins
     QString plural;                        // "Members"
     QString information;                   // headline of the list
-    QString captionStart;                  // of the window that shows a group
+    QString captionStart;                  // beginning of the window's caption, up to the group's name
     QString listStart;                     // the list's query up to the group's name
-    QString listEnd;                       // and behind it
+    QString listEnd;                       // the rest of the query, behind the name
     std::span<const ListedColumn> columns; // the first is the key
     QString deleteQuestion;
     QString deleteStart; // the statement that deletes a row, up to the row's key
@@ -48,7 +49,7 @@ public:
     void loadList();
 
     // Asks, and after a Yes deletes the selected rows and runs `reload`. After a failure the connection stays open
-    // until the command sequence is destroyed with the handler.
+    // until the handler has ended.
     void deleteSelected(const std::function<void()> &reload);
 
 private:

@@ -18,7 +18,7 @@ struct AttachmentOwner
 // The version of a new row. It gets the rows of the same name, whoever owns them, the newest version first.
 using NextVersion = runtime::Value (*)(data::Recordset &versions);
 
-// A row of its own for the file. attachments: all rows, opened on the connection in order to append.
+// Adds a row for the file. attachments: all rows, opened on the connection in order to append.
 void addAttachment(data::Connection &connection, data::Recordset &attachments, const AttachmentOwner &owner,
                    const QString &path, const QString &name, NextVersion nextVersion);
 

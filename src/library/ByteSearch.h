@@ -20,8 +20,8 @@ public:
     ByteSearch(const ByteSet &first, const ByteSet &second);
 
     bool isFirst(char byte) const { return m_wanted.first[uchar(byte)]; }
-    // The first place from `from` on and before `to` where both bytes stand; `to` without one. from <= to <
-    // bytes.size()
+    // The first place from `from` on and before `to` where both bytes stand; `to` without one. Requires
+    // from <= to < bytes.size(): the byte at `to` is read.
     qsizetype next(QByteArrayView bytes, qsizetype from, qsizetype to) const;
 
     // The vector ways compare with single bytes: at most two for each set, as an upper and a lower case letter. A set

@@ -1,10 +1,10 @@
 // Files in and out of the table of attachments, and the search through what they hold.
 //
 // One instance is made for a search and dropped after it. Only cmdOpendb is called by a window; the windows store and
-// fetch files by StoredFile.h. UpLoadBinary and DownLoadDoc answer any failure with False and leave the file open and
-// the recordset where it was, a new row pending; the other two raise what fails. A scan reads each byte once and never
-// goes back: the byte that ends a failed comparison is not tried as the beginning of another, so "aab" is not found in
-// "aaab".
+// fetch files by StoredFile.h. UpLoadBinary and DownLoadDoc answer any failure with False. What the failed call had
+// opened or begun stays so: the file, and a new row that is pending. The other two raise what fails. A scan reads each
+// byte once and never goes back: the byte that ends a failed comparison is not tried as the beginning of another, so
+// "aab" is not found in "aaab".
 #pragma once
 
 #include "platform/data/Recordset.h"
@@ -22,9 +22,9 @@ public:
                       bool VersionControl, const QString &PersonalInformationId, const QString &FileDescription);
     // Writes the attachment of the current row to the path.
     bool DownLoadDoc(data::Recordset &rsDownLoad, const QString &FilePath);
-    // The rows of the statement whose attachment holds the text, in any case: DocumentId, DocumentName, Version. It
-    // stands on its last row. Every attachment is copied into the folder of scans, which has to be there, and deleted
-    // again. Error 6 for a text of more than 32,767 characters, and for more hits than that.
+    // The rows of the statement whose attachment holds the text, in any case: DocumentId, DocumentName, Version. The
+    // recordset stands on its last row. Every attachment is copied into the folder of scans, which has to be there, and
+    // deleted again. Error 6 for a text of more than 32,767 characters, and for more hits than that.
     data::Recordset cmdOpendb(const QString &SearchString, const QString &SelectStatement);
     // Always fails: error 424, since it takes the name from a list and the class has none, or what the data store
     // raises before that.
@@ -41,11 +41,11 @@ protected: // the steps of a scan, which tests run one by one
     void ScanAnyCase();
 
     qint32 FileLength = 0;
-    qint32 ReadPosition = 0;  // how many bytes have been read; the last one's place, counted from 1
+    qint32 ReadPosition = 0;  // how many bytes have been read; after a hit its place, from 0
     qint32 MatchPosition = 0; // from 0; -1 without a hit
     qint32 PatternIndex = 0;  // from 1
     qint16 PatternLength = 0;
-    qint16 PatternCursor = 0; // in step with PatternIndex
+    qint16 PatternCursor = 0; // PatternIndex, at most PatternLength
     qint16 Found = 0;         // -1 with a hit
     qint16 FileHandle = 0;
     QString Pattern;

@@ -75,7 +75,7 @@ void LibraryDocuments::upload()
     documents[u"DocuemntVersion"].setValue(nextVersion(versions));
     documents.Update();
     file.close();
-    documents.Update(); // as the handler has always done; nothing is pending, so this writes nothing
+    documents.Update(); // deliberate; nothing is pending, so this writes nothing
 }
 
 void LibraryDocuments::linkTo(const QString &person) const

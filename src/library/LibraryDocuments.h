@@ -1,6 +1,6 @@
 // The documents of a library's node: their list, a file's way in as a new version, and the links to persons.
 //
-// A document belongs to the place of its node in the tree. Every failure goes to the caller.
+// A document refers to its node by the node's place in the tree. Every failure goes to the caller.
 #pragma once
 
 #include "platform/desktop/CommonDialog.h"

@@ -1,4 +1,4 @@
-// The menu bar of a child window, inside the window: F10 opens its first menu. Alt is the frame's.
+// The menu bar of a child window, inside the window: F10 opens its first menu that can be used. Alt is the frame's.
 //
 // It owns its menus. A menu's given name is the objectName of its action; the menu itself is called NAME.menu.
 #pragma once

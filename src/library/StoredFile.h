@@ -1,5 +1,4 @@
-// How a whole file goes into a binary field and comes out of it: what every window that keeps files does in its own
-// handler.
+// How a whole file goes into a binary field and comes out of it, for every window that stores files.
 //
 // The stored value is the file and one zero byte, which is not removed when the file is written out again. Each file is
 // opened under the next free number; a failure before it is closed leaves it open and the number taken.

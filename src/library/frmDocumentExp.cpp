@@ -69,7 +69,7 @@ void frmDocumentExp::setUpLibraryOptions()
     addItem(MnuLibraryOption, u"mnuAddCatagory", u"Add Catagory"_s, &frmDocumentExp::addCatagory);
     addItem(MnuLibraryOption, u"MnuAddLibrary", u"Add Library"_s, &frmDocumentExp::addLibrary);
     MnuLibraryOption->addLine(u"mnuSep");
-    addItem(MnuLibraryOption, u"mnuEditNode", u"Edit"_s);
+    addItem(MnuLibraryOption, u"mnuEditNode", u"Edit"_s); // has no handler and is always enabled
     addItem(MnuLibraryOption, u"MnuDeleteNode", u"Delete"_s, &frmDocumentExp::deleteNode);
     addItem(MnuLibraryOption, u"MnuRenameNode", u"Rename"_s, &frmDocumentExp::MnuRenameNode_Click);
 }
@@ -83,7 +83,7 @@ void frmDocumentExp::setUpFileMenu()
     addItem(file, u"mnuClose", u"Close"_s, &frmDocumentExp::mnuClose_Click);
 }
 
-// "Rename Library", "Rename Catagory" and "Edit" are enabled and disabled like the others and have no handler.
+// "Rename Library" and "Rename Catagory" are enabled and disabled like the others and have no handler.
 void frmDocumentExp::setUpNodeMenus()
 {
     PopupMenu *library = m_menuBar->add(u"MnuLibrary"_s, u"Library"_s);

@@ -1,5 +1,5 @@
-// A list whose lines are rows of the data store, told by one table: what heads each column, what it shows and how wide
-// it is. A column is added by one line of that table, at any place.
+// The columns of a list whose lines are rows of the data store, described by one table: header, content and width. A
+// new column goes to the end: the key of a line and Keyed rely on the places of the first ones.
 #pragma once
 
 #include "platform/data/Recordset.h"

@@ -1,4 +1,4 @@
-// A field of a row shown in a control: a Null leaves the control as it was.
+// Shows a field of a row in a control. A Null leaves the control as it was.
 #pragma once
 
 #include "platform/data/Recordset.h"

@@ -33,7 +33,8 @@ constexpr double margin = 60;
 constexpr double besideBar = 30;
 constexpr float stepOfSplitter = 300;
 
-// Room for the headlines, the tree and the beginning of some lines.
+// The mouse makes the window no smaller than this, which has room for the headlines, the tree and the beginning of some
+// lines.
 constexpr double usefulWidth = 7500;
 constexpr double usefulHeight = 4500;
 

@@ -1,9 +1,7 @@
 #include "dossier/OpenDossier.h"
+#include "support/Drop.h"
 #include "support/Launches.h"
 #include "support/UnitedStates.h"
-
-#include <QDropEvent>
-#include <QMimeData>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -236,13 +234,8 @@ private:
             data.setUrls(urls);
         if (!text.isEmpty())
             data.setText(text);
-        QDragEnterEvent enter({5, 5}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(tab.lstAttachement->viewport(), &enter);
-        QVERIFY(enter.isAccepted());
-        QDropEvent event({5, 5}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(tab.lstAttachement->viewport(), &event);
-        QVERIFY(event.isAccepted());
-        QCOMPARE(event.dropAction(), Qt::CopyAction); // what is dropped stays where it came from
+        // What is dropped stays where it came from.
+        QCOMPARE(dropOn(*tab.lstAttachement->viewport(), data), Qt::CopyAction);
     }
 };
 

@@ -12,9 +12,7 @@
 #include "explorers/FrmEventExplorer.h"
 #include "explorers/OpenExplorer.h"
 #include "library/OpenLibrary.h"
-
-#include <QDropEvent>
-#include <QMimeData>
+#include "support/Drop.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -137,8 +135,7 @@ const QList<Action> &actions()
              QMimeData files;
              files.setUrls({QUrl::fromLocalFile(folder.path(u"a.txt"_s)), QUrl::fromLocalFile(folder.path(u"b.txt"_s)),
                             QUrl::fromLocalFile(folder.path(u"c.txt"_s))});
-             QDropEvent drop({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
-             QCoreApplication::sendEvent(dossier().Frame4->lstAttachement->viewport(), &drop);
+             dropOn(*dossier().Frame4->lstAttachement->viewport(), files);
          }},
         {"save an event",
          [](auto &) {

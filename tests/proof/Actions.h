@@ -1,4 +1,4 @@
-// What people do with the windows that writes to the data file, each as one function over the real windows.
+// What people do that writes to the data file or reads it whole: with the real windows, and with the data tool.
 #pragma once
 
 #include "support/DataStoreFolder.h"

@@ -23,8 +23,8 @@ bool isCounting = false;
 bool came = false;
 sqlite3_mem_methods memory;
 
-// What dladdr takes long to tell. It is in memory that all children share, so that what one has asked the next ones
-// know.
+// The answers of dladdr, which is slow. They are in memory that all children share, so that what one has asked the next
+// ones know.
 struct Known
 {
     const void *caller;
@@ -33,8 +33,8 @@ struct Known
 constexpr std::size_t mostCallers = 1 << 16;
 Known *callers = nullptr;
 
-// Qt's hash, whose code is compiled into ours, promises not to throw, so that memory that is refused to it ends the
-// process.
+// Allocations of Qt's hash do not count as ours, though its code is compiled into ours: it promises not to throw, so
+// that memory that is refused to it ends the process.
 bool isOurs(const void *caller)
 {
     if (caller < &__executable_start || caller >= &etext)

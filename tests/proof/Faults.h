@@ -12,12 +12,12 @@ namespace proof {
 
 enum class Fault {
     IoError,     // of a file of the store: open, read, write, sync, truncate, delete, lock
-    FullDisk,    // of a file of the store, where it would grow
+    FullDisk,    // of a file of the store: write, sync, and open where it is made
     Kill,        // SIGKILL before a call on a file of the store
     StoreMemory, // an allocation of SQLite
     OwnMemory    // a new in our own code; what Qt and the standard library allocate by themselves does not fail
 };
-// In the release build Qt's functions are put into ours, and cannot be told from them any more.
+// In the release build Qt's functions are inlined into ours, and cannot be told from them any more.
 #ifdef NDEBUG
 inline constexpr std::array allFaults{Fault::IoError, Fault::FullDisk, Fault::Kill, Fault::StoreMemory};
 #else
@@ -42,9 +42,9 @@ qint64 callsSoFar(Fault fault);
 // Counts a call that such a fault can meet. True when it is to fail.
 bool isDue(Fault fault);
 
-// From here on it is known what a loss of power would leave of the store's files: what was synced; and of what was
-// written since, each sector of 512 bytes or not, in any order, as of new lengths, new names and deleted names.
-// Committed is called when a journal is gone.
+// Records from here on what a loss of power would leave of the store's files: all that was synced, and of what was
+// written since any part of its sectors of 512 bytes, of its new lengths, new names and deleted names. `committed` is
+// called when a journal is gone.
 void watchDisk(std::function<void()> beforeSync, std::function<void()> committed);
 // Puts the files as they would be then into a folder; without chance nothing that was not synced is left.
 void writeAfterLoss(const QString &folder, std::mt19937 *chance);

@@ -86,7 +86,7 @@ void note(const QString &path, Change change)
         names[path].now->pending << std::move(change);
 }
 
-// SQLite gives the room for this and for the real file behind it.
+// SQLite allocates szOsFile bytes: this, and right behind it the real file.
 struct Opened
 {
     sqlite3_file base;
@@ -152,7 +152,7 @@ int syncFile(sqlite3_file *file, int flags)
     return pass(&sqlite3_io_methods::xSync, file, flags);
 }
 
-// What does not fail; and what fails with one code.
+// Methods that never fail, and methods that fail with one fixed code.
 template <auto method> constexpr auto through = [](auto *file, auto... given) { return pass(method, file, given...); };
 template <auto method, int code>
 constexpr auto failing = [](auto *file, auto... given) { return fails() ? code : pass(method, file, given...); };

@@ -48,7 +48,7 @@ public:
     // Killed after so many microseconds, unless that is below 0.
     Ending run(Plan plan, qint64 killAfter = -1);
     // Without a failure. Keeps the file as it is after each commit, and what a loss of power would leave wherever
-    // something is synced or told: nothing of what was not synced, and as often as parts says some of it, by chance.
+    // something is synced or told: once nothing of what was not synced, and `parts` times a random part of it.
     Ending watch(int parts, quint32 seed);
 
     QString file() const { return m_folder.file(); }
@@ -74,9 +74,10 @@ public:
     // By Trial::watch.
     Expectation(const Action &action, int parts, quint32 seed);
 
-    // A sound file always, in which everything is done that the texts tell. After a kill or a loss of power its rows
-    // are those after one of the commits. After a failure each row stands in the file at some time, and those which
-    // always do are there: a step that failed in silence is missing in what comes later.
+    // The file passes integrity_check, and what each message reported as done is done in it. AsAfterACommit, for a kill
+    // or a loss of power: its rows are exactly those after one of the commits. RowByRow, for a failed call: no row is
+    // there that an undisturbed run never has, and every row that it always has; a step that failed in silence is
+    // missing in what comes later.
     enum class Rule { AsAfterACommit, RowByRow };
     QStringList faultsOfFile(const QString &path, const QList<Ending::Text> &texts, Rule rule) const;
     QStringList faultsAfter(const Trial &trial, const Ending &ending) const;

@@ -38,6 +38,7 @@ private Q_SLOTS:
         QVERIFY2(expectation.undisturbed().exitCode == 0, qPrintable(expectation.undisturbed().asText()));
         QList<Plan> plans;
         for (const Fault fault : allFaults) {
+            QVERIFY(fault == Fault::OwnMemory || expectation.undisturbed().calls.value(int(fault)) > 0);
             plans << Plan{fault, 0, false};
             if (fault != Fault::Kill)
                 plans << Plan{fault, 0, true};
@@ -117,10 +118,13 @@ private:
             const bool isKilled = plan.fault == Fault::Kill && ending.exitCode == -SIGKILL;
             const QString when =
                 u"fault %1 %2 %3"_s.arg(int(plan.fault)).arg(plan.lasts ? u"from" : u"at").arg(plan.at);
-            if (isKilled)
+            if (isKilled) {
                 findings += faultsOfFile(expectation, trial.file(), ending.texts, when);
-            else if (const QStringList faults = expectation.faultsAfter(trial, ending); ++m_trials, !faults.isEmpty())
-                findings << when + u": "_s + faults.join(u"; "_s);
+            } else {
+                ++m_trials;
+                if (const QStringList faults = expectation.faultsAfter(trial, ending); !faults.isEmpty())
+                    findings << when + u": "_s + faults.join(u"; "_s);
+            }
             if ((!ending.faultCame && ending.exitCode >= 0) || (step > 1 && plan.at + step > calls))
                 return findings;
         }

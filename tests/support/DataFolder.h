@@ -41,8 +41,8 @@ public:
     enum class Content { Sample, Empty, None };
     explicit DataFolder(Content content = Content::Sample)
     {
-        if (content != Content::None)
-            QFile::copy(original(content), file());
+        if (content != Content::None && !QFile::copy(original(content), file()))
+            qFatal("the data file cannot be made");
     }
 
     QString path(const QString &name) const { return m_folder.filePath(name); }

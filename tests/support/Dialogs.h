@@ -1,4 +1,5 @@
-// Answers the message boxes that a test makes the program show, and catches what would have been reported as unhandled.
+// Answers the message boxes and file dialogs that a test makes the program show, and catches what would have been
+// reported as unhandled.
 #pragma once
 
 #include "platform/desktop/ErrorReport.h"
@@ -67,7 +68,10 @@ private:
             box->done(QMessageBox::Cancel);
             return;
         }
-        QTest::mouseClick(box->button(m_plan.takeFirst()), Qt::LeftButton);
+        QAbstractButton *planned = box->button(m_plan.takeFirst());
+        if (!planned)
+            qFatal("this message box has no such button: %s", qPrintable(box->text()));
+        QTest::mouseClick(planned, Qt::LeftButton);
     }
 
     QList<QMessageBox::StandardButton> m_plan;
@@ -142,8 +146,8 @@ private:
     QList<runtime::RuntimeError> m_errors;
 };
 
-// The one child of that name; a missing one ends the program with the names that there are. By a cast, for Qt finds
-// only classes with a meta object of their own.
+// The one child of that name; a missing one ends the program with the names that there are. By a cast,
+// since findChild() cannot tell classes without Q_OBJECT apart.
 template <class Widget = QWidget> Widget *child(const QObject &parent, const char *name)
 {
     for (QObject *each : parent.findChildren<QObject *>(QString::fromLatin1(name)))

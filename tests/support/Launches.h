@@ -1,5 +1,5 @@
-// Takes the place of whatever would open a file, and keeps the paths. A test names this header among its sources, for
-// its slot is found by name.
+// Takes the place of whatever would open a file, and keeps the paths. A test names this header among its sources,
+// because moc has to read it.
 #pragma once
 
 #include <QDesktopServices>

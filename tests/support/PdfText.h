@@ -15,8 +15,8 @@ inline QString pdfText(const QString &file)
     return QString::fromUtf8(reader.readAllStandardOutput()).normalized(QString::NormalizationForm_KC);
 }
 
-// The system's printers are out of reach for this process: what looks for the print server finds none. To be called
-// before anything is printed.
+// Hides the system's printers from this process: what looks for the print server finds none. Call it before anything is
+// printed.
 inline void hidePrinters()
 {
     qputenv("CUPS_SERVER", "/dev/null/no-server");

@@ -1,4 +1,4 @@
-// The search through a file's bytes with its steps in reach, and the rule that it follows.
+// The search through a file's bytes with its steps made public, and a slow scan byte by byte to compare it with.
 #pragma once
 
 #include "library/ClsBinaryFunctions.h"
@@ -22,10 +22,10 @@ public:
 
     bool isExact() const { return Check1Value == 1; }
 
-    // How a scan ends: the bytes read, the place of the hit or -1, the character read last.
+    // How a scan ends: the bytes read, or with a hit its place; the place of the hit or -1; the character read last.
     using Outcome = std::tuple<qint32, qint32, char16_t>;
-    // One byte at a time: the byte that ends an attempt is gone, and no attempt begins where the text would reach the
-    // last byte.
+    // One byte at a time: the byte that ends a failed attempt is not tried again, and no attempt begins where the text
+    // would reach the last byte.
     Outcome byTheRule(QByteArrayView file, qint32 read = 0) const
     {
         const runtime::CodePage &characters =

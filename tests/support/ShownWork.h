@@ -29,7 +29,7 @@ public:
     desktop::MdiForm frame{u"Frame"};
 
     // What has been said since the last call while the wait pointer stood, with the digits 0 to 9 in every region, and
-    // whether any of it stands still.
+    // "still shown" when the pointer or the text has not gone.
     QStringList takeTexts()
     {
         QStringList texts = std::exchange(m_texts, {});

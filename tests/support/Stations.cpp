@@ -129,8 +129,7 @@ std::span<const Station> stations()
 
 void closeStations()
 {
-    delete &MDIBaseForm::frame();
-    delete &frmLogin::shared();
+    delete desktop::MdiForm::frame();
     QList<QPointer<QWidget>> windows;
     for (QWidget *window : QApplication::topLevelWidgets())
         windows << window;

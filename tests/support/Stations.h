@@ -1,5 +1,5 @@
-// Every window of the program in each of its states, as a test opens it: over the sample data file, with the main
-// window on the screen.
+// Every window of the program but the splash, in each of its states. The caller has made the sample data file the
+// program's own and shown the main window.
 #pragma once
 
 #include <QString>

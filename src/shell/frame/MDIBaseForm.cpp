@@ -63,6 +63,7 @@ MDIBaseForm::MDIBaseForm()
     openOnScreen();
 }
 
+// The border and title bar that the desktop will add are not known yet: those of a child window stand in for them.
 void MDIBaseForm::openOnScreen()
 {
     const int border = style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
@@ -80,7 +81,7 @@ QSize MDIBaseForm::sizeHint() const
 
 MDIBaseForm &MDIBaseForm::frame()
 {
-    // Owned by nobody: when it closes, the process ends.
+    // Nobody deletes it, since the process ends when it closes.
     static QPointer<MDIBaseForm> window;
     if (!window)
         window = new MDIBaseForm;
@@ -142,6 +143,7 @@ void MDIBaseForm::Form_Resize()
         m_session.ResizeReady = true;
         return;
     }
+    // A division that fails leaves its ratio at 0. The two bars, the only controls of the frame, refuse every scaling.
     float WidthRatio = 0;
     float HeightRatio = 0;
     runtime::everyStep(

@@ -73,7 +73,7 @@ private:
     void setUpToolsMenu();
     void setUpHelpMenu();
     void setUpHelpKey();
-    // As large as its hint, as far as the screen allows, and in its middle.
+    // Takes the size of sizeHint(), but no more than the screen has, in the middle of the screen.
     void openOnScreen();
 
     using Handler = void (MDIBaseForm::*)();

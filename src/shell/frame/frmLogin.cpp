@@ -42,7 +42,7 @@ frmLogin::frmLogin()
 
 frmLogin &frmLogin::shared()
 {
-    // Owned by nobody: it outlives every other window and the process takes it along.
+    // Nobody deletes it: it lives until the process ends.
     static QPointer<frmLogin> window;
     if (!window)
         window = new frmLogin;

@@ -1,5 +1,5 @@
-// The window with which the process starts: it shows the splash, opens the main window and goes. It also holds a whole
-// login against the users' table, for when it stays on the screen.
+// The window with which the process starts: it shows the splash, opens the main window and closes itself. It can also
+// check a user's name and password, for an edition that keeps it on the screen.
 #pragma once
 
 #include "platform/desktop/ControlArray.h"

@@ -14,12 +14,12 @@ struct Session
     QString UMiddleName;
     QString ULastName;
     QString UserId;
-    qint16 UserLevel = 0; // 99 and above sees the explorers as the administrator
+    qint16 UserLevel = 0; // from 99 on, a member explorer that the menu opens shows the users
     QString ActiveRecordId;
 
     // A first resize has gone by, so that later ones may scale.
     bool ResizeReady = false;
-    // Scaling also moves the window itself; nothing sets it.
+    // While it is set, scaling would also move the main window. Nothing sets it.
     bool ResizePending = false;
 
     // Null, and what equals the number 1, become one blank: a middle name is usually not there.

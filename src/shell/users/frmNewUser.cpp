@@ -1,6 +1,7 @@
 #include "shell/users/frmNewUser.h"
 
 #include "parts/FieldGrid.h"
+#include "parts/RowTexts.h"
 #include "platform/desktop/MsgBox.h"
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/Random.h"
@@ -35,15 +36,6 @@ QString randomPassword(const QString &lastName)
         password.insert(behind, lastName[from - 1]);
     }
     return password;
-}
-
-// Null leaves the boxes as they are.
-void fill(std::initializer_list<TextBox *> boxes, const runtime::Value &value)
-{
-    if (value.isNull())
-        return;
-    for (TextBox *box : boxes)
-        box->setText(runtime::toText(value));
 }
 
 } // namespace
@@ -130,12 +122,9 @@ void frmNewUser::showStoredUser()
     const auto name = [&user](QStringView column) { return runtime::joinedText(user[column].Value()); };
     setCaption(u"User Information for "_s + name(u"UserFirstName") + u" "_s + name(u"UserMiddleName") + u" "_s +
                name(u"UserLastName"));
-    fill({txtFirstName}, user[u"UserFirstName"].Value());
-    fill({txtMiddleName}, user[u"UserMiddleName"].Value());
-    fill({txtLastName}, user[u"UserLastName"].Value());
-    fill({txtUserName}, user[u"UserName"].Value());
-    fill({txtPassword, txtPasswordRetypes}, user[u"UserPassword"].Value());
-    fill({txtEMailAddress}, user[u"UserEMailAddress"].Value());
+    for (TextBox *box : {txtFirstName, txtMiddleName, txtLastName, txtUserName, txtPassword, txtEMailAddress})
+        putText(*box, user[box->Tag]);
+    putText(*txtPasswordRetypes, user[u"UserPassword"]);
     for (QWidget *widget :
          std::initializer_list<QWidget *>{CmdUserName, CmdPassword, lblPasswordRedtyped, txtPasswordRetypes})
         widget->hide();
@@ -196,11 +185,8 @@ void frmNewUser::addUser()
     CLsDataBaseConnection connection;
     data::Recordset users = connection.CreateRecordset(u"select * from [Security]"_s);
     users.AddNew();
-    for (QLineEdit *each : findChildren<QLineEdit *>()) {
-        const auto *box = dynamic_cast<TextBox *>(each);
-        if (box && !box->Tag.isEmpty())
-            users[box->Tag].setValue(box->text());
-    }
+    for (const TextBox *box : {txtFirstName, txtMiddleName, txtLastName, txtUserName, txtPassword, txtEMailAddress})
+        users[box->Tag].setValue(box->text());
     users.UpdateBatch();
     users.Close();
     connection.DbClose();

@@ -106,7 +106,7 @@ void frmOptions::Form_Load()
     centreOnScreen();
 }
 
-// The pages take the size of the window; their left edges are set by the tabs.
+// The pages take the place that the layout keeps free for them; a tab sets their left edges.
 void frmOptions::resizeEvent(QResizeEvent *event)
 {
     Form::resizeEvent(event);

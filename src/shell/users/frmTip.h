@@ -1,7 +1,7 @@
 // A tip from the file TIPOFDAY.TXT, and the check box with which the user says whether tips are wanted at start-up.
 //
 // With the user's setting at 0 the window closes while it loads and is never seen; a setting that is no number fails
-// the load with error 13. No window opens this one: it takes effect when a start-up step shows it.
+// the load with error 13. No window opens this one, and the start does not either.
 #pragma once
 
 #include "platform/desktop/Controls.h"

@@ -1,5 +1,6 @@
 // What the fuzz targets share. A target feeds one input after another to a piece of the program and asks what must hold
-// for each; libFuzzer grows the inputs by the branches that they reach. Built by the preset "fuzz", run by ./run.
+// for each; libFuzzer grows the inputs by the branches that they reach. Built by the preset "fuzz", run by
+// tests/proof/fuzz/run.
 #pragma once
 
 #include <QFile>

@@ -1,5 +1,5 @@
 // Any text as a connection string, and strings of a known meaning: the file that a string names is opened, whatever
-// stands round the name, and no other one; a string that names none is refused with an error of the provider.
+// stands round the name, and no other one; any other text opens a file or is refused with an error of the provider.
 #include "platform/data/Recordset.h"
 #include "platform/data/engine/Database.h"
 #include "platform/runtime/ProviderError.h"
@@ -11,7 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Their marks are those by which the strings are read.
+// With the characters that have a meaning in a connection string.
 const QStringList names{u"plain"_s, u"a;b"_s, u"a=b;Data Source=c"_s, u"it's"_s, u"\"quoted\""_s, u"'"_s, u"a;'\";b"_s};
 
 const QTemporaryDir &filesOfThoseNames()

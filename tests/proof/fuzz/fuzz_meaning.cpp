@@ -1,6 +1,6 @@
-// Statements of a known meaning: each is made twice, in the dialect with as few brackets as its precedence needs, and
-// by hand in SQLite's SQL with all of them. Both find the same rows. Texts are ASCII, where the store's order is that
-// of their small letters.
+// Statements of a known meaning: each is made twice, in the dialect with as few parentheses as its precedence needs,
+// and by hand in SQLite's SQL with all of them. Both find the same rows. Texts are ASCII, which the store compares by
+// their lower-case form.
 #include "platform/data/engine/RowSource.h"
 #include "platform/data/engine/StatementError.h"
 #include "proof/fuzz/Fuzz.h"
@@ -167,7 +167,7 @@ Said condition(Input &input, const char *prefix, int depth)
     }
 }
 
-// The parts of one text and another, in turn, made from one list: %1 and %2 are the dialect's and the hand's.
+// One statement in both forms: a plain SELECT, one with TOP or with GROUP BY, or a join.
 Said statement(Input &input)
 {
     const char *prefix = "";

@@ -1,5 +1,5 @@
-// Any value in any region: what is shown reads back to the same. Any text: read by each conversion or refused with a
-// number of its own, and what it was read as, once shown, reads back to the same.
+// Any value in any region: what is shown reads back to the same. Any text: read by each conversion or refused with
+// error 6 or 13, and what it was read as, once shown, reads back to the same.
 #include "platform/runtime/Conversion.h"
 #include "platform/runtime/Format.h"
 #include "platform/runtime/Regional.h"

@@ -33,8 +33,8 @@ struct Ending
     QString fault;
 };
 
-// The child ends by a signal unless it comes here again before it has used so many seconds of the processor, or a
-// minute has passed. The sanitizers take a multiple of the time.
+// Ends the child by a signal after so many seconds of the processor, or after a minute, unless it is called again
+// before. The sanitizers take a multiple of the time.
 inline void hangAfter(int seconds)
 {
 #ifdef __SANITIZE_ADDRESS__

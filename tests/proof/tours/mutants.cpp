@@ -128,7 +128,7 @@ private:
     std::mt19937 m_random;
 };
 
-// Presses Escape on what waits for a person.
+// Closes each dialog that waits for an answer.
 void answerDialogs(QTimer &timer)
 {
     timer.callOnTimeout([] {
@@ -138,7 +138,7 @@ void answerDialogs(QTimer &timer)
     timer.start(0);
 }
 
-// The exit code. Each window stands in a frame of its own, for a report ends the program.
+// The exit code. Each window gets a new frame, since the program would have ended by a report.
 int openEveryWindow(std::FILE *told)
 {
     bool foreign = false;

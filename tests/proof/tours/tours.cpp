@@ -2,23 +2,22 @@
 //
 //   tours SEED ACTS
 //
-// A tour ends when the program ends: by its menu, or by the report of a failure, which is counted; then the next one
-// starts over a fresh folder, with the next seed. `tours SEED 1` repeats the tour of a seed. A finding is a signal,
-// five seconds of work without an end, or a report that nothing explains.
+// A tour ends after 400 acts or when the program ends: by its menu, or by the report of a failure, which is counted.
+// Then the next one starts over a fresh folder, with the next seed. `tours SEED 1` repeats the tour of a seed. A
+// finding is a signal, five seconds of work without an end, or a report that nothing explains.
 #include "Child.h"
 #include "platform/desktop/Printer.h"
 #include "platform/desktop/Style.h"
+#include "support/Drop.h"
 #include "support/Stations.h"
 
 #include <QAbstractButton>
 #include <QDesktopServices>
-#include <QDropEvent>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMap>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QMimeData>
 #include <QTest>
 
 #include <random>
@@ -30,9 +29,9 @@ namespace {
 constexpr int longestTour = 400; // acts
 
 // The failures to which random acts may lead: a value outside of its type (6), of another type (13), no line chosen
-// (91), a Null (94), no file chosen for an upload (424), an action that the row's state forbids (3021, 3219), a node
-// loaded over its old one (35602), an amount too large (...833), a text longer than its column (...887), an apostrophe
-// in a statement (...900).
+// (91), a Null (94), no file chosen for an upload (424), an action that the row's state forbids (3021, 3219), a key
+// that its tree has already (35602), an amount too large (...833), a text longer than its column (...887), an
+// apostrophe in a statement (...900).
 constexpr std::array explained{6, 13, 91, 94, 424, 3021, 3219, 35602, -2147217833, -2147217887, -2147217900};
 
 class Tour
@@ -174,11 +173,7 @@ private:
         QMimeData files;
         files.setUrls({QUrl::fromLocalFile(m_folder + u'/' +
                                            oneOf(QStringList{u"a.txt"_s, u"it's.txt"_s, u"none.txt"_s, u"temp"_s}))});
-        QDragEnterEvent enter(at, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
-        if (QApplication::sendEvent(&target, &enter) && enter.isAccepted()) {
-            QDropEvent drop(at, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
-            QApplication::sendEvent(&target, &drop);
-        }
+        dropOn(target, files, at);
     }
 
     std::mt19937 m_random;
