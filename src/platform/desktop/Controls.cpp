@@ -346,9 +346,12 @@ void ListBox::setOneLine()
     setLines(1);
 }
 
-// Qt lets Ctrl with a click take the selection away; here what has been picked can only be exchanged.
+// Qt lets a click beside the items, and Ctrl with a click, take the selection away; here what has been picked can only
+// be exchanged.
 QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex &index, const QEvent *event) const
 {
+    if (!index.isValid())
+        return QItemSelectionModel::NoUpdate;
     const QItemSelectionModel::SelectionFlags command = LineView::selectionCommand(index, event);
     return command.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::NoUpdate : command;
 }

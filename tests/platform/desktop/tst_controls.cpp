@@ -316,6 +316,11 @@ private Q_SLOTS:
             QCOMPARE(errorNumberOf([&] { list.setSelected(outside); }), 380);
         list.setSelected(1);
         QCOMPARE(list.ListIndex(), 1);
+        list.resize(200, 200);
+        list.show();
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                          list.viewport()->rect().bottomLeft()); // beside the items
+        QCOMPARE(list.ListIndex(), 1);
         list.setOneLine();
         list.show();
         QTest::keyClicks(&list, u"te"_s);
