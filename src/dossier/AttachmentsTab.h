@@ -1,8 +1,8 @@
 // The member's files, kept in the data store. Every upload is a row of its own with the next version of the file's
 // name; the numbering of a name is common to all members. An older version stays until it is deleted by itself.
 //
-// A failure of adding, listing or viewing ends the program. One of a drop gives a message, any of a
-// deletion says "Nothing selected", and one of saving says nothing.
+// A failure of adding, listing or viewing ends the program. One of a drop gives a message, any of a deletion
+// says "Nothing selected", and one of saving says nothing.
 #pragma once
 
 #include "dossier/Dossier.h"

@@ -241,8 +241,8 @@ void DatabaseGenerator::Picture1_Paint()
         DrawGrid();
 }
 
-// The nearest grid line is computed and not used: no control is ever snapped to the grid. Its only visible
-// effect is error 13 while no grid size is selected.
+// The nearest grid line is computed and not used: no control is ever snapped to the grid. Its only visible effect is
+// error 13 while no grid size is selected.
 void DatabaseGenerator::Picture1_MouseMove(float x)
 {
     std::ignore = snappedToGrid(x, gridStep());

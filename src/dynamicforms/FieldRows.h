@@ -39,8 +39,8 @@ public:
     const FieldRow &operator[](int position) const;
     // Makes RowCounter the upper bound; rows below it stay.
     void resize();
-    // Makes room for one more row, at RowCounter - 1, and gives it to be filled. The
-    // caller then calls countUp, or the next call gives the same row.
+    // Makes room for one more row, at RowCounter - 1, and gives it to be filled. The caller then calls
+    // countUp, or the next call gives the same row.
     FieldRow &next();
     // Error 6 beyond 32,767.
     void countUp();

@@ -64,7 +64,8 @@ void Label::mouseReleaseEvent(QMouseEvent *event)
 
 void Label::keyPressEvent(QKeyEvent *event)
 {
-    if (!m_clickable || (event->key() != Qt::Key_Space && keyCode(*event) != vbKeyReturn))
+    const bool isClick = m_clickable && (event->key() == Qt::Key_Space || keyCode(*event) == vbKeyReturn);
+    if (!isClick)
         QLabel::keyPressEvent(event);
     else if (!event->isAutoRepeat())
         Q_EMIT Click();

@@ -1,8 +1,8 @@
 // A translated SELECT over an open file: what columns it has, how its rows are read, counted, changed and found again.
 //
-// The constructor prepares the statement, which checks its text; it runs when rows are asked for. Where the
-// rows can be updated, the value of a binary column is not read with them, nor is its length: readBinary() and
-// binarySize() read them. So rows whose other columns an index holds are read from the index alone.
+// The constructor prepares the statement, which checks its text; it runs when rows are asked for. Where the rows can be
+// updated, the value of a binary column is not read with them, nor is its length: readBinary() and binarySize() read
+// them. So rows whose other columns an index holds are read from the index alone.
 #pragma once
 
 #include "platform/data/engine/ColumnType.h"
